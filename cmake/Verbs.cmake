@@ -1,0 +1,50 @@
+# One verb per kind of target, so that every CMakeLists.txt is a list.
+
+# audiosetting_plugin_begin(): starts the plug-in's objects, which audiosetting_part() then fills.
+function(audiosetting_plugin_begin)
+    add_library(audiosetting_objects OBJECT)
+    set_target_properties(audiosetting_objects PROPERTIES
+        CXX_STANDARD 11 AUTOMOC ON AUTOUIC ON AUTOUIC_SEARCH_PATHS ${CMAKE_SOURCE_DIR}/forms
+        CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    target_include_directories(audiosetting_objects PUBLIC ${CMAKE_SOURCE_DIR})
+    target_link_libraries(audiosetting_objects PUBLIC headunit_contract Qt5::Core Qt5::Gui Qt5::Widgets)
+endfunction()
+
+# audiosetting_part(FILE...): adds a folder's files to the plug-in.
+function(audiosetting_part)
+    list(TRANSFORM ARGN PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE files)
+    target_sources(audiosetting_objects PRIVATE ${files})
+endfunction()
+
+# audiosetting_plugin_end(): the shared library that ships, and the same objects as a static one for the tests.
+function(audiosetting_plugin_end)
+    add_library(audiosetting MODULE)
+    target_link_libraries(audiosetting PRIVATE audiosetting_objects headunit_libraries)
+    set_target_properties(audiosetting PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib/plugins)
+    add_library(audiosetting_static STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:audiosetting_objects>)
+    target_link_libraries(audiosetting_static
+        PUBLIC headunit_contract Qt5::Core Qt5::Gui Qt5::Widgets)
+    target_include_directories(audiosetting_static PUBLIC
+        ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/audiosetting_objects_autogen/include)
+endfunction()
+
+# headunit_library(NAME SOURCES FILE... [LINK LIBRARY...]): a library of the reference head unit.
+function(headunit_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR})
+    target_link_libraries(${name} PUBLIC headunit_contract Qt5::Core ${ARG_LINK})
+endfunction()
+
+# audiosetting_test(NAME SOURCES FILE... [LINK LIBRARY...] [LABELS LABEL...]): a QTest program, run by ctest.
+function(audiosetting_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LABELS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt5::Test)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ARG_LABELS}" ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1")
+endfunction()

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+
+namespace headunit {
+
+/// A crossover filter as the microcontroller counts it.
+struct CrossoverFilter {
+    int freq = 0;    ///< index into the channel's frequency table; 0 is off
+    int slope = 1;   ///< 1 to 3: 6, 12, 18 dB per octave
+    int level = 12;  ///< 0 to 12: -12 to 0 dB
+
+    bool operator==(const CrossoverFilter &o) const { return freq == o.freq && slope == o.slope && level == o.level; }
+};
+
+/// Everything that shapes the sound, as one plain value: what the services were told, within its ranges.
+///
+/// The services own the one instance; whoever makes the sound is handed a copy.
+struct SoundState {
+    static constexpr int bands = 13;
+    static constexpr int channels = 8;
+    static constexpr int sources = 7;
+    static constexpr int outputs = 6;  ///< front left, front right, rear left, rear right, subwoofer left and right
+
+    int eqType = 0;                            ///< curve in force; 16 and above the custom one
+    std::array<int, bands> customEq{};         ///< bands of the live custom curve, as sent: -12 to 24
+    int balance = 0;                           ///< -15 (left) to 15 (right)
+    int fader = 0;                             ///< -15 (front) to 15 (rear)
+    std::array<int, channels> channelLevel{};  ///< 0 to 40
+    std::array<int, sources> sourceGain{};     ///< 0 to 20, 10 is neutral
+    int activeSource = 0;
+    bool loudness = false;
+    bool defeat = false;
+    int subwooferLevel = 0;  ///< 0 (silent, or switched off) to 15
+    int subwooferPhase = 0;  ///< 0: 0 degrees, 1: 180 degrees
+    CrossoverFilter front;
+    CrossoverFilter rear;
+    CrossoverFilter subwoofer;
+    std::array<int, outputs> delay{};  ///< 0 to 99, in 0.1 ms
+};
+
+}  // namespace headunit

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platformapi.h"
+
+#include <QObject>
+#include <QVariant>
+
+/// The unit's store of audio settings: typed values under text keys, kept over restarts and power cuts.
+///
+/// One object per process, used from the GUI thread. Writing raises no signal: whoever changes a key on behalf
+/// of others raises mem::SettingsCache::SettingsCacheSig itself.
+class PLATFORM_API AudioSettingsUtils : public QObject {
+    Q_OBJECT
+public:
+    static AudioSettingsUtils *instance();
+
+    /// The stored value, or \a defaultValue where the key was never written or holds no number.
+    int getValue(const QString &key, int defaultValue);
+    /// The stored value, or \a defaultValue where the key was never written or holds no truth value.
+    bool getValue(const QString &key, bool defaultValue);
+    /// Stores \a value. \a defaultValue is the default that the key's readers use; \a save is always true.
+    /// The new value is read back at once; it is on the disk a moment later, without waiting for it here.
+    void setValue(const QString &key, const QVariant &defaultValue, const QVariant &value, bool save);
+
+    /// Restores the factory state of all audio settings from the file at \a path, a path of the unit.
+    void clear(const QString &path);
+
+    /// Resets the crossover keys to flat, updates the sound, then emits signal_flatCrossover().
+    void flatCrossover();
+    /// Resets the six delays to zero, updates the sound, then emits signal_flatTimeDelay().
+    void flatTimeDelay();
+
+    /// Applies the stored Defeat state ("ADV_AUDIO_SETTINGS") to the sound.
+    void updateDefeatSetup();
+
+Q_SIGNALS:
+    void signal_flatCrossover();
+    void signal_flatTimeDelay();
+
+private:
+    AudioSettingsUtils();
+    ~AudioSettingsUtils() override;
+    struct Private;
+    Private *const d;
+};
