@@ -1,0 +1,83 @@
+# Pictures: SVG sources, rendered at build time, embedded in a target as a Qt resource.
+
+find_program(PYTHON3_PROGRAM python3 REQUIRED)
+set(PICTURES_SOURCE_DIR ${CMAKE_SOURCE_DIR}/resources)
+set(PICTURES_RENDERER ${CMAKE_SOURCE_DIR}/tools/render_pictures.py)
+set(PICTURES_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/pictures.cpp.in)
+
+# headunit_pictures(TARGET TABLE file DENSE file.rcc): adds the table's pictures to a target's objects.
+#
+# A line of the table is: prefix/name source state width height, with sources below the table's folder and the states of
+# resources/palette/. Each source is one build step, so that a changed drawing renders its own family only.
+# The pictures for dense displays (name@2x.png) go to the file DENSE, which the target maps at start when the display
+# needs them; it must stand in the same folder as the program or library.
+function(headunit_pictures target)
+    cmake_parse_arguments(ARG "" "TABLE;DENSE" "" ${ARGN})
+    get_filename_component(table ${ARG_TABLE} ABSOLUTE)
+    get_filename_component(folder ${table} DIRECTORY)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${table})
+    set(out ${CMAKE_CURRENT_BINARY_DIR}/${target}_pictures)
+    file(GLOB palette CONFIGURE_DEPENDS ${PICTURES_SOURCE_DIR}/palette/*)
+
+    set(sources "")
+    set(files "")
+    file(STRINGS ${table} lines REGEX "^[^#]")
+    foreach(line IN LISTS lines)
+        if(NOT line MATCHES "^([a-z0-9_]+/[A-Za-z0-9_]+) +([a-z0-9_]+) +([a-z+]+) +([0-9]+) +([0-9]+)$")
+            message(FATAL_ERROR "${table}: not a picture: ${line}")
+        endif()
+        set(name ${CMAKE_MATCH_1})
+        set(source ${CMAKE_MATCH_2})
+        if(name IN_LIST names)
+            message(FATAL_ERROR "${table}: ${name} stands twice")
+        endif()
+        list(APPEND names ${name})
+        list(APPEND sources ${source})
+        list(APPEND rows_${source} ${name},${CMAKE_MATCH_3},${CMAKE_MATCH_4},${CMAKE_MATCH_5})
+        list(APPEND files_${source} ${out}/${name}.png ${out}/${name}@2x.png)
+    endforeach()
+
+    list(REMOVE_DUPLICATES sources)
+    foreach(source IN LISTS sources)
+        add_custom_command(OUTPUT ${files_${source}}
+            COMMAND ${PYTHON3_PROGRAM} ${PICTURES_RENDERER} --source ${folder}/${source}.svg
+                --palette ${PICTURES_SOURCE_DIR}/palette --out ${out} ${rows_${source}}
+            DEPENDS ${folder}/${source}.svg ${palette} ${PICTURES_RENDERER}
+            COMMENT "Rendering ${source}.svg" VERBATIM)
+        list(APPEND files ${files_${source}})
+    endforeach()
+
+    headunit_picture_archive(${out}/pictures.rcc "" "${names}" "${files}" ${out})
+    headunit_picture_archive(${ARG_DENSE} "@2x" "${names}" "${files}" ${out})
+    get_filename_component(PICTURES_DENSE ${ARG_DENSE} NAME)
+    set(PICTURES_EMBEDDED ${out}/pictures.rcc)
+    set(PICTURES_SYMBOL ${target}_pictures)
+    configure_file(${PICTURES_TEMPLATE} ${out}/${target}_pictures.cpp @ONLY)
+    set_source_files_properties(${out}/${target}_pictures.cpp TARGET_DIRECTORY ${target} PROPERTIES
+        OBJECT_DEPENDS "${out}/pictures.rcc;${ARG_DENSE}" SKIP_AUTOGEN ON)
+    target_sources(${target} PRIVATE ${out}/${target}_pictures.cpp)
+    target_link_libraries(${target} PRIVATE ${CMAKE_DL_LIBS})
+    add_custom_target(${target}_pictures DEPENDS ${out}/pictures.rcc ${ARG_DENSE})
+    add_dependencies(${target} ${target}_pictures)
+endfunction()
+
+# headunit_picture_archive(FILE SUFFIX NAMES FILES FOLDER): one .rcc file of every name with that suffix.
+function(headunit_picture_archive archive suffix names files folder)
+    set(qrc "<RCC>\n")
+    foreach(name IN LISTS names)
+        get_filename_component(prefix ${name} DIRECTORY)
+        get_filename_component(file ${name} NAME)
+        string(APPEND qrc "    <qresource prefix=\"/${prefix}\"><file alias=\"${file}${suffix}.png\">"
+            "${name}${suffix}.png</file></qresource>\n")
+    endforeach()
+    string(APPEND qrc "</RCC>\n")
+    set(description ${folder}/pictures${suffix}.qrc)
+    file(GENERATE OUTPUT ${description} CONTENT "${qrc}")
+    get_filename_component(archive_folder ${archive} DIRECTORY)
+    # Version 1 is what Qt 5.3 reads, and it holds no file times.
+    add_custom_command(OUTPUT ${archive}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${archive_folder}
+        COMMAND Qt5::rcc --binary --no-compress --format-version 1 --output ${archive} ${description}
+        DEPENDS ${files} ${description}
+        COMMENT "Packing pictures${suffix}" VERBATIM)
+endfunction()

@@ -1,0 +1,169 @@
+#!/usr/bin/env python3
+"""Renders one picture family: an SVG source in several states and sizes, at 1:1 and at 2:1.
+
+The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: stored, unfiltered, without
+colour chunks, RGB where nothing is transparent. The same sources give the same bytes on every run.
+"""
+
+import argparse
+import ctypes
+import pathlib
+import re
+import struct
+import sys
+import zlib
+
+DENSITIES = ((1, ""), (2, "@2x"))
+
+
+class Failure(Exception):
+    pass
+
+
+class Rectangle(ctypes.Structure):
+    _fields_ = [(name, ctypes.c_double) for name in ("x", "y", "width", "height")]
+
+
+class GError(ctypes.Structure):
+    _fields_ = [("domain", ctypes.c_uint32), ("code", ctypes.c_int), ("message", ctypes.c_char_p)]
+
+
+def load_library(name, functions):
+    try:
+        library = ctypes.CDLL(name)
+    except OSError as error:
+        raise Failure(f"{name} is missing ({error}); it comes with the package librsvg2-bin") from error
+    for function, (result, *arguments) in functions.items():
+        getattr(library, function).restype = result
+        getattr(library, function).argtypes = arguments
+    return library
+
+
+POINTER, INT, DOUBLE, BYTES, SIZE = ctypes.c_void_p, ctypes.c_int, ctypes.c_double, ctypes.c_char_p, ctypes.c_size_t
+ERROR = ctypes.POINTER(ctypes.POINTER(GError))
+
+
+class Renderer:
+    ARGB32 = 0
+
+    def __init__(self):
+        self.cairo = load_library("libcairo.so.2", {
+            "cairo_image_surface_create": (POINTER, INT, INT, INT),
+            "cairo_image_surface_get_data": (POINTER, POINTER),
+            "cairo_image_surface_get_stride": (INT, POINTER),
+            "cairo_surface_flush": (None, POINTER),
+            "cairo_surface_destroy": (None, POINTER),
+            "cairo_create": (POINTER, POINTER),
+            "cairo_destroy": (None, POINTER),
+        })
+        self.rsvg = load_library("librsvg-2.so.2", {
+            "rsvg_handle_new_from_data": (POINTER, BYTES, SIZE, ERROR),
+            "rsvg_handle_set_stylesheet": (INT, POINTER, BYTES, SIZE, ERROR),
+            "rsvg_handle_render_document": (INT, POINTER, POINTER, ctypes.POINTER(Rectangle), ERROR),
+        })
+        self.gobject = load_library("libgobject-2.0.so.0", {"g_object_unref": (None, POINTER)})
+
+    def render(self, svg, css, width, height):
+        """The picture as cairo gives it: premultiplied BGRA."""
+        error = ctypes.POINTER(GError)()
+        handle = self.rsvg.rsvg_handle_new_from_data(svg, len(svg), ctypes.byref(error))
+        self._check(handle, error)
+        self._check(self.rsvg.rsvg_handle_set_stylesheet(handle, css, len(css), ctypes.byref(error)), error)
+        surface = self.cairo.cairo_image_surface_create(self.ARGB32, width, height)
+        context = self.cairo.cairo_create(surface)
+        area = Rectangle(0, 0, width, height)
+        done = self.rsvg.rsvg_handle_render_document(handle, context, ctypes.byref(area), ctypes.byref(error))
+        self._check(done, error)
+        self.cairo.cairo_surface_flush(surface)
+        stride = self.cairo.cairo_image_surface_get_stride(surface)
+        data = ctypes.string_at(self.cairo.cairo_image_surface_get_data(surface), stride * height)
+        self.cairo.cairo_destroy(context)
+        self.cairo.cairo_surface_destroy(surface)
+        self.gobject.g_object_unref(handle)
+        return data
+
+    @staticmethod
+    def _check(result, error):
+        if not result:
+            raise Failure(error.contents.message.decode() if error else "the renderer failed without a reason")
+
+
+# STRAIGHT[a] turns a premultiplied colour byte into a straight one.
+STRAIGHT = [bytes(255 if a == 0 else min(255, (c * 255 + a // 2) // a) for c in range(256)) for a in range(256)]
+
+
+def channels(bgra):
+    """Straight red, green, blue and alpha planes of premultiplied BGRA."""
+    planes = [bytearray(bgra[offset::4]) for offset in (2, 1, 0, 3)]
+    red, green, blue, alpha = planes
+    for i, a in enumerate(alpha):
+        if 0 < a < 255:
+            table = STRAIGHT[a]
+            red[i], green[i], blue[i] = table[red[i]], table[green[i]], table[blue[i]]
+    return planes
+
+
+def png(bgra, width, height):
+    planes = channels(bgra)
+    opaque = planes[3].count(255) == width * height
+    depth = 3 if opaque else 4
+    pixels = bytearray(width * height * depth)
+    for offset in range(depth):
+        pixels[offset::depth] = planes[offset]
+    line = width * depth
+    raw = b"".join(b"\0" + pixels[y * line:(y + 1) * line] for y in range(height))
+
+    def chunk(kind, data):
+        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+
+    header = struct.pack(">IIBBBBB", width, height, 8, 2 if opaque else 6, 0, 0, 0)
+    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(raw, 0)) + chunk(b"IEND", b"")
+
+
+def read_source(path, parts):
+    """The source with the shared parts (gradients, glows) as its first element, and its size."""
+    text = path.read_text(encoding="utf-8")
+    match = re.search(r'<svg\b[^>]*\bviewBox="0 0 (\d+) (\d+)"[^>]*>', text)
+    if not match:
+        raise Failure('the source has no viewBox="0 0 <width> <height>"')
+    shared = re.sub(r"<\?xml.*?\?>|<!--.*?-->", "", parts.read_text(encoding="utf-8"), flags=re.DOTALL)
+    text = text[:match.end()] + shared + text[match.end():]
+    return text.encode(), int(match[1]), int(match[2])
+
+
+def style_sheet(palette, states):
+    """The vocabulary's base and, over it, every state of "p+on"."""
+    return b"\n".join((palette / f"{name}.css").read_bytes() for name in ["base", *states.split("+")])
+
+
+def render_family(arguments):
+    svg, own_width, own_height = read_source(arguments.source, arguments.palette / "parts.svg")
+    renderer = Renderer()
+    for row in arguments.pictures:
+        name, states, width, height = row.split(",")
+        width, height = int(width), int(height)
+        if width * own_height != height * own_width:
+            raise Failure(f"{name}: {width} x {height} has another shape than the source's {own_width} x {own_height}")
+        css = style_sheet(arguments.palette, states)
+        for density, suffix in DENSITIES:
+            size = width * density, height * density
+            file = arguments.out / f"{name}{suffix}.png"
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_bytes(png(renderer.render(svg, css, *size), *size))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--source", type=pathlib.Path, required=True, help="the family's SVG file")
+    parser.add_argument("--palette", type=pathlib.Path, required=True, help="folder of parts.svg, base.css and states")
+    parser.add_argument("--out", type=pathlib.Path, required=True, help="folder that takes the PNGs")
+    parser.add_argument("pictures", nargs="+", metavar="NAME,STATE,WIDTH,HEIGHT")
+    arguments = parser.parse_args()
+    try:
+        render_family(arguments)
+    except (Failure, OSError) as error:
+        sys.exit(f"{arguments.source}: {error}")
+
+
+if __name__ == "__main__":
+    main()
