@@ -59,3 +59,11 @@ function(audiosetting_bench name)
     target_compile_definitions(bench_${name} PRIVATE AUDIOSETTING_PLUGIN="$<TARGET_FILE:audiosetting>")
     target_link_libraries(bench_${name} PRIVATE virtualtime Qt5::Widgets ${ARG_LINK})
 endfunction()
+
+# audiosetting_page_test(NAME SOURCES FILE... [LABELS LABEL...]): a test of what the plug-in shows, against the
+# recording platform and in virtual time. Its main function is PAGE_TEST_MAIN of tests/platform/testmain.h.
+function(audiosetting_page_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LABELS" ${ARGN})
+    audiosetting_test(${name} SOURCES ${ARG_SOURCES} LABELS ${ARG_LABELS}
+        LINK $<LINK_LIBRARY:WHOLE_ARCHIVE,audiosetting_static> pagetest)
+endfunction()
