@@ -28,10 +28,10 @@ public:
     void onHide() override;
     void onEnter() override;
     void onExit() override;
-    int attribute() override;              ///< 0
-    int backEvent() override;              ///< 0
+    int attribute() override;                ///< 0
+    int backEvent() override;                ///< 0
     int keyEvent(KeyEvent *event) override;  ///< 0: the key is the host's
-    QString name() override;               ///< the class name
+    QString name() override;                 ///< the class name
     QWidget *mainWidget() const override;
 
     /// Hands over the widget that the host shows for window interface \a id. The host shows it in its screen

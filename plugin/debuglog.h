@@ -12,7 +12,7 @@ long kernelThreadId();
 }  // namespace audiosetting
 
 /// A debug line: thread, function, source line, then the values of interest: AUDIO_LOG << "iIdx: " << iIdx;
-#define AUDIO_LOG                             \
-    if (!audiosetting::debugLogEnabled()) {   \
-    } else                                    \
+#define AUDIO_LOG                           \
+    if (!audiosetting::debugLogEnabled()) { \
+    } else                                  \
         qDebug() << "[DBG]" << audiosetting::kernelThreadId() << Q_FUNC_INFO << __LINE__ << "--"

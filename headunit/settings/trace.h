@@ -25,9 +25,9 @@ void trace(const QString &call, const QString &meaning);
 }  // namespace headunit
 
 /// Reports a call; the arguments are only evaluated while a sink is installed.
-#define HEADUNIT_TRACE(call, meaning)                \
-    do {                                             \
-        if (headunit::traceEnabled()) {              \
-            headunit::trace((call), (meaning));      \
-        }                                            \
+#define HEADUNIT_TRACE(call, meaning)           \
+    do {                                        \
+        if (headunit::traceEnabled()) {         \
+            headunit::trace((call), (meaning)); \
+        }                                       \
     } while (false)
