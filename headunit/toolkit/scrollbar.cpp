@@ -16,6 +16,11 @@ const int shortestHandle = 48;
 }  // namespace
 
 struct ScrollBar::Private {
+    struct Pill {
+        QPixmap pixmap;
+        QRgb fill = 0;
+    };
+
     explicit Private(ScrollBar *bar) : q(bar) {}
 
     int range() const { return q->maximum() - q->minimum(); }
@@ -50,8 +55,28 @@ struct ScrollBar::Private {
         q->update();
     }
 
+    /// A pill of that size, rendered once: a scroll step only copies pixels.
+    const QPixmap &render(Pill &pill, const QSize &size, const QColor &fill) const {
+        const qreal ratio = q->devicePixelRatioF();
+        if (pill.pixmap.size() != size * ratio || pill.fill != fill.rgba()) {
+            pill.pixmap = QPixmap(size * ratio);
+            pill.pixmap.setDevicePixelRatio(ratio);
+            pill.pixmap.fill(Qt::transparent);
+            pill.fill = fill.rgba();
+            QPainter painter(&pill.pixmap);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(fill);
+            const qreal radius = size.width() / 2.0;
+            painter.drawRoundedRect(QRectF(QPointF(), size), radius, radius);
+        }
+        return pill.pixmap;
+    }
+
     ScrollBar *const q;
     QRect geometry;
+    Pill groove;
+    Pill handle;
     int grip = 0;  // where in the handle the finger holds it
 };
 
@@ -68,17 +93,12 @@ ScrollBar::~ScrollBar() {
 
 void ScrollBar::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    const auto drawPill = [&](int top, int pillWidth, int length, const QColor &fill) {
-        painter.setBrush(fill);
-        painter.drawRoundedRect(QRectF((width() - pillWidth) / 2.0, top, pillWidth, length), pillWidth / 2.0,
-                                pillWidth / 2.0);
-    };
-    drawPill(0, grooveWidth, height(), headunit::colour::raised);
+    painter.drawPixmap((width() - grooveWidth) / 2, 0,
+                       d->render(d->groove, QSize(grooveWidth, height()), headunit::colour::raised));
     if (d->range() > 0) {
-        drawPill(d->handleTop(), handleWidth, d->handleLength(),
-                 isSliderDown() ? headunit::colour::accent : headunit::colour::handle);
+        const QColor &fill = isSliderDown() ? headunit::colour::accent : headunit::colour::handle;
+        painter.drawPixmap((width() - handleWidth) / 2, d->handleTop(),
+                           d->render(d->handle, QSize(handleWidth, d->handleLength()), fill));
     }
 }
 

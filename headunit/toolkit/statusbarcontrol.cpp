@@ -38,7 +38,7 @@ StatusBarControl *StatusBarControl::instance() {
 }
 
 void StatusBarControl::sethide(bool hide) {
-    HEADUNIT_TRACE(QStringLiteral("sethide(%1)").arg(hide ? QStringLiteral("true") : QStringLiteral("false")),
+    HEADUNIT_TRACE(headunit::traceCall("sethide", {hide}),
                    hide ? QStringLiteral("hide the status bar") : QStringLiteral("show the status bar"));
     if (hidden == hide) {
         return;
