@@ -43,31 +43,24 @@ QRect cell(int row, int left, int count, int index) {
 CarScreen::CarScreen(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("car"));
     setGeometry(0, 0, look::screenWidth, look::screenHeight);
-    addStepper(SourceRow, QStringLiteral("car_source"), &CarScreen::stepSource);
-    addStepper(ChannelRow, QStringLiteral("car_channel"), &CarScreen::stepChannel);
-    addStepper(LevelRow, QStringLiteral("car_level"), &CarScreen::stepLevel);
+    addStepper(SourceRow, {"car_source_prev", "prev"}, {"car_source_next", "next"}, &CarScreen::stepSource);
+    addStepper(ChannelRow, {"car_channel_prev", "prev"}, {"car_channel_next", "next"}, &CarScreen::stepChannel);
+    addStepper(LevelRow, {"car_level_minus", "minus"}, {"car_level_plus", "plus"}, &CarScreen::stepLevel);
     addLanguages();
     addActions();
     // The level shown is the service's, whoever changes it.
     connect(qvaudio::AudioService::instance(), &qvaudio::AudioService::audioVolumeChanged, this, [this] { update(); });
 }
 
-void CarScreen::addStepper(int row, const QString &name, void (CarScreen::*step)(int)) {
+void CarScreen::addStepper(int row, const StepKey &down, const StepKey &up, void (CarScreen::*step)(int)) {
     const QRect area = rowRect(row);
-    struct Side {
-        const char *suffix;
-        const char *picture;
-        int x;
-        int by;
-    };
-    const Side sides[] = {{"_prev", "prev", area.left(), -1}, {"_next", "next", area.right() + 1 - look::keySize, 1}};
-    for (const Side &side : sides) {
-        Key *key =
-            new Key(name + QLatin1String(side.suffix), QRect(side.x, area.y(), look::keySize, look::keySize), this);
-        key->setPicture(QString::fromLatin1(side.picture));
-        const int by = side.by;
+    const auto add = [&](const StepKey &stepKey, int x, int by) {
+        Key *key = new Key(QString::fromLatin1(stepKey.name), QRect(x, area.y(), look::keySize, look::keySize), this);
+        key->setPicture(QString::fromLatin1(stepKey.picture));
         connect(key, &Key::clicked, this, [this, step, by] { (this->*step)(by); });
-    }
+    };
+    add(down, area.left(), -1);
+    add(up, area.right() + 1 - look::keySize, 1);
 }
 
 void CarScreen::addLanguages() {

@@ -30,7 +30,11 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void addStepper(int row, const QString &name, void (CarScreen::*step)(int));
+    struct StepKey {
+        const char *name;
+        const char *picture;
+    };
+    void addStepper(int row, const StepKey &down, const StepKey &up, void (CarScreen::*step)(int));
     void addLanguages();
     void addActions();
     void stepSource(int by);

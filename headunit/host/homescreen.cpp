@@ -2,6 +2,7 @@
 
 #include "headunit/host/key.h"
 #include "headunit/host/look.h"
+#include "headunit/host/statusbar.h"
 #include "headunit/host/texts.h"
 
 #include <QPainter>
@@ -12,10 +13,9 @@ namespace {
 
 constexpr int tileWidth = 272;
 constexpr int tileHeight = 288;
-constexpr int tileTop = 120;
 constexpr int failureLineHeight = 40;
 constexpr int failureLines = 3;  ///< as many as fit below the tiles
-constexpr int failureFoot = 24;  ///< free below the last line
+constexpr int footHeight = 24;   ///< free below the last line
 
 }  // namespace
 
@@ -29,9 +29,12 @@ HomeScreen::HomeScreen(const QStringList &applications, const QStringList &failu
 
 void HomeScreen::addTiles(const QStringList &applications) {
     const int count = applications.size() + 1;
+    // In the middle of what the status bar and the failures leave free.
+    const int failuresTop = height() - qMin(m_failures.size(), failureLines) * failureLineHeight - footHeight;
+    const int y = (StatusBar::barHeight + failuresTop - tileHeight) / 2;
     int x = (width() - count * tileWidth - (count - 1) * look::margin) / 2;
     const auto addTile = [&](const QString &name, const char *picture) {
-        Key *tile = new Key(name, QRect(x, tileTop, tileWidth, tileHeight), this);
+        Key *tile = new Key(name, QRect(x, y, tileWidth, tileHeight), this);
         tile->setPicture(QString::fromLatin1(picture));
         x += tileWidth + look::margin;
         return tile;
@@ -53,7 +56,7 @@ void HomeScreen::paintEvent(QPaintEvent *) {
     look::paintGround(painter, rect());
     // The last failures are the ones that fit; all of them are on standard error.
     const QStringList shown = m_failures.mid(qMax(0, m_failures.size() - failureLines));
-    QRect line(look::margin, height() - failureFoot - shown.size() * failureLineHeight, width() - 2 * look::margin,
+    QRect line(look::margin, height() - footHeight - shown.size() * failureLineHeight, width() - 2 * look::margin,
                failureLineHeight);
     painter.setPen(look::warning);
     for (const QString &failure : shown) {

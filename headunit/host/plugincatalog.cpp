@@ -48,7 +48,7 @@ QString PluginCatalog::tryLoad(const QString &file) {
     QPluginLoader loader(info.absoluteFilePath());
     const QJsonObject metaData = loader.metaData();
     if (metaData.isEmpty()) {
-        return QStringLiteral("is not a plug-in (%1)").arg(loader.errorString());
+        return QStringLiteral("is not a plug-in");
     }
     const QString iid = metaData.value(QLatin1String("IID")).toString();
     const QString id = idFromIid(iid);

@@ -201,7 +201,7 @@
     </message>
     <message id="20011">
         <source>Main</source>
-        <translation>Haupt</translation>
+        <translation>Gesamt</translation>
     </message>
     <message id="20012">
         <source>Ringtone</source>
