@@ -48,3 +48,22 @@ function(audiosetting_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ARG_LABELS}" ENVIRONMENT
         "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1")
 endfunction()
+
+# audiosetting_page_test(NAME SOURCES FILE... [LABELS LABEL...]): a test of what the plug-in shows, against the
+# recording platform and in virtual time. Its main function is PAGE_TEST_MAIN of tests/platform/testmain.h.
+function(audiosetting_page_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LABELS" ${ARGN})
+    audiosetting_test(${name} SOURCES ${ARG_SOURCES} LABELS ${ARG_LABELS}
+        LINK $<LINK_LIBRARY:WHOLE_ARCHIVE,audiosetting_static> pagetest)
+endfunction()
+
+# audiosetting_bench(NAME SOURCES FILE... [LINK LIBRARY...]): a program that bench/measure runs.
+function(audiosetting_bench name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(bench_${name} ${ARG_SOURCES})
+    set_target_properties(bench_${name} PROPERTIES OUTPUT_NAME ${name}
+        RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bench)
+    target_include_directories(bench_${name} PRIVATE ${CMAKE_SOURCE_DIR})
+    target_compile_definitions(bench_${name} PRIVATE AUDIOSETTING_PLUGIN="$<TARGET_FILE:audiosetting>")
+    target_link_libraries(bench_${name} PRIVATE virtualtime Qt5::Widgets ${ARG_LINK})
+endfunction()

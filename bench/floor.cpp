@@ -1,0 +1,96 @@
+// The bare Qt floor that the product is measured against, in the same run: what the same screen change costs with
+// nothing but plain labels and ready pixmaps.
+//
+//   floor start                       a 1024 x 600 window with one pixmap, painted once
+//   floor switch STEPS LABELS LABELS  two pages of that many labels, shown in turn
+//   floor drag STEPS                  one cached pixmap, moved by mouse events
+
+#include "benchtools.h"
+
+#include <QLabel>
+#include <QMouseEvent>
+
+#include <memory>
+
+namespace {
+
+QPixmap readyPixmap(int width, int height) {
+    QPixmap pixmap(width, height);
+    pixmap.fill(Qt::darkBlue);
+    return pixmap;
+}
+
+void start() {
+    QLabel window;
+    window.setFixedSize(bench::screen);
+    window.setPixmap(readyPixmap(bench::screen.width(), bench::screen.height()));
+    bench::showAndPaint(&window);
+}
+
+QWidget *page(QWidget *parent, int labels, const QPixmap &pixmap) {
+    auto *page = new QWidget(parent);
+    page->setGeometry(136, 130, 888, 470);
+    for (int i = 0; i < labels; ++i) {
+        auto *label = new QLabel(page);
+        label->setPixmap(pixmap);
+        label->setGeometry(8 + (i % 9) * 96, 8 + (i / 9) * 90, 72, 72);
+    }
+    page->hide();
+    return page;
+}
+
+void switchPages(int steps, int labelsA, int labelsB) {
+    QWidget window;
+    window.setFixedSize(bench::screen);
+    const QPixmap pixmap = readyPixmap(72, 72);
+    QWidget *const pages[] = {page(&window, labelsA, pixmap), page(&window, labelsB, pixmap)};
+    bench::showAndPaint(&window);
+    for (int i = 0; i < steps; ++i) {
+        pages[(i + 1) % 2]->hide();
+        pages[i % 2]->show();
+        bench::settle();
+    }
+}
+
+/// Moves its one label to the finger.
+class DragFloor : public QWidget {
+public:
+    DragFloor() : m_label(new QLabel(this)) {
+        setFixedSize(bench::screen);
+        m_label->setPixmap(readyPixmap(72, 72));
+        m_label->resize(72, 72);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override { m_label->move(event->pos()); }
+    void mouseMoveEvent(QMouseEvent *event) override { m_label->move(event->pos()); }
+
+private:
+    QLabel *m_label;
+};
+
+void drag(int steps) {
+    DragFloor window;
+    bench::showAndPaint(&window);
+    bench::drag(&window, QRect(300, 200, 180, 180), steps, Qt::Horizontal | Qt::Vertical);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    bench::Application app(argc, argv);
+    const QStringList args = app.arguments().mid(1);
+    const auto number = [&args](int i) { return args.value(i).toInt(); };
+    const QString what = args.value(0);
+    if (what == QLatin1String("start")) {
+        start();
+    } else if (what == QLatin1String("switch")) {
+        switchPages(number(1), number(2), number(3));
+    } else if (what == QLatin1String("drag")) {
+        drag(number(1));
+    } else {
+        qCritical("floor start | floor switch STEPS LABELS LABELS | floor drag STEPS");
+        return 2;
+    }
+    return 0;
+}
