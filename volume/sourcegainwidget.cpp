@@ -37,6 +37,7 @@ SourceGainWidget::SourceGainWidget(QWidget *parent) : QWidget(parent) {}
 SourceGainWidget::~SourceGainWidget() {}
 
 void SourceGainWidget::initUi() {
+    setGeometry(sliderPageGeometry());
     if (!m_scrollManage) {
         m_scrollManage = makeScrollable(m_area);
     }
