@@ -17,18 +17,18 @@ public:
     HardKeys *hardKeys() const { return m_hardKeys; }
 
 Q_SIGNALS:
-    /// The window is being painted for the first time.
-    void painting();
+    /// The window is painted for the first time as soon as control returns to the event loop.
+    void exposed();
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
     QWidget *const m_screen;
     HardKeys *const m_hardKeys;
-    bool m_painted = false;
 };
 
 }  // namespace headunit
