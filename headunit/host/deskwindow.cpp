@@ -44,11 +44,14 @@ DeskWindow::DeskWindow()
 
 void DeskWindow::showEvent(QShowEvent *) {
     // What covers the window whole spares it its own paint event, so the first picture is seen at the window below.
-    windowHandle()->installEventFilter(this);
+    if (!m_exposed) {
+        windowHandle()->installEventFilter(this);
+    }
 }
 
 bool DeskWindow::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Expose) {
+        m_exposed = true;
         watched->removeEventFilter(this);
         Q_EMIT exposed();
     }

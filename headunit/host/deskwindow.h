@@ -17,7 +17,7 @@ public:
     HardKeys *hardKeys() const { return m_hardKeys; }
 
 Q_SIGNALS:
-    /// The window is painted for the first time as soon as control returns to the event loop.
+    /// Once: the window is being painted for the first time, and is by the time that posted events are delivered.
     void exposed();
 
 protected:
@@ -29,6 +29,7 @@ protected:
 private:
     QWidget *const m_screen;
     HardKeys *const m_hardKeys;
+    bool m_exposed = false;
 };
 
 }  // namespace headunit

@@ -18,6 +18,7 @@ private Q_SLOTS:
     void pluginsThatFail();
     void openWithAFailedPlugin();
     void exitWhenShown();
+    void scale();
     void scriptResults_data();
     void scriptResults();
     void scriptsAreInstant();
@@ -147,6 +148,17 @@ void TestHeadunit::exitWhenShown() {
     const Result result = run({"--open", "audiosetting", "--exit-when-shown"});
     QCOMPARE(result.code, 0);
     QCOMPARE(result.err, QString());
+}
+
+void TestHeadunit::scale() {
+    // Places are the unit's pixels, whatever the desk's are.
+    const QString script = write("s.js", "tap(660, 320); expect('car', 'visible', true); shot('car.png');"
+                                         "tap('hardkey_home'); expect('home', 'visible', true);");
+    for (const char *scale : {"1", "1.5", "2"}) {
+        const Result result = run({"--scale", scale, "--script", script});
+        QVERIFY2(result.code == 0, qPrintable(result.err));
+        QCOMPARE(QImage(m_folder->filePath("car.png")).size(), QSize(1024, 600) * QByteArray(scale).toDouble());
+    }
 }
 
 void TestHeadunit::scriptResults_data() {
