@@ -159,5 +159,73 @@
         <source>Bluetooth Music</source>
         <translation>Bluetooth-Musik</translation>
     </message>
+    <message id="20001">
+        <source>Audio settings</source>
+        <translation>Audio</translation>
+    </message>
+    <message id="20002">
+        <source>Car</source>
+        <translation>Fahrzeug</translation>
+    </message>
+    <message id="20003">
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message id="20004">
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message id="20005">
+        <source>Level</source>
+        <translation>Pegel</translation>
+    </message>
+    <message id="20006">
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message id="20007">
+        <source>Volume settings</source>
+        <translation>Lautstärken</translation>
+    </message>
+    <message id="20008">
+        <source>Start call</source>
+        <translation>Anruf starten</translation>
+    </message>
+    <message id="20009">
+        <source>End call</source>
+        <translation>Anruf beenden</translation>
+    </message>
+    <message id="20010">
+        <source>Call in progress</source>
+        <translation>Gespräch läuft</translation>
+    </message>
+    <message id="20011">
+        <source>Main</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message id="20012">
+        <source>Ringtone</source>
+        <translation>Klingelton</translation>
+    </message>
+    <message id="20013">
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message id="20014">
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="20015">
+        <source>Voice</source>
+        <translation>Sprachbedienung</translation>
+    </message>
+    <message id="20016">
+        <source>Traffic</source>
+        <translation>Verkehrsfunk</translation>
+    </message>
+    <message id="20017">
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
 </context>
 </TS>

@@ -159,5 +159,73 @@
         <source>Bluetooth Music</source>
         <translation>Bluetooth Music</translation>
     </message>
+    <message id="20001">
+        <source>Audio settings</source>
+        <translation>Audio settings</translation>
+    </message>
+    <message id="20002">
+        <source>Car</source>
+        <translation>Car</translation>
+    </message>
+    <message id="20003">
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message id="20004">
+        <source>Channel</source>
+        <translation>Channel</translation>
+    </message>
+    <message id="20005">
+        <source>Level</source>
+        <translation>Level</translation>
+    </message>
+    <message id="20006">
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message id="20007">
+        <source>Volume settings</source>
+        <translation>Volume settings</translation>
+    </message>
+    <message id="20008">
+        <source>Start call</source>
+        <translation>Start call</translation>
+    </message>
+    <message id="20009">
+        <source>End call</source>
+        <translation>End call</translation>
+    </message>
+    <message id="20010">
+        <source>Call in progress</source>
+        <translation>Call in progress</translation>
+    </message>
+    <message id="20011">
+        <source>Main</source>
+        <translation>Main</translation>
+    </message>
+    <message id="20012">
+        <source>Ringtone</source>
+        <translation>Ringtone</translation>
+    </message>
+    <message id="20013">
+        <source>Phone</source>
+        <translation>Phone</translation>
+    </message>
+    <message id="20014">
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="20015">
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message id="20016">
+        <source>Traffic</source>
+        <translation>Traffic</translation>
+    </message>
+    <message id="20017">
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
 </context>
 </TS>

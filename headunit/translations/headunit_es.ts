@@ -159,5 +159,73 @@
         <source>Bluetooth Music</source>
         <translation>Música Bluetooth</translation>
     </message>
+    <message id="20001">
+        <source>Audio settings</source>
+        <translation>Audio</translation>
+    </message>
+    <message id="20002">
+        <source>Car</source>
+        <translation>Vehículo</translation>
+    </message>
+    <message id="20003">
+        <source>Source</source>
+        <translation>Fuente</translation>
+    </message>
+    <message id="20004">
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message id="20005">
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+    <message id="20006">
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message id="20007">
+        <source>Volume settings</source>
+        <translation>Ajustes de volumen</translation>
+    </message>
+    <message id="20008">
+        <source>Start call</source>
+        <translation>Iniciar llamada</translation>
+    </message>
+    <message id="20009">
+        <source>End call</source>
+        <translation>Finalizar llamada</translation>
+    </message>
+    <message id="20010">
+        <source>Call in progress</source>
+        <translation>Llamada en curso</translation>
+    </message>
+    <message id="20011">
+        <source>Main</source>
+        <translation>Principal</translation>
+    </message>
+    <message id="20012">
+        <source>Ringtone</source>
+        <translation>Tono de llamada</translation>
+    </message>
+    <message id="20013">
+        <source>Phone</source>
+        <translation>Teléfono</translation>
+    </message>
+    <message id="20014">
+        <source>Navigation</source>
+        <translation>Navegación</translation>
+    </message>
+    <message id="20015">
+        <source>Voice</source>
+        <translation>Voz</translation>
+    </message>
+    <message id="20016">
+        <source>Traffic</source>
+        <translation>Tráfico</translation>
+    </message>
+    <message id="20017">
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
 </context>
 </TS>

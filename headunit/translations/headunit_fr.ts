@@ -159,5 +159,73 @@
         <source>Bluetooth Music</source>
         <translation>Musique Bluetooth</translation>
     </message>
+    <message id="20001">
+        <source>Audio settings</source>
+        <translation>Audio</translation>
+    </message>
+    <message id="20002">
+        <source>Car</source>
+        <translation>Véhicule</translation>
+    </message>
+    <message id="20003">
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message id="20004">
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message id="20005">
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+    <message id="20006">
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message id="20007">
+        <source>Volume settings</source>
+        <translation>Réglages du volume</translation>
+    </message>
+    <message id="20008">
+        <source>Start call</source>
+        <translation>Lancer un appel</translation>
+    </message>
+    <message id="20009">
+        <source>End call</source>
+        <translation>Terminer l’appel</translation>
+    </message>
+    <message id="20010">
+        <source>Call in progress</source>
+        <translation>Appel en cours</translation>
+    </message>
+    <message id="20011">
+        <source>Main</source>
+        <translation>Général</translation>
+    </message>
+    <message id="20012">
+        <source>Ringtone</source>
+        <translation>Sonnerie</translation>
+    </message>
+    <message id="20013">
+        <source>Phone</source>
+        <translation>Téléphone</translation>
+    </message>
+    <message id="20014">
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="20015">
+        <source>Voice</source>
+        <translation>Voix</translation>
+    </message>
+    <message id="20016">
+        <source>Traffic</source>
+        <translation>Info trafic</translation>
+    </message>
+    <message id="20017">
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
 </context>
 </TS>

@@ -159,5 +159,73 @@
         <source>Bluetooth Music</source>
         <translation>Bluetooth ミュージック</translation>
     </message>
+    <message id="20001">
+        <source>Audio settings</source>
+        <translation>オーディオ</translation>
+    </message>
+    <message id="20002">
+        <source>Car</source>
+        <translation>車両</translation>
+    </message>
+    <message id="20003">
+        <source>Source</source>
+        <translation>ソース</translation>
+    </message>
+    <message id="20004">
+        <source>Channel</source>
+        <translation>チャンネル</translation>
+    </message>
+    <message id="20005">
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+    <message id="20006">
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message id="20007">
+        <source>Volume settings</source>
+        <translation>音量設定</translation>
+    </message>
+    <message id="20008">
+        <source>Start call</source>
+        <translation>発信</translation>
+    </message>
+    <message id="20009">
+        <source>End call</source>
+        <translation>通話終了</translation>
+    </message>
+    <message id="20010">
+        <source>Call in progress</source>
+        <translation>通話中</translation>
+    </message>
+    <message id="20011">
+        <source>Main</source>
+        <translation>メイン</translation>
+    </message>
+    <message id="20012">
+        <source>Ringtone</source>
+        <translation>着信音</translation>
+    </message>
+    <message id="20013">
+        <source>Phone</source>
+        <translation>電話</translation>
+    </message>
+    <message id="20014">
+        <source>Navigation</source>
+        <translation>ナビ</translation>
+    </message>
+    <message id="20015">
+        <source>Voice</source>
+        <translation>音声</translation>
+    </message>
+    <message id="20016">
+        <source>Traffic</source>
+        <translation>交通情報</translation>
+    </message>
+    <message id="20017">
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
 </context>
 </TS>
