@@ -640,8 +640,7 @@ private slots:
         const QImage before = g.pad->grab().toImage();
         recording::state().balance = 3;
         g.tap("Key_balance_right");
-        QWidget parent;
-        const auto expected = new balanceFaderControl(&parent, g.pad->geometry());
+        const auto expected = new balanceFaderControl(g.pad->parentWidget(), g.pad->geometry());
         expected->setValueX(4);
         expected->updatePos();
         QVERIFY(g.pad->grab().toImage() != before);
