@@ -49,6 +49,14 @@ function(audiosetting_test name)
         "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1")
 endfunction()
 
+# audiosetting_page_test(NAME SOURCES FILE... [LABELS LABEL...]): a test of what the plug-in shows, against the
+# recording platform and in virtual time. Its main function is PAGE_TEST_MAIN of tests/platform/testmain.h.
+function(audiosetting_page_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LABELS" ${ARGN})
+    audiosetting_test(${name} SOURCES ${ARG_SOURCES} LABELS ${ARG_LABELS}
+        LINK $<LINK_LIBRARY:WHOLE_ARCHIVE,audiosetting_static> pagetest)
+endfunction()
+
 # audiosetting_bench(NAME SOURCES FILE... [LINK LIBRARY...]): a program that bench/measure runs.
 function(audiosetting_bench name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})

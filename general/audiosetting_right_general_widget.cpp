@@ -4,6 +4,7 @@
 #include "balancefadercontrol.h"
 #include "generalsettings.h"
 #include "mcuservice.h"
+#include "plugin/buttongroup.h"
 #include "plugin/caption.h"
 #include "plugin/debuglog.h"
 #include "settingscache.h"
@@ -28,16 +29,6 @@ int otherSign(int fader) {
     return fader == std::numeric_limits<int>::min() ? std::numeric_limits<int>::max() : -fader;
 }
 
-// Checks one key of an exclusive group, or none where the group has no such id.
-void checkExclusively(QButtonGroup *group, int id) {
-    group->setExclusive(false);
-    const QList<QAbstractButton *> keys = group->buttons();
-    for (QAbstractButton *key : keys) {
-        key->setChecked(group->id(key) == id);
-    }
-    group->setExclusive(true);
-}
-
 }  // namespace
 
 Audiosetting_right_general_widget::Audiosetting_right_general_widget(QWidget *parent)
@@ -52,6 +43,9 @@ Audiosetting_right_general_widget::Audiosetting_right_general_widget(QWidget *pa
 Audiosetting_right_general_widget::~Audiosetting_right_general_widget() {}
 
 void Audiosetting_right_general_widget::initUi() {
+    // The caption lies over its key.
+    m_ui->text_Advanced->setAttribute(Qt::WA_TransparentForMouseEvents);
+
     m_pad = new settings::balanceFaderControl(m_ui->balancefader_bg->parentWidget(), m_ui->balancefader_bg->geometry());
     connect(m_pad, SIGNAL(balanceFaderChanged(int, int)), this, SLOT(onUpdate(int, int)));
 

@@ -1,6 +1,7 @@
 #include "balancefadercontrol.h"
 
 #include "audioservice.h"
+#include "resources/picture.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,7 +16,8 @@ const int touchRoundUp = 4;    // from this remainder on a touch counts for the 
 const int markerTravel = 100;  // px from the centre to the marker's end
 const int dragTimeout = 500;   // ms
 const int originShift = 2;     // px to the right, matching the artwork
-const int farAway = 1 << 20;   // px; keeps marker positions of absurd stored values drawable
+const qreal disabledOpacity = 0.4;
+const int farAway = 1 << 20;  // px; keeps marker positions of absurd stored values drawable
 
 // The touch and the marker run on different scales, so away from the centre the marker lies beside the finger:
 // required.
@@ -34,24 +36,30 @@ int pixelsFromSteps(int steps) {
     return int(qBound<qint64>(-farAway, qint64(markerTravel) * steps / maxValue, farAway));
 }
 
+// In pixels of the form, whatever the display's density.
+QSize sizeOf(const QPixmap &picture) {
+    return picture.size() / picture.devicePixelRatio();
+}
+
 QPoint halfSize(const QPixmap &picture) {
-    return QPoint(picture.width() / 2, picture.height() / 2);
+    return QPoint(sizeOf(picture).width() / 2, sizeOf(picture).height() / 2);
 }
 
 }  // namespace
 
 balanceFaderControl::balanceFaderControl(QWidget *parent, const QRect &geometry)
     : QLabel(parent),
-      m_background(QStringLiteral(":/corvina_icon/balancefader_bg.png")),
-      m_verticalLine(QStringLiteral(":/corvina_icon/setup_bg_Balance_line_2_n.png")),
-      m_horizontalLine(QStringLiteral(":/corvina_icon/setup_bg_Balance_line_1_n.png")),
-      m_marker(QStringLiteral(":/corvina_icon/audiosettings_select.png")) {
+      m_background(audiosetting::picture("balancefader_bg")),
+      m_verticalLine(audiosetting::picture("setup_bg_Balance_line_2_n")),
+      m_horizontalLine(audiosetting::picture("setup_bg_Balance_line_1_n")),
+      m_marker(audiosetting::picture("audiosettings_select")) {
     setGeometry(geometry);
     m_origin = QPoint(geometry.width() / 2 + originShift, geometry.height() / 2);
     m_center = m_origin;
-    m_verticalLinePos = QPoint(m_origin.x() - m_verticalLine.width() / 2, (height() - m_verticalLine.height()) / 2);
+    m_verticalLinePos =
+        QPoint(m_origin.x() - halfSize(m_verticalLine).x(), (height() - sizeOf(m_verticalLine).height()) / 2);
     m_horizontalLinePos =
-        QPoint((width() - m_horizontalLine.width()) / 2, m_origin.y() - m_horizontalLine.height() / 2);
+        QPoint((width() - sizeOf(m_horizontalLine).width()) / 2, m_origin.y() - halfSize(m_horizontalLine).y());
     m_markerPos = m_origin - halfSize(m_marker);
     m_dragTimer.setSingleShot(true);
 }
@@ -111,7 +119,7 @@ void balanceFaderControl::moveMarker(const QPoint &topLeft) {
 }
 
 QRect balanceFaderControl::markerRect() const {
-    return QRect(m_markerPos, m_marker.size() / m_marker.devicePixelRatio());
+    return QRect(m_markerPos, sizeOf(m_marker));
 }
 
 const QPixmap &balanceFaderControl::still() {
@@ -131,6 +139,7 @@ const QPixmap &balanceFaderControl::still() {
 
 void balanceFaderControl::updateLabel() {
     QPainter painter(this);
+    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
     painter.drawPixmap(0, 0, still());
     painter.drawPixmap(m_markerPos, m_marker);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <tuple>
 
 namespace headunit {
 
@@ -11,6 +12,7 @@ struct CrossoverFilter {
     int level = 12;  ///< 0 to 12: -12 to 0 dB
 
     bool operator==(const CrossoverFilter &o) const { return freq == o.freq && slope == o.slope && level == o.level; }
+    bool operator!=(const CrossoverFilter &o) const { return !(*this == o); }
 };
 
 /// Everything that shapes the sound, as one plain value: what the services were told, within its ranges.
@@ -29,6 +31,7 @@ struct SoundState {
     std::array<int, channels> channelLevel{};  ///< 0 to 40
     std::array<int, sources> sourceGain{};     ///< 0 to 20, 10 is neutral
     int activeSource = 0;
+    bool muted = false;  ///< the channels keep their levels
     bool loudness = false;
     bool defeat = false;
     int subwooferLevel = 0;  ///< 0 (silent, or switched off) to 15
@@ -37,6 +40,14 @@ struct SoundState {
     CrossoverFilter rear;
     CrossoverFilter subwoofer;
     std::array<int, outputs> delay{};  ///< 0 to 99, in 0.1 ms
+
+    /// Every member above, for comparison.
+    auto members() const {
+        return std::tie(eqType, customEq, balance, fader, channelLevel, sourceGain, activeSource, muted, loudness,
+                        defeat, subwooferLevel, subwooferPhase, front, rear, subwoofer, delay);
+    }
+    bool operator==(const SoundState &o) const { return members() == o.members(); }
+    bool operator!=(const SoundState &o) const { return !(*this == o); }
 };
 
 }  // namespace headunit

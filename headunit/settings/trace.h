@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
+#include <QVariant>
 
 #include <functional>
 
@@ -22,12 +22,30 @@ bool traceEnabled();
 /// Hands an entry to the sink.
 void trace(const QString &call, const QString &meaning);
 
+/// Whether calls that only read are recorded as well. Off at first: showing a page reads dozens of values, and what
+/// was read is what was written before.
+void setTraceReads(bool on);
+bool traceReadsEnabled();
+
+/// A value as written in code: 3, true, "text".
+QString traceValue(const QVariant &value);
+/// A call as written in code.
+QString traceCall(const char *operation, const QVariantList &arguments = QVariantList());
+
 }  // namespace headunit
 
 /// Reports a call; the arguments are only evaluated while a sink is installed.
 #define HEADUNIT_TRACE(call, meaning)           \
     do {                                        \
         if (headunit::traceEnabled()) {         \
+            headunit::trace((call), (meaning)); \
+        }                                       \
+    } while (false)
+
+/// The same for a call that only reads.
+#define HEADUNIT_TRACE_READ(call, meaning)      \
+    do {                                        \
+        if (headunit::traceReadsEnabled()) {    \
             headunit::trace((call), (meaning)); \
         }                                       \
     } while (false)

@@ -1,0 +1,109 @@
+// What of the sound stands in the store, and under which keys: the same ones that the pages read.
+
+#include "soundlimits.h"
+#include "soundmodel.h"
+
+#include "headunit/settings/audiokeys.h"
+
+namespace headunit {
+
+namespace {
+
+int stored(const SettingsStore &store, const SettingKey &key) {
+    return store.intValue(QString::fromLatin1(key.name), key.defaultValue);
+}
+
+bool storedFlag(const SettingsStore &store, const SettingKey &key) {
+    return store.boolValue(QString::fromLatin1(key.name), key.defaultValue != 0);
+}
+
+template <size_t Count> std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key,
+                                                         const Range &range, int offset = 0) {
+    std::array<int, Count> row;
+    for (size_t number = 0; number < Count; ++number) {
+        const int value = store.intValue(QString::fromLatin1(key.name).arg(number), key.defaultValue);
+        row[number] =
+            clamped(std::clamp(value, range.low - offset - 1, range.high - offset + 1) + offset, range, key.name);
+    }
+    return row;
+}
+
+CrossoverFilter storedFilter(const SettingsStore &store, const FilterKeys &keysOfFilter, size_t frequencies) {
+    CrossoverFilter filter;
+    const int freq = stored(store, keysOfFilter.freq);
+    // A stored index beyond the table means off here, as there is no earlier filter to stay with.
+    filter.freq = exists(freq, static_cast<int>(frequencies), keysOfFilter.freq.name) ? freq : 0;
+    filter.slope = clamped(stored(store, keysOfFilter.slope), ranges::slope, keysOfFilter.slope.name);
+    filter.level = clamped(stored(store, keysOfFilter.level), ranges::filterLevel, keysOfFilter.level.name);
+    return filter;
+}
+
+}  // namespace
+
+CrossoverFilter SoundModel::restoredFilter(FilterChannel channel) const {
+    switch (channel) {
+        case FilterChannel::Front:
+            return storedFilter(m_store, keys::front, frontFrequencies.size());
+        case FilterChannel::Rear:
+            return storedFilter(m_store, keys::rear, rearFrequencies.size());
+        case FilterChannel::Subwoofer:
+            return storedFilter(m_store, keys::subwoofer, subwooferFrequencies.size());
+    }
+    return CrossoverFilter();
+}
+
+std::array<int, SoundState::outputs> SoundModel::restoredDelays() const {
+    return storedRow<SoundState::outputs>(m_store, keys::delay, ranges::delay);
+}
+
+bool SoundModel::restoredDefeat() const {
+    return stored(m_store, keys::defeat) != 0;
+}
+
+SoundState SoundModel::restored() const {
+    SoundState next;
+    next.activeSource = m_state.activeSource;
+    next.muted = m_state.muted;
+    next.eqType = stored(m_store, keys::eqType);
+    next.customEq = storedRow<SoundState::bands>(m_store, keys::customEq, ranges::bandValue);
+    next.balance = clamped(stored(m_store, keys::balance), ranges::balanceFader, keys::balance.name);
+    next.fader = clamped(stored(m_store, keys::fader), ranges::balanceFader, keys::fader.name);
+    next.channelLevel = storedRow<SoundState::channels>(m_store, keys::channelLevel, ranges::channelLevel);
+    next.sourceGain = storedRow<SoundState::sources>(m_store, keys::sourceGain, ranges::sourceGain, neutralSourceGain);
+    next.loudness = storedFlag(m_store, keys::loudness);
+    next.defeat = restoredDefeat();
+    if (storedFlag(m_store, keys::subwooferOn)) {
+        next.subwooferLevel =
+            clamped(stored(m_store, keys::subwooferLevel), ranges::subwooferLevel, keys::subwooferLevel.name);
+    }
+    const int phase = stored(m_store, keys::subwooferPhase);
+    next.subwooferPhase = exists(phase, ranges::flag.high + 1, keys::subwooferPhase.name) ? phase : 0;
+    next.front = restoredFilter(FilterChannel::Front);
+    next.rear = restoredFilter(FilterChannel::Rear);
+    next.subwoofer = restoredFilter(FilterChannel::Subwoofer);
+    next.delay = restoredDelays();
+    return next;
+}
+
+void SoundModel::restore(SoundPart part) {
+    SoundState next = m_state;
+    switch (part) {
+        case SoundPart::Crossover:
+            next.front = restoredFilter(FilterChannel::Front);
+            next.rear = restoredFilter(FilterChannel::Rear);
+            next.subwoofer = restoredFilter(FilterChannel::Subwoofer);
+            break;
+        case SoundPart::Delays:
+            next.delay = restoredDelays();
+            break;
+        case SoundPart::Defeat:
+            next.defeat = restoredDefeat();
+            break;
+        case SoundPart::All:
+            next = restored();
+            break;
+    }
+    apply(next);
+}
+
+}  // namespace headunit

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+namespace headunit {
+
+class HardKeys;
+
+/// The unit as it stands on the desk: the screen of 1024 x 600, and beside it the hard keys.
+class DeskWindow : public QWidget {
+    Q_OBJECT
+public:
+    DeskWindow();
+
+    /// The screen; everything that the unit shows is a child of it.
+    QWidget *screen() const { return m_screen; }
+    HardKeys *hardKeys() const { return m_hardKeys; }
+
+Q_SIGNALS:
+    /// The window is being painted for the first time.
+    void painting();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+
+private:
+    QWidget *const m_screen;
+    HardKeys *const m_hardKeys;
+    bool m_painted = false;
+};
+
+}  // namespace headunit

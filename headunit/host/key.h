@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QAbstractButton>
+
+namespace headunit {
+
+/// A touch key of the host's own screens: a raised plate with a text, a picture, or a picture above a text.
+///
+/// It sounds the key click and lights up at touch-down. A checked key carries a bar besides its fill.
+class Key : public QAbstractButton {
+    Q_OBJECT
+public:
+    Key(const QString &name, const QRect &geometry, QWidget *parent);
+
+    /// Shows the text of that id in the language in force. 0: the text set with setText().
+    void setTextId(int id);
+    /// Shows the host's pictures name_n and, while pressed, name_p.
+    void setPicture(const QString &name);
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    QString caption() const;
+
+    int m_textId = 0;
+    QString m_picture;
+};
+
+}  // namespace headunit

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+namespace headunit {
+
+/// The level of a channel, shown over whatever is on the screen while the driver turns it, and gone a moment later.
+class LevelOverlay : public QWidget {
+    Q_OBJECT
+public:
+    /// How long it stays after the last change.
+    static constexpr int showMilliseconds = 2000;
+
+    explicit LevelOverlay(QWidget *parent);
+
+    /// Shows \a level (0 to 40) of the channel whose name has that text id.
+    void showLevel(int nameTextId, int level);
+    int level() const { return m_level; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    int m_nameTextId = 0;
+    int m_level = 0;
+    QTimer m_hideTimer;
+};
+
+}  // namespace headunit

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "headunit/toolkit/unitapplication.h"
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+
+class QPainter;
+class QRect;
+
+namespace headunit {
+
+/// Sizes, colours and drawing shared by the host's own screens; the rest of the colours are the toolkit's.
+namespace look {
+
+constexpr int screenWidth = 1024;
+constexpr int screenHeight = 600;
+
+constexpr int valuePixels = 32;    ///< numbers that are read at a glance
+constexpr int captionPixels = 24;  ///< everything else
+constexpr int keySize = 80;        ///< smallest touch target
+constexpr int margin = 32;
+constexpr int gap = 12;
+
+constexpr QColor softText(0xB0, 0xBE, 0xCC);
+constexpr QColor warning(0xFF, 0xB4, 0x54);
+constexpr QColor bezel(0x05, 0x06, 0x08);
+constexpr QColor litText(0x04, 0x14, 0x1C);  ///< on a key that lights up
+
+enum class KeyState { Normal, Pressed, Checked, Disabled };
+
+/// The unit's font at a size in pixels.
+QFont font(int pixels);
+/// Fills with the ground of every screen.
+void paintGround(QPainter &painter, const QRect &rect);
+/// A raised key.
+void paintKey(QPainter &painter, const QRect &rect, KeyState state);
+/// Path of one of the host's pictures.
+QString picture(const QString &name);
+
+}  // namespace look
+
+}  // namespace headunit

@@ -1,0 +1,183 @@
+#include "headunit/host/deskscripttarget.h"
+#include "headunit/host/deskwindow.h"
+#include "headunit/host/hardkeys.h"
+#include "headunit/host/hostapplication.h"
+#include "headunit/host/options.h"
+#include "headunit/host/plugincatalog.h"
+#include "headunit/host/unit.h"
+#include "headunit/settings/trace.h"
+#include "headunit/settings/unitroot.h"
+#include "headunit/settings/unitsettings.h"
+#include "headunit/toolkit/unitapplication.h"
+#include "headunit/virtualtime/virtualtime.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+#include <QTime>
+
+#include <cstdio>
+#include <memory>
+
+using namespace headunit;
+
+namespace {
+
+constexpr int exitGood = 0;
+constexpr int exitUnusable = 2;
+
+// What the status bar shows wherever pictures must be the same at every run.
+const char fixedTime[] = "10:08";
+
+int refuse(const QString &reason) {
+    std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(reason));
+    return exitUnusable;
+}
+
+/// The command line as texts, before there is an application object.
+QStringList texts(int argc, char **argv) {
+    QStringList list;
+    for (int i = 0; i < argc; ++i) {
+        list << QString::fromLocal8Bit(argv[i]);
+    }
+    return list;
+}
+
+int printHelpOrVersion(const Options &options, int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    if (options.help) {
+        std::fputs(qUtf8Printable(optionsHelp()), stdout);
+    } else {
+        std::puts("headunit " HEADUNIT_VERSION);
+    }
+    return exitGood;
+}
+
+/// Without a display, and without a platform that needs none, the unit can only be looked at in pictures.
+void fallBackToTour(Options *options) {
+    if (!qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+        !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        return;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (options->scripted() || options->exitWhenShown) {
+        return;
+    }
+    options->tour = QDir::temp().filePath(QStringLiteral("headunit-tour"));
+    std::fprintf(stderr, "headunit: there is no display; a picture of every screen goes to %s\n",
+                 qUtf8Printable(options->tour));
+}
+
+/// Why the files that the options name cannot be used, or an empty text.
+QString fileProblem(const Options &options) {
+    if (!options.script.isEmpty()) {
+        QFile script(options.script);
+        if (!QFileInfo(options.script).isFile() || !script.open(QIODevice::ReadOnly)) {
+            return QStringLiteral("--script %1: there is no such file, or it cannot be read").arg(options.script);
+        }
+    }
+    for (const QString &folder : {options.root, options.tour}) {
+        if (!folder.isEmpty() && !QDir().mkpath(folder)) {
+            return QStringLiteral("%1: the folder cannot be made").arg(folder);
+        }
+    }
+    return QString();
+}
+
+void printTrace() {
+    setTraceSink([](const TraceEntry &entry) {
+        std::printf("%s -> %s\n", qUtf8Printable(entry.call), qUtf8Printable(entry.meaning));
+    });
+}
+
+int runUnit(const Options &options, HostApplication &application, VirtualTime *time) {
+    PluginCatalog catalog;
+    const QStringList files =
+        options.plugins.isEmpty()
+            ? QStringList(application.applicationDirPath() + QStringLiteral("/../lib/plugins/libaudiosetting.so"))
+            : options.plugins;
+    for (const QString &file : files) {
+        catalog.load(file);
+    }
+    for (const QString &failure : catalog.failures()) {
+        std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(failure));
+    }
+    // With a plug-in that failed the name may well be right; the home screen then says what is wrong.
+    if (!options.open.isEmpty() && !catalog.find(options.open) && catalog.failures().isEmpty()) {
+        return refuse(QStringLiteral("--open %1: there is no application of that name").arg(options.open));
+    }
+
+    DeskWindow window;
+    const bool fixed = time != nullptr;
+    Unit unit(catalog, window.screen(), [fixed] {
+        return fixed ? QString::fromLatin1(fixedTime) : QTime::currentTime().toString(QStringLiteral("HH:mm"));
+    });
+    QObject::connect(&application, &HostApplication::touched, &unit, &Unit::touch);
+    QObject::connect(window.hardKeys(), &HardKeys::keyPressed, &unit, &Unit::pressHardKey);
+    QObject::connect(window.hardKeys(), &HardKeys::keyReleased, &unit, &Unit::releaseHardKey);
+    if (options.language.isEmpty()) {
+        unit.restoreLanguage();
+    } else if (!unit.setLanguage(options.language)) {
+        return refuse(QStringLiteral("--language %1: there is no such language").arg(options.language));
+    }
+    if (options.open.isEmpty() || !unit.openApplication(options.open, Unit::Home)) {
+        unit.showHome();
+    }
+    if (options.exitWhenShown) {
+        QObject::connect(&window, &DeskWindow::painting, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+    }
+    window.show();
+    if (!options.scripted()) {
+        return application.exec();
+    }
+    DeskScriptTarget target(window, unit, time);
+    target.wait(0);
+    return runScript(target, options.script, options.tour);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    const ParsedOptions parsed = parseOptions(texts(argc, argv));
+    if (!parsed.error.isEmpty()) {
+        return refuse(parsed.error);
+    }
+    Options options = parsed.options;
+    if (options.help || options.version) {
+        return printHelpOrVersion(options, argc, argv);
+    }
+    fallBackToTour(&options);
+    const QString problem = fileProblem(options);
+    if (!problem.isEmpty()) {
+        return refuse(problem);
+    }
+
+    // Lines must not be lost, nor change their order, when the process is ended from outside.
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+    QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, options.verbose);
+    if (options.scale != 1) {
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+    }
+    prepareUnitApplication();
+    const bool virtualTime = options.scripted() && qgetenv("QT_QPA_PLATFORM") == "offscreen";
+    VirtualTime *const time = virtualTime ? new VirtualTime : nullptr;
+    HostApplication application(argc, argv);
+    setUpUnitApplication();
+
+    // The tour shows the unit as it leaves the factory, and leaves the user's settings alone.
+    std::unique_ptr<QTemporaryDir> tourRoot;
+    if (!options.tour.isEmpty() && options.root.isEmpty()) {
+        tourRoot = std::make_unique<QTemporaryDir>();
+        options.root = tourRoot->path();
+    }
+    setUnitRoot(options.root);
+    openSettings();
+    if (options.trace) {
+        printTrace();
+    }
+    const int result = runUnit(options, application, time);
+    setTraceSink({});
+    closeSettings();
+    return result;
+}

@@ -1,0 +1,112 @@
+#include "headunit/host/options.h"
+
+#include <QCommandLineParser>
+
+namespace headunit {
+
+namespace {
+
+constexpr double smallestScale = 0.25;
+constexpr double largestScale = 8;
+
+struct OptionRow {
+    const char *name;
+    const char *value;  ///< what the value is called in the help; null for a flag
+    const char *description;
+};
+
+constexpr OptionRow optionRows[] = {
+    {"help", nullptr, "Print this help."},
+    {"version", nullptr, "Print the version."},
+    {"root", "DIR", "Folder that stands for the unit's file system. Default: a folder below your user data."},
+    {"scale", "N", "Size of the screen on dense displays. Default: 1."},
+    {"language", "xx", "Language: en, de, fr, es or ja. Default: the one last chosen, at first English."},
+    {"open", "NAME", "Open an application at once, for example audiosetting."},
+    {"script", "FILE.js", "Run a script (JavaScript) and end with its result."},
+    {"tour", "DIR", "Visit every screen, leave a picture of each in a folder, and end."},
+    {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
+    {"verbose", nullptr, "Print debug lines."},
+    {"exit-when-shown", nullptr, "End once the first screen is painted; for measuring the start."},
+};
+
+void setUp(QCommandLineParser &parser) {
+    parser.setApplicationDescription(
+        QStringLiteral("A car's head unit on the desk: loads applications and shows them on a 1024 x 600 screen."));
+    for (const OptionRow &row : optionRows) {
+        parser.addOption(QCommandLineOption(QString::fromLatin1(row.name), QString::fromLatin1(row.description),
+                                            QString::fromLatin1(row.value)));
+    }
+    parser.addPositionalArgument(QStringLiteral("plugins"),
+                                 QStringLiteral("Applications to load. Default: the one built beside this program."),
+                                 QStringLiteral("[plugin.so...]"));
+}
+
+/// Why the values cannot be used, or an empty text.
+QString problem(const QCommandLineParser &parser) {
+    for (const OptionRow &row : optionRows) {
+        if (!row.value) {
+            continue;
+        }
+        const QString name = QString::fromLatin1(row.name);
+        const QStringList values = parser.values(name);
+        if (values.size() > 1) {
+            return QStringLiteral("--%1 is given more than once").arg(name);
+        }
+        if (!values.isEmpty() && values.first().isEmpty()) {
+            return QStringLiteral("--%1 needs a value (%2)").arg(name, QString::fromLatin1(row.value));
+        }
+    }
+    if (parser.isSet(QStringLiteral("scale"))) {
+        const QString text = parser.value(QStringLiteral("scale"));
+        bool isNumber = false;
+        const double scale = text.toDouble(&isNumber);
+        // Written so that "nan" fails too.
+        if (!isNumber || !(scale >= smallestScale && scale <= largestScale)) {
+            return QStringLiteral("--scale %1: a number from %2 to %3 is needed")
+                .arg(text)
+                .arg(smallestScale)
+                .arg(largestScale);
+        }
+    }
+    if (parser.isSet(QStringLiteral("script")) && parser.isSet(QStringLiteral("tour"))) {
+        return QStringLiteral("--script and --tour do not go together");
+    }
+    return QString();
+}
+
+}  // namespace
+
+ParsedOptions parseOptions(const QStringList &arguments) {
+    QCommandLineParser parser;
+    setUp(parser);
+    ParsedOptions parsed;
+    if (!parser.parse(arguments)) {
+        parsed.error = parser.errorText();
+        return parsed;
+    }
+    parsed.error = problem(parser);
+    Options &options = parsed.options;
+    options.plugins = parser.positionalArguments();
+    options.root = parser.value(QStringLiteral("root"));
+    if (parser.isSet(QStringLiteral("scale"))) {
+        options.scale = parser.value(QStringLiteral("scale")).toDouble();
+    }
+    options.language = parser.value(QStringLiteral("language"));
+    options.open = parser.value(QStringLiteral("open"));
+    options.script = parser.value(QStringLiteral("script"));
+    options.tour = parser.value(QStringLiteral("tour"));
+    options.trace = parser.isSet(QStringLiteral("trace"));
+    options.verbose = parser.isSet(QStringLiteral("verbose"));
+    options.exitWhenShown = parser.isSet(QStringLiteral("exit-when-shown"));
+    options.help = parser.isSet(QStringLiteral("help"));
+    options.version = parser.isSet(QStringLiteral("version"));
+    return parsed;
+}
+
+QString optionsHelp() {
+    QCommandLineParser parser;
+    setUp(parser);
+    return parser.helpText();
+}
+
+}  // namespace headunit

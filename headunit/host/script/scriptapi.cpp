@@ -1,0 +1,303 @@
+#include "headunit/host/script/scriptapi.h"
+
+#include "audioservice.h"
+#include "headunit/host/script/soundobject.h"
+#include "headunit/host/scripttarget.h"
+#include "headunit/settings/unitsettings.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QJSEngine>
+#include <QMetaMethod>
+#include <QPixmap>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+QT_BEGIN_NAMESPACE
+// Delivers a mouse event to a window the way the window system does, so that it takes the road of a real one.
+Q_GUI_EXPORT void qt_handleMouseEvent(QWindow *window, const QPointF &local, const QPointF &global,
+                                      Qt::MouseButtons state, Qt::MouseButton button, QEvent::Type type,
+                                      Qt::KeyboardModifiers mods, int timestamp);
+QT_END_NAMESPACE
+
+namespace headunit {
+
+namespace {
+
+// A finger as a touch screen reports it: a position each 16 ms, at most so far from the one before.
+constexpr int moveInterval = 16;
+constexpr double moveStep = 8;
+
+}  // namespace
+
+ScriptApi::ScriptApi(ScriptTarget &target, QJSEngine *engine, const QString &folder)
+    : QObject(engine), m_target(target), m_engine(engine), m_folder(folder) {}
+
+void ScriptApi::install() {
+    const QJSValue self = m_engine->newQObject(this);
+    for (int i = metaObject()->methodOffset(); i < metaObject()->methodCount(); ++i) {
+        const QString name = QString::fromLatin1(metaObject()->method(i).name());
+        m_engine->globalObject().setProperty(name, self.property(name));
+    }
+}
+
+void ScriptApi::fail(const QString &message) {
+    m_engine->throwError(message);
+}
+
+QWidget *ScriptApi::find(const QString &name) {
+    QList<QWidget *> found;
+    for (QWidget *widget : m_target.window()->findChildren<QWidget *>(name)) {
+        if (widget->isVisible()) {
+            found << widget;
+        }
+    }
+    if (found.size() == 1) {
+        return found.first();
+    }
+    fail(found.isEmpty() ? QStringLiteral("nothing named \"%1\" is visible").arg(name)
+                         : QStringLiteral("%1 visible objects are named \"%2\"").arg(found.size()).arg(name));
+    return nullptr;
+}
+
+bool ScriptApi::locate(const QJSValue &place, const QJSValue &y, QPoint *position) {
+    if (place.isNumber() && y.isNumber()) {
+        *position = QPoint(place.toInt(), y.toInt());
+        if (!m_target.window()->rect().contains(*position)) {
+            fail(QStringLiteral("%1, %2 is outside the screen").arg(position->x()).arg(position->y()));
+            return false;
+        }
+        return true;
+    }
+    if (!place.isString()) {
+        fail(QStringLiteral("a place is a name, or x and y"));
+        return false;
+    }
+    QWidget *const widget = find(place.toString());
+    if (!widget) {
+        return false;
+    }
+    *position = widget->mapTo(m_target.window(), widget->rect().center());
+    QWidget *const top = m_target.window()->childAt(*position);
+    if (top != widget && !widget->isAncestorOf(top)) {
+        fail(QStringLiteral("\"%1\" is covered by \"%2\"")
+                 .arg(widget->objectName(), top ? top->objectName() : QString()));
+        return false;
+    }
+    return true;
+}
+
+void ScriptApi::send(QEvent::Type type, QPoint position) {
+    QWidget *const window = m_target.window();
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    qt_handleMouseEvent(window->windowHandle(), position, window->mapToGlobal(position),
+                        m_down ? Qt::LeftButton : Qt::NoButton, button, type, Qt::NoModifier, m_timestamp);
+    m_target.wait(0);
+}
+
+void ScriptApi::tap(const QJSValue &place, const QJSValue &y) {
+    press(place, y);
+    if (m_down) {
+        release();
+    }
+}
+
+void ScriptApi::press(const QJSValue &place, const QJSValue &y) {
+    if (m_down) {
+        fail(QStringLiteral("the finger is down already"));
+    } else if (locate(place, y, &m_finger)) {
+        m_down = true;
+        send(QEvent::MouseButtonPress, m_finger);
+    }
+}
+
+void ScriptApi::move(int x, int y) {
+    if (!m_down) {
+        fail(QStringLiteral("the finger is not down"));
+        return;
+    }
+    moveTo(QPoint(x, y));
+}
+
+void ScriptApi::moveTo(QPoint position) {
+    const QPoint start = m_finger;
+    const QPoint way = position - start;
+    const int steps = qMax(1, int(std::ceil(std::hypot(way.x(), way.y()) / moveStep)));
+    for (int i = 1; i <= steps; ++i) {
+        m_finger = start + way * (double(i) / steps);
+        wait(moveInterval);
+        send(QEvent::MouseMove, m_finger);
+    }
+}
+
+void ScriptApi::release() {
+    if (!m_down) {
+        fail(QStringLiteral("the finger is not down"));
+        return;
+    }
+    m_down = false;
+    send(QEvent::MouseButtonRelease, m_finger);
+}
+
+void ScriptApi::drag(const QString &name, const QJSValue &from, const QJSValue &y1, const QJSValue &x2,
+                     const QJSValue &y2) {
+    QWidget *const widget = find(name);
+    if (!widget) {
+        return;
+    }
+    QVector<QPoint> points;
+    if (from.isArray()) {
+        const int count = from.property(QStringLiteral("length")).toInt();
+        for (int i = 0; i < count; ++i) {
+            points << QPoint(from.property(i).property(0).toInt(), from.property(i).property(1).toInt());
+        }
+    } else {
+        points << QPoint(from.toInt(), y1.toInt()) << QPoint(x2.toInt(), y2.toInt());
+    }
+    if (points.size() < 2) {
+        fail(QStringLiteral("a drag needs two points at least"));
+        return;
+    }
+    const QPoint origin = widget->mapTo(m_target.window(), QPoint());
+    const QPoint start = origin + points.takeFirst();
+    press(start.x(), start.y());
+    for (const QPoint &point : qAsConst(points)) {
+        if (m_down) {
+            moveTo(origin + point);
+        }
+    }
+    if (m_down) {
+        release();
+    }
+}
+
+void ScriptApi::wait(int ms) {
+    m_timestamp += ms;
+    m_target.wait(ms);
+}
+
+void ScriptApi::shot(const QString &file, const QString &description) {
+    const QString path = QDir(m_folder).filePath(file);
+    QDir().mkpath(QFileInfo(path).path());
+    if (!m_target.screen()->grab().save(path)) {
+        fail(QStringLiteral("cannot write %1").arg(path));
+        return;
+    }
+    if (!description.isEmpty()) {
+        log(QStringLiteral("%1  %2").arg(file, description));
+    }
+}
+
+bool ScriptApi::read(const QString &name, const QString &property, QJSValue *value) {
+    QWidget *const widget = find(name);
+    if (!widget) {
+        return false;
+    }
+    const QVariant variant = widget->property(property.toLatin1());
+    if (!variant.isValid()) {
+        fail(QStringLiteral("\"%1\" has no property \"%2\"").arg(name, property));
+        return false;
+    }
+    *value = m_engine->toScriptValue(variant);
+    return true;
+}
+
+QJSValue ScriptApi::get(const QString &name, const QString &property) {
+    QJSValue value;
+    read(name, property, &value);
+    return value;
+}
+
+void ScriptApi::expect(const QJSValue &what, const QJSValue &property, const QJSValue &value) {
+    if (value.isUndefined()) {
+        if (!what.toBool()) {
+            fail(property.isUndefined() ? QStringLiteral("expectation failed") : property.toString());
+        }
+        return;
+    }
+    const QString name = what.toString();
+    QJSValue actual;
+    if (property.toString() == QLatin1String("visible")) {
+        // The one property of a widget that is not visible.
+        const QList<QWidget *> widgets = m_target.window()->findChildren<QWidget *>(name);
+        actual = std::any_of(widgets.begin(), widgets.end(), [](const QWidget *widget) { return widget->isVisible(); });
+    } else if (!read(name, property.toString(), &actual)) {
+        return;
+    }
+    if (!actual.strictlyEquals(value)) {
+        fail(QStringLiteral("%1.%2 is %3, expected %4")
+                 .arg(name, property.toString(), actual.toString(), value.toString()));
+    }
+}
+
+void ScriptApi::log(const QJSValue &text) {
+    std::printf("%s\n", qUtf8Printable(text.toString()));
+    std::fflush(stdout);
+}
+
+QJSValue ScriptApi::store(const QString &key) {
+    const SettingsMap &audio = audioStore().values();
+    return m_engine->toScriptValue(audio.contains(key) ? audio.value(key) : sharedStore().values().value(key));
+}
+
+void ScriptApi::setStore(const QString &key, const QJSValue &value) {
+    // Numbers of scripts are real ones; the unit's settings are whole ones.
+    audioStore().set(key, value.isNumber() ? QVariant(value.toInt()) : value.toVariant());
+}
+
+QJSValue ScriptApi::sound() {
+    return soundObject(*m_engine);
+}
+
+void ScriptApi::language(const QString &code) {
+    if (!m_target.setLanguage(code)) {
+        fail(QStringLiteral("there is no language \"%1\"").arg(code));
+    }
+    m_target.wait(0);
+}
+
+void ScriptApi::request() {
+    if (!m_target.requestVolumeSettings()) {
+        fail(QStringLiteral("there are no audio settings to open"));
+    }
+    m_target.wait(0);
+}
+
+void ScriptApi::volume(int type, int level) {
+    qvaudio::AudioService::instance()->setVolumeLevel(level, type);
+    m_target.wait(0);
+}
+
+void ScriptApi::source(int number) {
+    if (!m_target.setSource(number)) {
+        fail(QStringLiteral("there is no source %1").arg(number));
+    }
+}
+
+void ScriptApi::call(bool active) {
+    m_target.setCallActive(active);
+    m_target.wait(0);
+}
+
+void ScriptApi::open(const QString &application) {
+    if (!m_target.openApplication(application)) {
+        fail(QStringLiteral("there is no application \"%1\"").arg(application));
+    }
+    m_target.wait(0);
+}
+
+void ScriptApi::home() {
+    m_target.showHome();
+    m_target.wait(0);
+}
+
+void ScriptApi::car() {
+    m_target.showCar();
+    m_target.wait(0);
+}
+
+}  // namespace headunit

@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QEvent>
+#include <QJSValue>
+#include <QObject>
+#include <QPoint>
+
+class QJSEngine;
+
+namespace headunit {
+
+class ScriptTarget;
+
+/// The functions that a script sees. Each invokable method is a global function of that name.
+///
+/// Places are a widget's object name (its centre), or x and y on the screen. A failure is thrown as a script error.
+class ScriptApi : public QObject {
+    Q_OBJECT
+public:
+    /// Pictures with a relative name go to \a folder. The engine owns the object.
+    ScriptApi(ScriptTarget &target, QJSEngine *engine, const QString &folder);
+
+    /// Makes the methods global functions of the engine.
+    void install();
+
+    // The finger.
+    Q_INVOKABLE void tap(const QJSValue &place, const QJSValue &y = QJSValue());
+    Q_INVOKABLE void press(const QJSValue &place, const QJSValue &y = QJSValue());
+    Q_INVOKABLE void move(int x, int y);
+    Q_INVOKABLE void release();
+    /// drag(name, x1, y1, x2, y2) or drag(name, [[x, y], ...]): positions inside the widget.
+    Q_INVOKABLE void drag(const QString &name, const QJSValue &from, const QJSValue &y1 = QJSValue(),
+                          const QJSValue &x2 = QJSValue(), const QJSValue &y2 = QJSValue());
+    Q_INVOKABLE void wait(int ms);
+
+    // Looking.
+    /// Saves a picture of the screen. With a description, prints it beside the file's name.
+    Q_INVOKABLE void shot(const QString &file, const QString &description = QString());
+    /// expect(condition), expect(condition, message) or expect(name, property, value).
+    Q_INVOKABLE void expect(const QJSValue &what, const QJSValue &property = QJSValue(),
+                            const QJSValue &value = QJSValue());
+    Q_INVOKABLE QJSValue get(const QString &name, const QString &property);
+    Q_INVOKABLE QJSValue store(const QString &key);
+    /// The sound state, as an object.
+    Q_INVOKABLE QJSValue sound();
+    Q_INVOKABLE void log(const QJSValue &text);
+
+    // The rest of the car.
+    Q_INVOKABLE void setStore(const QString &key, const QJSValue &value);
+    Q_INVOKABLE void language(const QString &code);
+    Q_INVOKABLE void request();
+    Q_INVOKABLE void volume(int type, int level);
+    Q_INVOKABLE void source(int number);
+    Q_INVOKABLE void call(bool active);
+    Q_INVOKABLE void open(const QString &application);
+    Q_INVOKABLE void home();
+    Q_INVOKABLE void car();
+
+private:
+    void fail(const QString &message);
+    /// The one visible widget of that name; null, with a script error, if there is none or more than one.
+    QWidget *find(const QString &name);
+    /// A property's value; false with a script error if there is none.
+    bool read(const QString &name, const QString &property, QJSValue *value);
+    /// The position in the window; false with a script error if there is none.
+    bool locate(const QJSValue &place, const QJSValue &y, QPoint *position);
+    void send(QEvent::Type type, QPoint position);
+    void moveTo(QPoint position);
+
+    ScriptTarget &m_target;
+    QJSEngine *const m_engine;
+    const QString m_folder;
+    QPoint m_finger;
+    bool m_down = false;
+    int m_timestamp = 0;
+};
+
+}  // namespace headunit

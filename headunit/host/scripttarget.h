@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace headunit {
+
+/// What a script can do with the unit besides touching it. The script engine is a library of its own, loaded only
+/// when there is a script; this is all that it knows of the host.
+class ScriptTarget {
+public:
+    virtual ~ScriptTarget() = default;
+
+    /// The desk window, with the screen and the hard keys.
+    virtual QWidget *window() = 0;
+    /// The screen of 1024 x 600.
+    virtual QWidget *screen() = 0;
+    /// Lets \a ms milliseconds pass, delivering what falls due. 0: delivers what is pending.
+    virtual void wait(int ms) = 0;
+
+    virtual bool openApplication(const QString &id) = 0;
+    virtual void showHome() = 0;
+    virtual void showCar() = 0;
+    virtual bool requestVolumeSettings() = 0;
+    virtual void setCallActive(bool active) = 0;
+    virtual bool setSource(int source) = 0;
+    virtual bool setLanguage(const QString &code) = 0;
+};
+
+/// Runs a script; an empty \a file is the built-in tour. Pictures go to \a folder. Returns the process's exit code.
+/// Exported by the script library under the name scriptEntryName.
+using ScriptEntry = int (*)(ScriptTarget *target, const QString *file, const QString *folder);
+constexpr char scriptEntryName[] = "headunitRunScript";
+
+}  // namespace headunit

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QVector>
+
+class KeyEvent;
+class QWidget;
+class WindowInterface;
+
+namespace headunit {
+
+/// Drives the life cycle of the applications' windows: at most one is in front, on a stage widget that it fills.
+///
+/// Opening: onCreate, onShow, onEnter. Leaving: onExit, onHide. At the end of the unit: onDestroy, for each window
+/// that was ever opened.
+class Stage : public QObject {
+    Q_OBJECT
+public:
+    /// Shows windows as children of \a stage, above its other children.
+    explicit Stage(QWidget *stage, QObject *parent = nullptr);
+
+    /// The window in front, or null.
+    WindowInterface *front() const { return m_front; }
+
+    /// Brings a window to the front, leaving the one that is there. False if it has no widget to show.
+    bool open(WindowInterface *window);
+    /// Takes the window in front off the stage.
+    void leave();
+    /// Leaves, and ends every window. The windows may be deleted afterwards; releaseWidgets() then frees what they
+    /// showed.
+    void shutDown();
+    /// Deletes the widgets that shown windows left behind. The windows must be gone.
+    void releaseWidgets();
+
+    /// Offers a hard key to the window in front. True if it used it.
+    bool offerKey(KeyEvent *event);
+    /// Asks the window in front whether it answers Back itself.
+    bool offerBack();
+
+Q_SIGNALS:
+    /// Another window, or none, is in front.
+    void frontChanged();
+
+private:
+    void takeUpWidget(QWidget *widget);
+
+    QWidget *const m_stage;
+    WindowInterface *m_front = nullptr;
+    QVector<WindowInterface *> m_created;
+    QVector<QPointer<QWidget>> m_widgets;
+};
+
+}  // namespace headunit

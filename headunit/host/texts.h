@@ -1,0 +1,31 @@
+#pragma once
+
+namespace headunit {
+
+/// Ids of the texts that the host's own screens show; their rows are in headunit/translations/headunit_*.ts.
+namespace texts {
+
+constexpr int audioSettings = 20001;
+constexpr int car = 20002;
+constexpr int source = 20003;
+constexpr int channel = 20004;
+constexpr int level = 20005;
+constexpr int language = 20006;
+constexpr int volumeSettings = 20007;
+constexpr int startCall = 20008;
+constexpr int endCall = 20009;
+constexpr int callInProgress = 20010;
+
+struct Channel {
+    int type;  ///< as the audio service counts
+    int textId;
+};
+/// The volume channels that have a name.
+constexpr Channel channels[] = {{0, 20011}, {1, 20012}, {2, 20013}, {3, 20014}, {4, 20015}, {6, 20016}};
+
+/// Names of the audio sources, in the order of their numbers.
+constexpr int sources[] = {361, 16, 1084, 14, 15, 427, 20017};
+
+}  // namespace texts
+
+}  // namespace headunit

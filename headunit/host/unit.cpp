@@ -1,0 +1,328 @@
+#include "headunit/host/unit.h"
+
+#include "audioservice.h"
+#include "headunit/audio/soundmodel.h"
+#include "headunit/host/callscreen.h"
+#include "headunit/host/carscreen.h"
+#include "headunit/host/homescreen.h"
+#include "headunit/host/leveloverlay.h"
+#include "headunit/host/plugincatalog.h"
+#include "headunit/host/stage.h"
+#include "headunit/host/texts.h"
+#include "headunit/toolkit/language.h"
+#include "headunit/toolkit/sourcedisplay.h"
+#include "headunit/toolkit/statusbar.h"
+#include "keyevent.h"
+#include "settingscache.h"
+#include "settingsfunc.h"
+#include "statusbarcontrol.h"
+#include "touchevent.h"
+
+#include <QDebug>
+
+#include <iterator>
+#include <utility>
+
+namespace headunit {
+
+namespace {
+
+const QLatin1String audioSettingsId("audiosetting");
+// What another application writes to have Audio Settings open its Volume Settings page.
+const QLatin1String pageRequestKey("SettingTouchPageType");
+// The language last chosen, as a number in the order of Language::all().
+const QLatin1String languageKey("UnitLanguage");
+constexpr int volumePageRequest = 3;
+
+constexpr int largestLevel = 40;
+constexpr int mainChannel = 0;  ///< index into texts::channels
+constexpr int phoneChannel = 2;
+
+}  // namespace
+
+Unit::Unit(PluginCatalog &catalog, QWidget *screen, StatusBar::Clock clock)
+    : m_catalog(catalog), m_screen(screen), m_clock(std::move(clock)), m_stage(new Stage(screen, this)) {
+    setStatusBarObserver([this](bool) { updateStatusBar(); });
+}
+
+Unit::~Unit() {
+    setStatusBarObserver({});
+    shutDown();
+}
+
+void Unit::show(Place place) {
+    if (place == Car) {
+        showCar();
+    } else {
+        showHome();
+    }
+}
+
+void Unit::show(Place place, QWidget *widget) {
+    leaveApplication();
+    if (m_shown && m_shown != widget) {
+        m_shown->hide();
+    }
+    m_place = place;
+    m_shown = widget;
+    // An application may have hidden the bar; the host's own screens have it.
+    cm::StatusBarControl::instance()->sethide(false);
+    widget->show();
+    widget->raise();
+    updateStatusBar();
+}
+
+void Unit::showHome() {
+    show(Home, homeScreen());
+}
+
+void Unit::showCar() {
+    show(Car, carScreen());
+}
+
+bool Unit::openApplication(const QString &id, Place origin) {
+    const Application *application = m_catalog.find(id);
+    if (!application) {
+        return false;
+    }
+    if (!m_stage->open(application->window)) {
+        qWarning("%s: the application has nothing to show", qUtf8Printable(id));
+        showHome();
+        return false;
+    }
+    if (m_place != InApplication) {
+        m_origin = origin;
+    }
+    m_place = InApplication;
+    if (m_shown) {
+        m_shown->hide();
+        m_shown = nullptr;
+    }
+    updateStatusBar();
+    return true;
+}
+
+void Unit::leaveApplication() {
+    if (m_place == InApplication) {
+        m_place = Nowhere;
+        m_stage->leave();
+    }
+}
+
+bool Unit::requestVolumeSettings() {
+    mem::SettingsFunc::instance()->setValue(pageRequestKey, 0, volumePageRequest, true);
+    const Application *application = m_catalog.find(audioSettingsId);
+    if (application && m_stage->front() == application->window) {
+        Q_EMIT mem::SettingsCache::instance()->SettingsCacheSig(pageRequestKey);
+        return true;
+    }
+    // An application that is opened reads the request by itself; told twice, it would take the requested page for
+    // the one to return to.
+    return openApplication(audioSettingsId, m_place);
+}
+
+void Unit::startCall() {
+    if (m_callActive) {
+        return;
+    }
+    setCallActive(true);
+    m_beforeCall = m_place;
+    m_windowBeforeCall = m_stage->front();
+    show(Call, callScreen());
+}
+
+void Unit::endCall() {
+    if (!m_callActive) {
+        return;
+    }
+    setCallActive(false);
+    if (m_place != Call) {
+        return;
+    }
+    if (m_windowBeforeCall && m_stage->open(m_windowBeforeCall)) {
+        m_place = InApplication;
+        m_shown->hide();
+        m_shown = nullptr;
+        updateStatusBar();
+    } else {
+        show(m_beforeCall);
+    }
+}
+
+void Unit::setCallActive(bool active) {
+    m_callActive = active;
+    if (m_car) {
+        m_car->setCallActive(active);
+    }
+    if (m_statusBar) {
+        m_statusBar->setCallActive(active);
+    }
+}
+
+bool Unit::setSource(int source) {
+    if (source < 0 || source >= int(std::size(texts::sources))) {
+        return false;
+    }
+    m_source = source;
+    SoundModel::instance().setActiveSource(source);
+    setCurrentSourceDisplay(source);
+    if (m_car) {
+        m_car->setSource(source);
+    }
+    if (m_statusBar) {
+        m_statusBar->setSourceTextId(texts::sources[source]);
+    }
+    return true;
+}
+
+bool Unit::setLanguage(const QString &code) {
+    if (!Language::set(code)) {
+        return false;
+    }
+    if (m_car) {
+        m_car->setLanguage(code);
+    }
+    return true;
+}
+
+void Unit::chooseLanguage(const QString &code) {
+    const QVector<Language::Name> &all = Language::all();
+    for (int i = 0; i < all.size(); ++i) {
+        if (all[i].code == code && setLanguage(code)) {
+            mem::SettingsFunc::instance()->setValue(languageKey, 0, i, true);
+        }
+    }
+}
+
+void Unit::restoreLanguage() {
+    const int chosen = mem::SettingsFunc::instance()->getValue(languageKey, 0);
+    const QVector<Language::Name> &all = Language::all();
+    if (chosen >= 0 && chosen < all.size() && all[chosen].code != Language::current()) {
+        setLanguage(all[chosen].code);
+    }
+}
+
+void Unit::pressHardKey(int key) {
+    KeyEvent event(QEvent::KeyPress, key);
+    if (m_stage->offerKey(&event)) {
+        return;
+    }
+    switch (key) {
+        case KeyEvent::VolumeUp:
+            stepVolume(1);
+            break;
+        case KeyEvent::VolumeDown:
+            stepVolume(-1);
+            break;
+        case KeyEvent::Home:
+            showHome();
+            break;
+        case KeyEvent::Back:
+            if (m_place == Car) {
+                showHome();
+            } else if (m_place == InApplication && !m_stage->offerBack()) {
+                touch(Qx::TouchBack);
+            }
+            break;
+        default:
+            qDebug("no hard key %d", key);
+            break;
+    }
+}
+
+void Unit::releaseHardKey(int key) {
+    KeyEvent event(QEvent::KeyRelease, key);
+    m_stage->offerKey(&event);
+}
+
+void Unit::touch(int code) {
+    switch (code) {
+        case Qx::TouchBack:
+            if (m_place == InApplication) {
+                show(m_origin);
+            }
+            break;
+        case Qx::TouchClose:
+            showHome();
+            break;
+        default:
+            qDebug("touch code %d has no meaning here", code);
+            break;
+    }
+}
+
+void Unit::stepVolume(int by) {
+    const texts::Channel &channel = texts::channels[m_callActive ? phoneChannel : mainChannel];
+    qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
+    const int level = qBound(0, audio->getSourceVolByType(channel.type) + by, largestLevel);
+    audio->setVolumeLevel(level, channel.type);
+    if (!m_levelOverlay) {
+        m_levelOverlay = new LevelOverlay(m_screen);
+    }
+    m_levelOverlay->showLevel(channel.textId, level);
+}
+
+void Unit::shutDown() {
+    m_place = Nowhere;
+    m_stage->shutDown();
+    m_catalog.unload();
+    m_stage->releaseWidgets();
+}
+
+HomeScreen *Unit::homeScreen() {
+    if (!m_home) {
+        QStringList ids;
+        for (const Application &application : m_catalog.applications()) {
+            ids << application.id;
+        }
+        m_home = new HomeScreen(ids, m_catalog.failures(), m_screen);
+        connect(m_home, &HomeScreen::applicationChosen, this, [this](const QString &id) { openApplication(id, Home); });
+        connect(m_home, &HomeScreen::carChosen, this, &Unit::showCar);
+    }
+    return m_home;
+}
+
+CarScreen *Unit::carScreen() {
+    if (!m_car) {
+        m_car = new CarScreen(m_screen);
+        m_car->setSource(m_source);
+        m_car->setLanguage(Language::current());
+        m_car->setCallActive(m_callActive);
+        connect(m_car, &CarScreen::volumeSettingsRequested, this, &Unit::requestVolumeSettings);
+        connect(m_car, &CarScreen::sourceChosen, this, &Unit::setSource);
+        connect(m_car, &CarScreen::languageChosen, this, &Unit::chooseLanguage);
+        connect(m_car, &CarScreen::callToggled, this, [this] { m_callActive ? endCall() : startCall(); });
+    }
+    return m_car;
+}
+
+CallScreen *Unit::callScreen() {
+    if (!m_call) {
+        m_call = new CallScreen(m_screen);
+        connect(m_call, &CallScreen::ended, this, &Unit::endCall);
+    }
+    return m_call;
+}
+
+StatusBar *Unit::statusBar() {
+    if (!m_statusBar) {
+        m_statusBar = new StatusBar(m_clock, m_screen);
+        m_statusBar->setSourceTextId(texts::sources[m_source]);
+        m_statusBar->setCallActive(m_callActive);
+    }
+    return m_statusBar;
+}
+
+void Unit::updateStatusBar() {
+    if (!statusBarHidden()) {
+        statusBar()->show();
+        m_statusBar->raise();
+    } else if (m_statusBar) {
+        m_statusBar->hide();
+    }
+    if (m_levelOverlay) {
+        m_levelOverlay->raise();
+    }
+}
+
+}  // namespace headunit

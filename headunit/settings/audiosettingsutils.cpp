@@ -1,0 +1,91 @@
+#include "platform/audiosettingsutils.h"
+
+#include "audiokeys.h"
+#include "soundlistener.h"
+#include "trace.h"
+#include "unitsettings.h"
+
+using headunit::SettingKey;
+using headunit::SoundPart;
+using headunit::traceCall;
+using headunit::traceValue;
+
+struct AudioSettingsUtils::Private {
+    headunit::SettingsStore &store = headunit::audioStore();
+
+    void restoreDefault(const QString &key, int defaultValue) {
+        HEADUNIT_TRACE(QStringLiteral("%1 = %2").arg(key).arg(defaultValue),
+                       QStringLiteral("store: %1 = %2").arg(key).arg(defaultValue));
+        store.set(key, defaultValue);
+    }
+};
+
+AudioSettingsUtils::AudioSettingsUtils() : d(new Private) {}
+
+AudioSettingsUtils::~AudioSettingsUtils() {
+    delete d;
+}
+
+AudioSettingsUtils *AudioSettingsUtils::instance() {
+    static AudioSettingsUtils settings;
+    return &settings;
+}
+
+int AudioSettingsUtils::getValue(const QString &key, int defaultValue) {
+    const int value = d->store.intValue(key, defaultValue);
+    HEADUNIT_TRACE_READ(traceCall("getValue", {key, defaultValue}),
+                        QStringLiteral("store: %1 is %2").arg(key).arg(value));
+    return value;
+}
+
+bool AudioSettingsUtils::getValue(const QString &key, bool defaultValue) {
+    const bool value = d->store.boolValue(key, defaultValue);
+    HEADUNIT_TRACE_READ(traceCall("getValue", {key, defaultValue}),
+                        QStringLiteral("store: %1 is %2").arg(key, traceValue(value)));
+    return value;
+}
+
+void AudioSettingsUtils::setValue(const QString &key, const QVariant &defaultValue, const QVariant &value, bool save) {
+    HEADUNIT_TRACE(traceCall("setValue", {key, defaultValue, value, save}),
+                   QStringLiteral("store: %1 = %2").arg(key, traceValue(value)));
+    d->store.set(key, value);
+}
+
+void AudioSettingsUtils::clear(const QString &path) {
+    HEADUNIT_TRACE(traceCall("clear", {path}), QStringLiteral("all audio settings to the factory state"));
+    const headunit::FactoryState factory = headunit::factoryState(path);
+    if (!factory.problem.isEmpty()) {
+        qWarning("%s", qUtf8Printable(factory.problem));
+    }
+    d->store.replaceAll(factory.values);
+    headunit::notifySound(SoundPart::All);
+}
+
+void AudioSettingsUtils::flatCrossover() {
+    HEADUNIT_TRACE(traceCall("flatCrossover"), QStringLiteral("crossover flat: all three filters off"));
+    for (const headunit::FilterKeys &filter : headunit::keys::filters) {
+        for (const SettingKey &key : {filter.freq, filter.y, filter.heigh, filter.level, filter.slope}) {
+            d->restoreDefault(QString::fromLatin1(key.name), key.defaultValue);
+        }
+    }
+    headunit::notifySound(SoundPart::Crossover);
+    Q_EMIT signal_flatCrossover();
+}
+
+void AudioSettingsUtils::flatTimeDelay() {
+    HEADUNIT_TRACE(traceCall("flatTimeDelay"), QStringLiteral("all six delays 0 ms"));
+    for (int output = 0; output < headunit::keys::outputs; ++output) {
+        d->restoreDefault(QString::fromLatin1(headunit::keys::delay.name).arg(output),
+                          headunit::keys::delay.defaultValue);
+    }
+    headunit::notifySound(SoundPart::Delays);
+    Q_EMIT signal_flatTimeDelay();
+}
+
+void AudioSettingsUtils::updateDefeatSetup() {
+    HEADUNIT_TRACE(traceCall("updateDefeatSetup"), d->store.intValue(QString::fromLatin1(headunit::keys::defeat.name),
+                                                                     headunit::keys::defeat.defaultValue) != 0
+                                                       ? QStringLiteral("Defeat on: sound processing bypassed")
+                                                       : QStringLiteral("Defeat off: sound processing in force"));
+    headunit::notifySound(SoundPart::Defeat);
+}

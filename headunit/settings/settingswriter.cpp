@@ -1,0 +1,158 @@
+#include "settingswriter.h"
+
+#include <QtGlobal>
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+
+namespace headunit {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+struct SettingsWriter::Shared {
+    Shared(const SettingsFile &settingsFile, const SettingsMap &onDisk) : file(settingsFile), values(onDisk) {}
+
+    // Under the mutex, which is never held during work on the disk.
+    std::mutex mutex;
+    std::condition_variable wake;  ///< to the thread: changes, flush, quit
+    std::condition_variable done;  ///< from the thread: a save ended
+    SettingsMap pending;           ///< changed since the last save began; invalid values remove
+    SettingsMap replacement;
+    bool replace = false;
+    quint64 changes = 0;  ///< counts calls that changed something
+    quint64 saved = 0;    ///< the changes that are on the disk
+    quint64 tried = 0;    ///< the changes that the last save took along, also if it failed
+    Clock::time_point due;
+    quint64 savesBegun = 0;
+    quint64 savesEnded = 0;
+    bool flushNow = false;
+    bool quit = false;
+    bool finished = false;
+
+    // The thread's own.
+    SettingsFile file;
+    SettingsMap values;
+    bool failing = false;
+
+    void changed();
+    void takeChanges();
+    void saveChanges(std::unique_lock<std::mutex> &lock);
+};
+
+void SettingsWriter::Shared::changed() {
+    if (changes == tried) {  // the first of a gathering; a retry that waits is brought forward
+        due = Clock::now() + milliseconds(gatherTimeMs);
+        wake.notify_one();
+    }
+    ++changes;
+}
+
+void SettingsWriter::Shared::takeChanges() {
+    if (replace) {
+        values = replacement;
+        replacement.clear();
+        replace = false;
+    }
+    for (auto it = pending.cbegin(); it != pending.cend(); ++it) {
+        if (it.value().isValid()) {
+            values.insert(it.key(), it.value());
+        } else {
+            values.remove(it.key());
+        }
+    }
+    pending.clear();
+}
+
+void SettingsWriter::Shared::saveChanges(std::unique_lock<std::mutex> &lock) {
+    flushNow = false;
+    const quint64 taken = changes;
+    takeChanges();
+    tried = taken;
+    ++savesBegun;
+    lock.unlock();
+    QString problem;
+    const bool ok = file.save(values, &problem);
+    if (!ok && !failing) {
+        qWarning("%s; going on from memory and trying again", qUtf8Printable(problem));
+    } else if (ok && failing) {
+        qWarning("settings file %s is written again", qUtf8Printable(file.path()));
+    }
+    failing = !ok;
+    lock.lock();
+    if (ok) {
+        saved = taken;
+    } else if (changes == taken) {
+        due = Clock::now() + milliseconds(retryTimeMs);
+    }
+    ++savesEnded;
+    done.notify_all();
+}
+
+SettingsWriter::SettingsWriter(const SettingsFile &file, const SettingsMap &values)
+    : m_shared(std::make_shared<Shared>(file, values)), m_thread(&SettingsWriter::run, m_shared) {}
+
+SettingsWriter::~SettingsWriter() {
+    std::unique_lock<std::mutex> lock(m_shared->mutex);
+    m_shared->quit = true;
+    m_shared->wake.notify_one();
+    // A thread that waits for a dead disk is left behind: it works on what it shares only.
+    const bool ended = m_shared->done.wait_for(lock, milliseconds(flushTimeMs), [this] { return m_shared->finished; });
+    lock.unlock();
+    if (ended) {
+        m_thread.join();
+    } else {
+        qWarning("settings file %s: the disk does not answer", qUtf8Printable(m_shared->file.path()));
+        m_thread.detach();
+    }
+}
+
+void SettingsWriter::put(const QString &key, const QVariant &value) {
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    m_shared->pending.insert(key, value);
+    m_shared->changed();
+}
+
+void SettingsWriter::replaceAll(const SettingsMap &values) {
+    const std::lock_guard<std::mutex> lock(m_shared->mutex);
+    m_shared->pending.clear();
+    m_shared->replacement = values;
+    m_shared->replace = true;
+    m_shared->changed();
+}
+
+bool SettingsWriter::flush(int timeoutMs) {
+    std::unique_lock<std::mutex> lock(m_shared->mutex);
+    Shared &shared = *m_shared;
+    const quint64 wanted = shared.changes;
+    if (shared.saved >= wanted) {
+        return true;
+    }
+    shared.flushNow = true;
+    shared.wake.notify_one();
+    const quint64 nextSave = shared.savesBegun + 1;
+    const auto ended = [&shared, wanted, nextSave] { return shared.saved >= wanted || shared.savesEnded >= nextSave; };
+    return shared.done.wait_for(lock, milliseconds(timeoutMs), ended) && shared.saved >= wanted;
+}
+
+void SettingsWriter::run(const std::shared_ptr<Shared> &pointer) {
+    Shared &shared = *pointer;
+    std::unique_lock<std::mutex> lock(shared.mutex);
+    for (bool ending = false; !ending;) {
+        ending = shared.quit;
+        const bool changed = shared.saved != shared.changes;
+        if (changed && (ending || shared.flushNow || Clock::now() >= shared.due)) {
+            shared.saveChanges(lock);
+        } else if (changed) {
+            shared.wake.wait_until(lock, shared.due);
+        } else if (!ending) {
+            shared.flushNow = false;
+            shared.wake.wait(lock);
+        }
+    }
+    shared.finished = true;
+    shared.done.notify_all();
+}
+
+}  // namespace headunit

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QPixmap>
+#include <QString>
+#include <QUrl>
+
+namespace headunit {
+
+/// The file that a picture's URL names: ":/..." and "qrc:/..." are resources, the rest local files.
+QString picturePath(const QUrl &url);
+
+/// The picture of a file, from its "@2x" neighbour on a dense display; null where there is none. Files that are
+/// asked for again come from the application's pixmap cache.
+QPixmap loadPicture(const QString &path);
+
+/// Size of a picture in widget pixels, whatever its density.
+inline QSize pictureSize(const QPixmap &picture) {
+    return picture.size() / picture.devicePixelRatioF();
+}
+
+}  // namespace headunit

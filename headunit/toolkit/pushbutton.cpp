@@ -1,0 +1,93 @@
+#include "pushbutton.h"
+
+#include <QEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QTimer>
+
+namespace cm {
+
+namespace {
+
+const int defaultLongPressInterval = 1500;  // ms
+
+}  // namespace
+
+struct PushButton::Private : public QObject {
+    Private(PushButton *wrapper, QPushButton *target) : q(wrapper), button(target) {
+        timer.setTimerType(Qt::PreciseTimer);
+        timer.setSingleShot(true);
+        connect(&timer, &QTimer::timeout, this, [this] { held(); });
+        if (button) {
+            connect(button, &QPushButton::pressed, this, [this] { start(); });
+            connect(button, &QPushButton::released, this, [this] { timer.stop(); });
+            connect(button, &QObject::destroyed, this, [this] { timer.stop(); });
+            button->installEventFilter(this);
+        }
+    }
+
+    void start() {
+        repeating = false;
+        timer.start(longPressInterval);
+    }
+
+    /// The button may lose its press without a released(), for instance when setDown(false) takes it away.
+    bool isHeld() const {
+        const QPushButton *target = button;
+        return target && target->isDown() && target->isEnabled();
+    }
+
+    void held() {
+        if (!isHeld()) {
+            return;
+        }
+        // A slot may delete the wrapper or the button, or end the press.
+        const QPointer<Private> self(this);
+        if (!repeating) {
+            repeating = true;
+            emit q->longPressed();
+            if (!self || !isHeld()) {
+                return;
+            }
+        }
+        if (repeatInterval > 0) {
+            timer.start(repeatInterval);
+            emit q->longPressedRepeat();
+        }
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        QPushButton *target = button;  // null once the button's destructor runs
+        if (target && event->type() == QEvent::EnabledChange && !target->isEnabled()) {
+            timer.stop();
+        } else if (target && event->type() == QEvent::Hide) {
+            // The release of a hidden button goes to nobody; without this it would come back pressed.
+            timer.stop();
+            target->setDown(false);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+    PushButton *const q;
+    const QPointer<QPushButton> button;
+    QTimer timer;
+    int longPressInterval = defaultLongPressInterval;
+    int repeatInterval = 0;
+    bool repeating = false;
+};
+
+PushButton::PushButton(QPushButton *button, QObject *parent) : QObject(parent), d(new Private(this, button)) {}
+
+PushButton::~PushButton() {
+    delete d;
+}
+
+void PushButton::setLongPressedInterval(int ms) {
+    d->longPressInterval = qMax(0, ms);
+}
+
+void PushButton::setRepeatInterval(int ms) {
+    d->repeatInterval = qMax(0, ms);
+}
+
+}  // namespace cm

@@ -1,0 +1,304 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>Audiosetting_right_general_widget</name>
+    <message>
+        <source>Advanced</source>
+        <translation>Erweitert</translation>
+    </message>
+    <message>
+        <source>Defeat</source>
+        <translation>Bypass</translation>
+    </message>
+    <message>
+        <source>Subwoofer</source>
+        <translation>Subwoofer</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>Sub. Vol.</source>
+        <translation>Sub-Pegel</translation>
+    </message>
+    <message>
+        <source>BAL:</source>
+        <translation>BAL:</translation>
+    </message>
+    <message>
+        <source>FAD:</source>
+        <translation>FAD:</translation>
+    </message>
+</context>
+<context>
+    <name>AudiosettingsTop</name>
+    <message>
+        <source>Audio Settings</source>
+        <translation>Audioeinstellungen</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Linear</translation>
+    </message>
+</context>
+<context>
+    <name>AudiosettingsRoot</name>
+    <message>
+        <source>Loudness</source>
+        <translation>Loudness</translation>
+    </message>
+    <message>
+        <source>Source Gain</source>
+        <translation>Quellenpegel</translation>
+    </message>
+    <message>
+        <source>Volume Settings</source>
+        <translation>Lautstärken</translation>
+    </message>
+    <message>
+        <source>Reset Audio Settings</source>
+        <translation>Audio zurücksetzen</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_eq_widget</name>
+    <message>
+        <source>Flat</source>
+        <translation>Linear</translation>
+    </message>
+    <message>
+        <source>Preset1</source>
+        <translation>Preset 1</translation>
+    </message>
+    <message>
+        <source>Preset2</source>
+        <translation>Preset 2</translation>
+    </message>
+    <message>
+        <source>Preset3</source>
+        <translation>Preset 3</translation>
+    </message>
+    <message>
+        <source>Preset4</source>
+        <translation>Preset 4</translation>
+    </message>
+    <message>
+        <source>Preset5</source>
+        <translation>Preset 5</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_factoryeq_widget</name>
+    <message>
+        <source>Rock</source>
+        <translation>Rock</translation>
+    </message>
+    <message>
+        <source>Hip Hop</source>
+        <translation>Hip-Hop</translation>
+    </message>
+    <message>
+        <source>Electronic</source>
+        <translation>Electronic</translation>
+    </message>
+    <message>
+        <source>Jazz</source>
+        <translation>Jazz</translation>
+    </message>
+    <message>
+        <source>Pop</source>
+        <translation>Pop</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Linear</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_crossover_widget</name>
+    <message>
+        <source>Front1</source>
+        <translation>Vorne</translation>
+    </message>
+    <message>
+        <source>Rear</source>
+        <translation>Hinten</translation>
+    </message>
+    <message>
+        <source>Subwoofer</source>
+        <translation>Subwoofer</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>Flankensteilheit</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Pegel</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Presets</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_timing_widget</name>
+    <message>
+        <source>Front Left 1</source>
+        <translation>Vorne links</translation>
+    </message>
+    <message>
+        <source>Front Right 1</source>
+        <translation>Vorne rechts</translation>
+    </message>
+    <message>
+        <source>Rear Left</source>
+        <translation>Hinten links</translation>
+    </message>
+    <message>
+        <source>Rear Right</source>
+        <translation>Hinten rechts</translation>
+    </message>
+    <message>
+        <source>Subwoofer Left</source>
+        <translation>Subwoofer links</translation>
+    </message>
+    <message>
+        <source>Subwoofer Right</source>
+        <translation>Subwoofer rechts</translation>
+    </message>
+    <message>
+        <source>MSEC.</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Inches.</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Presets</translation>
+    </message>
+</context>
+<context>
+    <name>Audiovolumsettings</name>
+    <message>
+        <source>Main Volume</source>
+        <translation>Hauptlautstärke</translation>
+    </message>
+    <message>
+        <source>Phone Volume</source>
+        <translation>Telefonlautstärke</translation>
+    </message>
+    <message>
+        <source>Voice Volume</source>
+        <translation>Sprachlautstärke</translation>
+    </message>
+    <message>
+        <source>Navigation Volume</source>
+        <translation>Navigationslautstärke</translation>
+    </message>
+    <message>
+        <source>Ringtone Volume</source>
+        <translation>Klingeltonlautstärke</translation>
+    </message>
+    <message>
+        <source>TA Volume</source>
+        <translation>Verkehrsfunklautstärke</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosourcegainsettings</name>
+    <message>
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message>
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message>
+        <source>SiriusXM</source>
+        <translation>SiriusXM</translation>
+    </message>
+    <message>
+        <source>Bluetooth Music</source>
+        <translation>Bluetooth-Musik</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosourcegainsettings_b</name>
+    <message>
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message>
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message>
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
+    <message>
+        <source>Bluetooth Music</source>
+        <translation>Bluetooth-Musik</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosettingsreset</name>
+    <message>
+        <source>Yes, Reset my Audio Settings</source>
+        <translation>Ja, Einstellungen zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This will reset all of your audio settings.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Setzt alle Audioeinstellungen zurück.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Do you want to proceed?</source>
+        <translation>Möchten Sie fortfahren?</translation>
+    </message>
+    <message>
+        <source>Reset Successful</source>
+        <translation>Erfolgreich zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Achtung</translation>
+    </message>
+</context>
+<context>
+    <name>eq_adjust_fragment</name>
+    <message>
+        <source>EQ</source>
+        <translation>EQ</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Individuell</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,304 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>Audiosetting_right_general_widget</name>
+    <message>
+        <source>Advanced</source>
+        <translation>Avanzado</translation>
+    </message>
+    <message>
+        <source>Defeat</source>
+        <translation>Bypass</translation>
+    </message>
+    <message>
+        <source>Subwoofer</source>
+        <translation>Subwoofer</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Fase</translation>
+    </message>
+    <message>
+        <source>Sub. Vol.</source>
+        <translation>Vol. sub.</translation>
+    </message>
+    <message>
+        <source>BAL:</source>
+        <translation>BAL:</translation>
+    </message>
+    <message>
+        <source>FAD:</source>
+        <translation>FAD:</translation>
+    </message>
+</context>
+<context>
+    <name>AudiosettingsTop</name>
+    <message>
+        <source>Audio Settings</source>
+        <translation>Ajustes de audio</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Plano</translation>
+    </message>
+</context>
+<context>
+    <name>AudiosettingsRoot</name>
+    <message>
+        <source>Loudness</source>
+        <translation>Sonoridad</translation>
+    </message>
+    <message>
+        <source>Source Gain</source>
+        <translation>Ganancia de fuentes</translation>
+    </message>
+    <message>
+        <source>Volume Settings</source>
+        <translation>Ajustes de volumen</translation>
+    </message>
+    <message>
+        <source>Reset Audio Settings</source>
+        <translation>Restablecer audio</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_eq_widget</name>
+    <message>
+        <source>Flat</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Preset1</source>
+        <translation>Preajuste 1</translation>
+    </message>
+    <message>
+        <source>Preset2</source>
+        <translation>Preajuste 2</translation>
+    </message>
+    <message>
+        <source>Preset3</source>
+        <translation>Preajuste 3</translation>
+    </message>
+    <message>
+        <source>Preset4</source>
+        <translation>Preajuste 4</translation>
+    </message>
+    <message>
+        <source>Preset5</source>
+        <translation>Preajuste 5</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_factoryeq_widget</name>
+    <message>
+        <source>Rock</source>
+        <translation>Rock</translation>
+    </message>
+    <message>
+        <source>Hip Hop</source>
+        <translation>Hip hop</translation>
+    </message>
+    <message>
+        <source>Electronic</source>
+        <translation>Electrónica</translation>
+    </message>
+    <message>
+        <source>Jazz</source>
+        <translation>Jazz</translation>
+    </message>
+    <message>
+        <source>Pop</source>
+        <translation>Pop</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Plano</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_crossover_widget</name>
+    <message>
+        <source>Front1</source>
+        <translation>Delantero</translation>
+    </message>
+    <message>
+        <source>Rear</source>
+        <translation>Trasero</translation>
+    </message>
+    <message>
+        <source>Subwoofer</source>
+        <translation>Subwoofer</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>Pendiente</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivel</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Preajustes</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_timing_widget</name>
+    <message>
+        <source>Front Left 1</source>
+        <translation>Delantero izq.</translation>
+    </message>
+    <message>
+        <source>Front Right 1</source>
+        <translation>Delantero der.</translation>
+    </message>
+    <message>
+        <source>Rear Left</source>
+        <translation>Trasero izq.</translation>
+    </message>
+    <message>
+        <source>Rear Right</source>
+        <translation>Trasero der.</translation>
+    </message>
+    <message>
+        <source>Subwoofer Left</source>
+        <translation>Subwoofer izq.</translation>
+    </message>
+    <message>
+        <source>Subwoofer Right</source>
+        <translation>Subwoofer der.</translation>
+    </message>
+    <message>
+        <source>MSEC.</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Inches.</source>
+        <translation>Pulgadas</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Preajustes</translation>
+    </message>
+</context>
+<context>
+    <name>Audiovolumsettings</name>
+    <message>
+        <source>Main Volume</source>
+        <translation>Volumen principal</translation>
+    </message>
+    <message>
+        <source>Phone Volume</source>
+        <translation>Volumen del teléfono</translation>
+    </message>
+    <message>
+        <source>Voice Volume</source>
+        <translation>Volumen de voz</translation>
+    </message>
+    <message>
+        <source>Navigation Volume</source>
+        <translation>Volumen de navegación</translation>
+    </message>
+    <message>
+        <source>Ringtone Volume</source>
+        <translation>Volumen del tono</translation>
+    </message>
+    <message>
+        <source>TA Volume</source>
+        <translation>Volumen de tráfico (TA)</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosourcegainsettings</name>
+    <message>
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message>
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message>
+        <source>SiriusXM</source>
+        <translation>SiriusXM</translation>
+    </message>
+    <message>
+        <source>Bluetooth Music</source>
+        <translation>Música Bluetooth</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosourcegainsettings_b</name>
+    <message>
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message>
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message>
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
+    <message>
+        <source>Bluetooth Music</source>
+        <translation>Música Bluetooth</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosettingsreset</name>
+    <message>
+        <source>Yes, Reset my Audio Settings</source>
+        <translation>Sí, restablecer los ajustes</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This will reset all of your audio settings.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Se restablecerán todos los ajustes de audio.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Do you want to proceed?</source>
+        <translation>¿Desea continuar?</translation>
+    </message>
+    <message>
+        <source>Reset Successful</source>
+        <translation>Ajustes restablecidos</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Atención</translation>
+    </message>
+</context>
+<context>
+    <name>eq_adjust_fragment</name>
+    <message>
+        <source>EQ</source>
+        <translation>EQ</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personalizado</translation>
+    </message>
+</context>
+</TS>

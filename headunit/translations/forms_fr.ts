@@ -1,0 +1,304 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Audiosetting_right_general_widget</name>
+    <message>
+        <source>Advanced</source>
+        <translation>Avancé</translation>
+    </message>
+    <message>
+        <source>Defeat</source>
+        <translation>Bypass</translation>
+    </message>
+    <message>
+        <source>Subwoofer</source>
+        <translation>Caisson</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>Sub. Vol.</source>
+        <translation>Vol. caisson</translation>
+    </message>
+    <message>
+        <source>BAL:</source>
+        <translation>BAL :</translation>
+    </message>
+    <message>
+        <source>FAD:</source>
+        <translation>FAD :</translation>
+    </message>
+</context>
+<context>
+    <name>AudiosettingsTop</name>
+    <message>
+        <source>Audio Settings</source>
+        <translation>Réglages audio</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Neutre</translation>
+    </message>
+</context>
+<context>
+    <name>AudiosettingsRoot</name>
+    <message>
+        <source>Loudness</source>
+        <translation>Loudness</translation>
+    </message>
+    <message>
+        <source>Source Gain</source>
+        <translation>Gain des sources</translation>
+    </message>
+    <message>
+        <source>Volume Settings</source>
+        <translation>Réglages du volume</translation>
+    </message>
+    <message>
+        <source>Reset Audio Settings</source>
+        <translation>Réinitialiser l’audio</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_eq_widget</name>
+    <message>
+        <source>Flat</source>
+        <translation>Neutre</translation>
+    </message>
+    <message>
+        <source>Preset1</source>
+        <translation>Préréglage 1</translation>
+    </message>
+    <message>
+        <source>Preset2</source>
+        <translation>Préréglage 2</translation>
+    </message>
+    <message>
+        <source>Preset3</source>
+        <translation>Préréglage 3</translation>
+    </message>
+    <message>
+        <source>Preset4</source>
+        <translation>Préréglage 4</translation>
+    </message>
+    <message>
+        <source>Preset5</source>
+        <translation>Préréglage 5</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_factoryeq_widget</name>
+    <message>
+        <source>Rock</source>
+        <translation>Rock</translation>
+    </message>
+    <message>
+        <source>Hip Hop</source>
+        <translation>Hip-hop</translation>
+    </message>
+    <message>
+        <source>Electronic</source>
+        <translation>Électro</translation>
+    </message>
+    <message>
+        <source>Jazz</source>
+        <translation>Jazz</translation>
+    </message>
+    <message>
+        <source>Pop</source>
+        <translation>Pop</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>Neutre</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_crossover_widget</name>
+    <message>
+        <source>Front1</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <source>Rear</source>
+        <translation>Arrière</translation>
+    </message>
+    <message>
+        <source>Subwoofer</source>
+        <translation>Caisson</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>Pente</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_timing_widget</name>
+    <message>
+        <source>Front Left 1</source>
+        <translation>Avant gauche</translation>
+    </message>
+    <message>
+        <source>Front Right 1</source>
+        <translation>Avant droit</translation>
+    </message>
+    <message>
+        <source>Rear Left</source>
+        <translation>Arrière gauche</translation>
+    </message>
+    <message>
+        <source>Rear Right</source>
+        <translation>Arrière droit</translation>
+    </message>
+    <message>
+        <source>Subwoofer Left</source>
+        <translation>Caisson gauche</translation>
+    </message>
+    <message>
+        <source>Subwoofer Right</source>
+        <translation>Caisson droit</translation>
+    </message>
+    <message>
+        <source>MSEC.</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Inches.</source>
+        <translation>Pouces</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Préréglages</translation>
+    </message>
+</context>
+<context>
+    <name>Audiovolumsettings</name>
+    <message>
+        <source>Main Volume</source>
+        <translation>Volume principal</translation>
+    </message>
+    <message>
+        <source>Phone Volume</source>
+        <translation>Volume du téléphone</translation>
+    </message>
+    <message>
+        <source>Voice Volume</source>
+        <translation>Volume de la voix</translation>
+    </message>
+    <message>
+        <source>Navigation Volume</source>
+        <translation>Volume de la navigation</translation>
+    </message>
+    <message>
+        <source>Ringtone Volume</source>
+        <translation>Volume de la sonnerie</translation>
+    </message>
+    <message>
+        <source>TA Volume</source>
+        <translation>Volume des infos trafic</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosourcegainsettings</name>
+    <message>
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message>
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message>
+        <source>SiriusXM</source>
+        <translation>SiriusXM</translation>
+    </message>
+    <message>
+        <source>Bluetooth Music</source>
+        <translation>Musique Bluetooth</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosourcegainsettings_b</name>
+    <message>
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message>
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message>
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message>
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
+    <message>
+        <source>Bluetooth Music</source>
+        <translation>Musique Bluetooth</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosettingsreset</name>
+    <message>
+        <source>Yes, Reset my Audio Settings</source>
+        <translation>Oui, réinitialiser les réglages</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This will reset all of your audio settings.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Tous vos réglages audio seront réinitialisés.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Do you want to proceed?</source>
+        <translation>Voulez-vous continuer ?</translation>
+    </message>
+    <message>
+        <source>Reset Successful</source>
+        <translation>Réinitialisation réussie</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>Attention</translation>
+    </message>
+</context>
+<context>
+    <name>eq_adjust_fragment</name>
+    <message>
+        <source>EQ</source>
+        <translation>EQ</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+</context>
+</TS>

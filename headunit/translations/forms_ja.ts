@@ -1,0 +1,304 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>Audiosetting_right_general_widget</name>
+    <message>
+        <source>Advanced</source>
+        <translation>詳細設定</translation>
+    </message>
+    <message>
+        <source>Defeat</source>
+        <translation>バイパス</translation>
+    </message>
+    <message>
+        <source>Subwoofer</source>
+        <translation>サブウーファー</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>位相</translation>
+    </message>
+    <message>
+        <source>Sub. Vol.</source>
+        <translation>サブ音量</translation>
+    </message>
+    <message>
+        <source>BAL:</source>
+        <translation>BAL:</translation>
+    </message>
+    <message>
+        <source>FAD:</source>
+        <translation>FAD:</translation>
+    </message>
+</context>
+<context>
+    <name>AudiosettingsTop</name>
+    <message>
+        <source>Audio Settings</source>
+        <translation>オーディオ設定</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>フラット</translation>
+    </message>
+</context>
+<context>
+    <name>AudiosettingsRoot</name>
+    <message>
+        <source>Loudness</source>
+        <translation>ラウドネス</translation>
+    </message>
+    <message>
+        <source>Source Gain</source>
+        <translation>ソースレベル</translation>
+    </message>
+    <message>
+        <source>Volume Settings</source>
+        <translation>音量設定</translation>
+    </message>
+    <message>
+        <source>Reset Audio Settings</source>
+        <translation>オーディオ設定の初期化</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_eq_widget</name>
+    <message>
+        <source>Flat</source>
+        <translation>フラット</translation>
+    </message>
+    <message>
+        <source>Preset1</source>
+        <translation>プリセット1</translation>
+    </message>
+    <message>
+        <source>Preset2</source>
+        <translation>プリセット2</translation>
+    </message>
+    <message>
+        <source>Preset3</source>
+        <translation>プリセット3</translation>
+    </message>
+    <message>
+        <source>Preset4</source>
+        <translation>プリセット4</translation>
+    </message>
+    <message>
+        <source>Preset5</source>
+        <translation>プリセット5</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_factoryeq_widget</name>
+    <message>
+        <source>Rock</source>
+        <translation>ロック</translation>
+    </message>
+    <message>
+        <source>Hip Hop</source>
+        <translation>ヒップホップ</translation>
+    </message>
+    <message>
+        <source>Electronic</source>
+        <translation>エレクトロ</translation>
+    </message>
+    <message>
+        <source>Jazz</source>
+        <translation>ジャズ</translation>
+    </message>
+    <message>
+        <source>Pop</source>
+        <translation>ポップ</translation>
+    </message>
+    <message>
+        <source>Flat</source>
+        <translation>フラット</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_crossover_widget</name>
+    <message>
+        <source>Front1</source>
+        <translation>フロント</translation>
+    </message>
+    <message>
+        <source>Rear</source>
+        <translation>リア</translation>
+    </message>
+    <message>
+        <source>Subwoofer</source>
+        <translation>サブウーファー</translation>
+    </message>
+    <message>
+        <source>Slope</source>
+        <translation>スロープ</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>周波数</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosetting_right_timing_widget</name>
+    <message>
+        <source>Front Left 1</source>
+        <translation>フロント左</translation>
+    </message>
+    <message>
+        <source>Front Right 1</source>
+        <translation>フロント右</translation>
+    </message>
+    <message>
+        <source>Rear Left</source>
+        <translation>リア左</translation>
+    </message>
+    <message>
+        <source>Rear Right</source>
+        <translation>リア右</translation>
+    </message>
+    <message>
+        <source>Subwoofer Left</source>
+        <translation>サブウーファー左</translation>
+    </message>
+    <message>
+        <source>Subwoofer Right</source>
+        <translation>サブウーファー右</translation>
+    </message>
+    <message>
+        <source>MSEC.</source>
+        <translation>ms</translation>
+    </message>
+    <message>
+        <source>Inches.</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>プリセット</translation>
+    </message>
+</context>
+<context>
+    <name>Audiovolumsettings</name>
+    <message>
+        <source>Main Volume</source>
+        <translation>メイン音量</translation>
+    </message>
+    <message>
+        <source>Phone Volume</source>
+        <translation>電話音量</translation>
+    </message>
+    <message>
+        <source>Voice Volume</source>
+        <translation>音声音量</translation>
+    </message>
+    <message>
+        <source>Navigation Volume</source>
+        <translation>ナビ音量</translation>
+    </message>
+    <message>
+        <source>Ringtone Volume</source>
+        <translation>着信音量</translation>
+    </message>
+    <message>
+        <source>TA Volume</source>
+        <translation>交通情報音量</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosourcegainsettings</name>
+    <message>
+        <source>Radio</source>
+        <translation>ラジオ</translation>
+    </message>
+    <message>
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message>
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message>
+        <source>SiriusXM</source>
+        <translation>SiriusXM</translation>
+    </message>
+    <message>
+        <source>Bluetooth Music</source>
+        <translation>Bluetooth ミュージック</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosourcegainsettings_b</name>
+    <message>
+        <source>Radio</source>
+        <translation>ラジオ</translation>
+    </message>
+    <message>
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message>
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message>
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
+    <message>
+        <source>Bluetooth Music</source>
+        <translation>Bluetooth ミュージック</translation>
+    </message>
+    <message>
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosettingsreset</name>
+    <message>
+        <source>Yes, Reset my Audio Settings</source>
+        <translation>はい、設定を初期化する</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This will reset all of your audio settings.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;すべてのオーディオ設定を初期化します。&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Do you want to proceed?</source>
+        <translation>続行しますか？</translation>
+    </message>
+    <message>
+        <source>Reset Successful</source>
+        <translation>初期化しました</translation>
+    </message>
+    <message>
+        <source>Alert</source>
+        <translation>確認</translation>
+    </message>
+</context>
+<context>
+    <name>eq_adjust_fragment</name>
+    <message>
+        <source>EQ</source>
+        <translation>EQ</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+</context>
+</TS>

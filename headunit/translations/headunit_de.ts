@@ -1,0 +1,231 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="3">
+        <source>Flat</source>
+        <translation>Linear</translation>
+    </message>
+    <message id="14">
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message id="15">
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message id="16">
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message id="229">
+        <source>Classic</source>
+        <translation>Klassik</translation>
+    </message>
+    <message id="231">
+        <source>Subwoofer</source>
+        <translation>Subwoofer</translation>
+    </message>
+    <message id="232">
+        <source>Dynamic</source>
+        <translation>Dynamisch</translation>
+    </message>
+    <message id="233">
+        <source>Pop</source>
+        <translation>Pop</translation>
+    </message>
+    <message id="234">
+        <source>Rock</source>
+        <translation>Rock</translation>
+    </message>
+    <message id="235">
+        <source>Hip Hop</source>
+        <translation>Hip-Hop</translation>
+    </message>
+    <message id="241">
+        <source>Jazz</source>
+        <translation>Jazz</translation>
+    </message>
+    <message id="262">
+        <source>Rear</source>
+        <translation>Hinten</translation>
+    </message>
+    <message id="361">
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message id="427">
+        <source>SiriusXM</source>
+        <translation>SiriusXM</translation>
+    </message>
+    <message id="439">
+        <source>Loudness</source>
+        <translation>Loudness</translation>
+    </message>
+    <message id="681">
+        <source>Custom</source>
+        <translation>Individuell</translation>
+    </message>
+    <message id="969">
+        <source>This will reset all of your audio settings.</source>
+        <translation>Setzt alle Audioeinstellungen zurück.</translation>
+    </message>
+    <message id="970">
+        <source>Do you want to proceed?</source>
+        <translation>Möchten Sie fortfahren?</translation>
+    </message>
+    <message id="971">
+        <source>Yes, Reset my Audio Settings</source>
+        <translation>Ja, Einstellungen zurücksetzen</translation>
+    </message>
+    <message id="972">
+        <source>Alert</source>
+        <translation>Achtung</translation>
+    </message>
+    <message id="973">
+        <source>Reset Successful</source>
+        <translation>Erfolgreich zurückgesetzt</translation>
+    </message>
+    <message id="1065">
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message id="1066">
+        <source>Equalizer</source>
+        <translation>Equalizer</translation>
+    </message>
+    <message id="1067">
+        <source>Factory EQ</source>
+        <translation>Werks-EQ</translation>
+    </message>
+    <message id="1068">
+        <source>Crossover</source>
+        <translation>Frequenzweiche</translation>
+    </message>
+    <message id="1069">
+        <source>Timing</source>
+        <translation>Laufzeitkorrektur</translation>
+    </message>
+    <message id="1070">
+        <source>Audio Settings</source>
+        <translation>Audioeinstellungen</translation>
+    </message>
+    <message id="1071">
+        <source>Volume Settings</source>
+        <translation>Lautstärken</translation>
+    </message>
+    <message id="1072">
+        <source>Source Gain</source>
+        <translation>Quellenpegel</translation>
+    </message>
+    <message id="1073">
+        <source>Flat</source>
+        <translation>Linear</translation>
+    </message>
+    <message id="1074">
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message id="1076">
+        <source>Front</source>
+        <translation>Vorne</translation>
+    </message>
+    <message id="1077">
+        <source>Slope</source>
+        <translation>Flankensteilheit</translation>
+    </message>
+    <message id="1078">
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message id="1079">
+        <source>Level</source>
+        <translation>Pegel</translation>
+    </message>
+    <message id="1081">
+        <source>Source Gain</source>
+        <translation>Quellenpegel</translation>
+    </message>
+    <message id="1082">
+        <source>Volume Settings</source>
+        <translation>Lautstärken</translation>
+    </message>
+    <message id="1083">
+        <source>Reset Audio Settings</source>
+        <translation>Audio zurücksetzen</translation>
+    </message>
+    <message id="1084">
+        <source>Bluetooth Music</source>
+        <translation>Bluetooth-Musik</translation>
+    </message>
+    <message id="20001">
+        <source>Audio settings</source>
+        <translation>Audio</translation>
+    </message>
+    <message id="20002">
+        <source>Car</source>
+        <translation>Fahrzeug</translation>
+    </message>
+    <message id="20003">
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message id="20004">
+        <source>Channel</source>
+        <translation>Kanal</translation>
+    </message>
+    <message id="20005">
+        <source>Level</source>
+        <translation>Pegel</translation>
+    </message>
+    <message id="20006">
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message id="20007">
+        <source>Volume settings</source>
+        <translation>Lautstärken</translation>
+    </message>
+    <message id="20008">
+        <source>Start call</source>
+        <translation>Anruf starten</translation>
+    </message>
+    <message id="20009">
+        <source>End call</source>
+        <translation>Anruf beenden</translation>
+    </message>
+    <message id="20010">
+        <source>Call in progress</source>
+        <translation>Gespräch läuft</translation>
+    </message>
+    <message id="20011">
+        <source>Main</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message id="20012">
+        <source>Ringtone</source>
+        <translation>Klingelton</translation>
+    </message>
+    <message id="20013">
+        <source>Phone</source>
+        <translation>Telefon</translation>
+    </message>
+    <message id="20014">
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="20015">
+        <source>Voice</source>
+        <translation>Sprachbedienung</translation>
+    </message>
+    <message id="20016">
+        <source>Traffic</source>
+        <translation>Verkehrsfunk</translation>
+    </message>
+    <message id="20017">
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
+</context>
+</TS>

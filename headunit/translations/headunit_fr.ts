@@ -1,0 +1,231 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="3">
+        <source>Flat</source>
+        <translation>Neutre</translation>
+    </message>
+    <message id="14">
+        <source>Apple CarPlay</source>
+        <translation>Apple CarPlay</translation>
+    </message>
+    <message id="15">
+        <source>Android Auto</source>
+        <translation>Android Auto</translation>
+    </message>
+    <message id="16">
+        <source>USB</source>
+        <translation>USB</translation>
+    </message>
+    <message id="229">
+        <source>Classic</source>
+        <translation>Classique</translation>
+    </message>
+    <message id="231">
+        <source>Subwoofer</source>
+        <translation>Caisson</translation>
+    </message>
+    <message id="232">
+        <source>Dynamic</source>
+        <translation>Dynamique</translation>
+    </message>
+    <message id="233">
+        <source>Pop</source>
+        <translation>Pop</translation>
+    </message>
+    <message id="234">
+        <source>Rock</source>
+        <translation>Rock</translation>
+    </message>
+    <message id="235">
+        <source>Hip Hop</source>
+        <translation>Hip-hop</translation>
+    </message>
+    <message id="241">
+        <source>Jazz</source>
+        <translation>Jazz</translation>
+    </message>
+    <message id="262">
+        <source>Rear</source>
+        <translation>Arrière</translation>
+    </message>
+    <message id="361">
+        <source>Radio</source>
+        <translation>Radio</translation>
+    </message>
+    <message id="427">
+        <source>SiriusXM</source>
+        <translation>SiriusXM</translation>
+    </message>
+    <message id="439">
+        <source>Loudness</source>
+        <translation>Loudness</translation>
+    </message>
+    <message id="681">
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message id="969">
+        <source>This will reset all of your audio settings.</source>
+        <translation>Tous vos réglages audio seront réinitialisés.</translation>
+    </message>
+    <message id="970">
+        <source>Do you want to proceed?</source>
+        <translation>Voulez-vous continuer ?</translation>
+    </message>
+    <message id="971">
+        <source>Yes, Reset my Audio Settings</source>
+        <translation>Oui, réinitialiser les réglages</translation>
+    </message>
+    <message id="972">
+        <source>Alert</source>
+        <translation>Attention</translation>
+    </message>
+    <message id="973">
+        <source>Reset Successful</source>
+        <translation>Réinitialisation réussie</translation>
+    </message>
+    <message id="1065">
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+    <message id="1066">
+        <source>Equalizer</source>
+        <translation>Égaliseur</translation>
+    </message>
+    <message id="1067">
+        <source>Factory EQ</source>
+        <translation>EQ prédéfinis</translation>
+    </message>
+    <message id="1068">
+        <source>Crossover</source>
+        <translation>Filtre répartiteur</translation>
+    </message>
+    <message id="1069">
+        <source>Timing</source>
+        <translation>Alignement temporel</translation>
+    </message>
+    <message id="1070">
+        <source>Audio Settings</source>
+        <translation>Réglages audio</translation>
+    </message>
+    <message id="1071">
+        <source>Volume Settings</source>
+        <translation>Réglages du volume</translation>
+    </message>
+    <message id="1072">
+        <source>Source Gain</source>
+        <translation>Gain des sources</translation>
+    </message>
+    <message id="1073">
+        <source>Flat</source>
+        <translation>Neutre</translation>
+    </message>
+    <message id="1074">
+        <source>Off</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message id="1076">
+        <source>Front</source>
+        <translation>Avant</translation>
+    </message>
+    <message id="1077">
+        <source>Slope</source>
+        <translation>Pente</translation>
+    </message>
+    <message id="1078">
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message id="1079">
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+    <message id="1081">
+        <source>Source Gain</source>
+        <translation>Gain des sources</translation>
+    </message>
+    <message id="1082">
+        <source>Volume Settings</source>
+        <translation>Réglages du volume</translation>
+    </message>
+    <message id="1083">
+        <source>Reset Audio Settings</source>
+        <translation>Réinitialiser l’audio</translation>
+    </message>
+    <message id="1084">
+        <source>Bluetooth Music</source>
+        <translation>Musique Bluetooth</translation>
+    </message>
+    <message id="20001">
+        <source>Audio settings</source>
+        <translation>Audio</translation>
+    </message>
+    <message id="20002">
+        <source>Car</source>
+        <translation>Véhicule</translation>
+    </message>
+    <message id="20003">
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message id="20004">
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message id="20005">
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+    <message id="20006">
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message id="20007">
+        <source>Volume settings</source>
+        <translation>Réglages du volume</translation>
+    </message>
+    <message id="20008">
+        <source>Start call</source>
+        <translation>Lancer un appel</translation>
+    </message>
+    <message id="20009">
+        <source>End call</source>
+        <translation>Terminer l’appel</translation>
+    </message>
+    <message id="20010">
+        <source>Call in progress</source>
+        <translation>Appel en cours</translation>
+    </message>
+    <message id="20011">
+        <source>Main</source>
+        <translation>Général</translation>
+    </message>
+    <message id="20012">
+        <source>Ringtone</source>
+        <translation>Sonnerie</translation>
+    </message>
+    <message id="20013">
+        <source>Phone</source>
+        <translation>Téléphone</translation>
+    </message>
+    <message id="20014">
+        <source>Navigation</source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="20015">
+        <source>Voice</source>
+        <translation>Voix</translation>
+    </message>
+    <message id="20016">
+        <source>Traffic</source>
+        <translation>Info trafic</translation>
+    </message>
+    <message id="20017">
+        <source>DAB</source>
+        <translation>DAB</translation>
+    </message>
+</context>
+</TS>
