@@ -10,6 +10,7 @@
 #include "pushbutton.h"
 #include "sliderbarwidget.h"
 
+#include <QButtonGroup>
 #include <QPushButton>
 #include <QVariant>
 
