@@ -190,8 +190,6 @@ void EQWidget::update_eq_section_drag(int section, int value) {
 
 void EQWidget::save_eq_section_drag(int section, int value) {
     eq_section_drag_event(section, value, false);
-    // A finger may leave at another place than its last move: the label follows what was sent.
-    setEqBarValue(section, value);
 }
 
 void EQWidget::eq_section_drag_event(int section, int level, bool moving) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QMetaType>
 #include <QScopedPointer>
 #include <QTimer>
 #include <QWidget>
@@ -27,6 +28,7 @@ enum SettingPageType : int {
     SettingPageSourceGain = 6,
     SettingPageSettingsRoot = 7,
 };
+Q_DECLARE_METATYPE(SettingPageType)
 
 namespace audiosetting {
 
