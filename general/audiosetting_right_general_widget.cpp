@@ -43,6 +43,9 @@ Audiosetting_right_general_widget::Audiosetting_right_general_widget(QWidget *pa
 Audiosetting_right_general_widget::~Audiosetting_right_general_widget() {}
 
 void Audiosetting_right_general_widget::initUi() {
+    // The caption lies over its key.
+    m_ui->text_Advanced->setAttribute(Qt::WA_TransparentForMouseEvents);
+
     m_pad = new settings::balanceFaderControl(m_ui->balancefader_bg->parentWidget(), m_ui->balancefader_bg->geometry());
     connect(m_pad, SIGNAL(balanceFaderChanged(int, int)), this, SLOT(onUpdate(int, int)));
 

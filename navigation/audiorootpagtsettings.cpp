@@ -18,8 +18,8 @@
 #include "translator.h"
 #include "ui_c20_060_setup_container.h"
 #include "volume/audiosettingsreset.h"
-#include "volume/audiosourcegainsettings.h"
 #include "volume/audiovolumsettings.h"
+#include "volume/sourcegainpage.h"
 
 #include <QEvent>
 
@@ -157,7 +157,9 @@ void AudioRootPagtSettings::onShowAudioSettings() {
 
 void AudioRootPagtSettings::onShowSourceGain() {
     hideContainerChilds();
-    createOnce(m_sourceGain, this);
+    if (!m_sourceGain) {
+        m_sourceGain = createSourceGainPage(this);
+    }
     showFullWidthPage(m_sourceGain, PageSourceGain, titleSourceGain);
 }
 

@@ -9,7 +9,6 @@ class AudiosettingsTab;
 class c20_060_audiosetting_container_widget;
 class Audiosetting_right_general_widget;
 class Audiovolumsettings;
-class Audiosourcegainsettings;
 class Audiosettingsreset;
 class Audiosetting_right_eq_widget;
 class Audiosetting_right_factoryeq_widget;
@@ -73,7 +72,7 @@ private:
     AudiosettingsTab *m_tab = nullptr;
     Audiosetting_right_general_widget *m_general = nullptr;
     Audiovolumsettings *m_volume = nullptr;
-    Audiosourcegainsettings *m_sourceGain = nullptr;
+    QWidget *m_sourceGain = nullptr;
     Audiosettingsreset *m_reset = nullptr;
     Audiosetting_right_eq_widget *m_eq = nullptr;
     Audiosetting_right_factoryeq_widget *m_factoryEq = nullptr;

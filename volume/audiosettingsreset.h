@@ -1,14 +1,51 @@
 #pragma once
 
-#include "navigation/emptypage.h"
+#include <QList>
+#include <QScopedPointer>
+#include <QWidget>
 
-/// The confirmation that resets all audio settings.
-class Audiosettingsreset : public EmptyPage {
+class AudioSettingsUtils;
+
+namespace Ui {
+class Audiosettingsreset;
+}
+
+/// The confirmation that resets all audio settings to the factory state. It lies over the page area; the top bar
+/// stays free.
+class Audiosettingsreset : public QWidget {
     Q_OBJECT
 public:
-    explicit Audiosettingsreset(QWidget *parent) : EmptyPage(parent) {}
+    explicit Audiosettingsreset(QWidget *parent);
+    ~Audiosettingsreset() override;
+
+    void initUi();
+    void retranslateUi();
 
 Q_SIGNALS:
+    /// The reset is done and its message was shown long enough.
     void acceptClicked();
+    /// The driver declined.
     void rejectClicked();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private Q_SLOTS:
+    void onAcceptClicked();
+    void onRejectClicked();
+    void onDelayhidePop();
+    // Nothing in the plug-in calls these four; others reach them by name.
+    void makeEQDefaultEffect();
+    void makeVolumeDefaultEffect();
+    void makeCrossoverDefaultEffect();
+    void makeSourceGainDefaultEffect();
+
+private:
+    void setAsking(bool asking);
+
+    QScopedPointer<Ui::Audiosettingsreset> m_ui;
+    AudioSettingsUtils *m_settings;
+    QList<QWidget *> m_question;  ///< what is shown until the driver decides
 };

@@ -1,0 +1,225 @@
+#include "audiosettingsreset.h"
+
+#include "audioservice.h"
+#include "audiosettingsutils.h"
+#include "general/generalsettings.h"
+#include "mcuservice.h"
+#include "resetsettings.h"
+#include "settingscache.h"
+#include "sourcegainsettings.h"
+#include "translator.h"
+#include "ui_Audiosettingsreset.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QPaintEvent>
+#include <QTimer>
+
+using namespace audiosetting;
+
+namespace {
+
+const int bandCount = 13;
+const int outputCount = 6;
+const int resetSourceCount = 6;    // DAB, the seventh source, keeps its gain: required
+const int channelCount = 8;        // volume channels, with those that have no row on any page
+const int defaultVolumeCount = 5;  // channels that have a "default_volume%1"
+const int resetVolume = 15;
+const int donePeriod = 2500;  // ms for which the success is shown
+
+// The form is centred in the page area, its panel 24 px from the top bar and from the screen's lower edge. So the
+// dialog begins behind the top bar, and the mask takes that part away: Back and Close are seen and touched.
+const int pageAreaTop = 130;
+const int pageAreaHeight = 470;
+const int dialogTop = 65;
+
+void applyCustomCurve() {
+    qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
+    audio->setEQType(AudioEQCustom, true);
+    for (int band = 0; band < bandCount; ++band) {
+        // Band first, value second, the other way round than the EQ pages: required.
+        audio->setCustomEq(band, reset::customEq(band).value(), true);
+    }
+}
+
+struct Filter {
+    int frequency;
+    int slope;
+    int level;
+};
+
+Filter storedFilter(const QString &channel) {
+    const int frequency = reset::filterFrequency(channel).value();
+    const int slope = reset::filterSlope(channel).value();
+    const int level = reset::filterLevel(channel).value();
+    return {frequency, slope, level};
+}
+
+void applyLowPass() {
+    const Filter filter = storedFilter(QStringLiteral("subwoofer"));
+    mcu::McuService::instance()->setLPFValue(filter.frequency, filter.slope, filter.level);
+}
+
+void applyRearFilter() {
+    const Filter filter = storedFilter(QStringLiteral("rear"));
+    mcu::McuService::instance()->setCrossoverRearFreq(filter.frequency, filter.slope, filter.level);
+}
+
+void applyFrontFilter() {
+    const Filter filter = storedFilter(QStringLiteral("front"));
+    mcu::McuService::instance()->setCrossoverFrontFreq(filter.frequency, filter.slope, filter.level);
+}
+
+// The reset's own way: the rear's frequency for the slope (with 0 for its default) and the rear's level. Required.
+void resetFrontFilter() {
+    const int frequency = reset::filterFrequency(QStringLiteral("front")).value();
+    const int slope = reset::filterFrequency(QStringLiteral("rear")).value();
+    const int level = reset::filterLevel(QStringLiteral("rear")).value();
+    mcu::McuService::instance()->setCrossoverFrontFreq(frequency, slope, level);
+}
+
+void applyDelays() {
+    int delays[outputCount];
+    for (int output = 0; output < outputCount; ++output) {
+        delays[output] = reset::delay(output).value();
+    }
+    mcu::McuService::instance()->setAudioTimerDelay(1, delays);
+}
+
+// The stored gains without the offset that the Source Gain page adds: required.
+void applySourceGains() {
+    for (int source = 0; source < resetSourceCount; ++source) {
+        mcu::McuService::instance()->setAudioInputGainValue(source, sourcegain::gain(source).value());
+    }
+}
+
+}  // namespace
+
+Audiosettingsreset::Audiosettingsreset(QWidget *parent)
+    : QWidget(parent), m_ui(new Ui::Audiosettingsreset), m_settings(AudioSettingsUtils::instance()) {
+    m_ui->setupUi(this);
+    setGeometry(0, dialogTop, width(), pageAreaTop + pageAreaHeight - dialogTop);
+    setMask(QRect(0, pageAreaTop - dialogTop, width(), pageAreaHeight));
+    initUi();
+}
+
+Audiosettingsreset::~Audiosettingsreset() {}
+
+void Audiosettingsreset::initUi() {
+    m_ui->Txt_accept->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_ui->txt_reset_success->hide();
+    connect(m_ui->Key_Reject, SIGNAL(clicked()), this, SLOT(onRejectClicked()));
+    connect(m_ui->Key_accept, SIGNAL(clicked()), this, SLOT(onAcceptClicked()));
+
+    const struct {
+        QLabel *label;
+        int pointSize;
+        bool bold;
+    } texts[] = {
+        {m_ui->txt_reset_success, 45, false},
+        {m_ui->Txt_0012_item_01, 30, false},
+        {m_ui->Txt_0012_item_04, 30, true},
+        {m_ui->txt_Title, 36, true},
+    };
+    for (const auto &text : texts) {
+        QFont font = this->font();
+        font.setPointSize(text.pointSize);
+        font.setBold(text.bold);
+        text.label->setFont(font);
+    }
+    m_question << m_ui->reset_bg << m_ui->Key_Reject << m_ui->Txt_accept << m_ui->Key_accept << m_ui->txt_Title
+               << m_ui->Txt_0012_item_01 << m_ui->Txt_0012_item_04;
+}
+
+void Audiosettingsreset::showEvent(QShowEvent *event) {
+    retranslateUi();
+    setAsking(true);
+    QWidget::showEvent(event);
+}
+
+void Audiosettingsreset::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi();
+    }
+    QWidget::changeEvent(event);
+}
+
+void Audiosettingsreset::paintEvent(QPaintEvent *event) {
+    // The settings root behind the dialog steps back.
+    QPainter(this).fillRect(event->rect(), QColor(6, 9, 13, 205));
+}
+
+void Audiosettingsreset::retranslateUi() {
+    m_ui->Txt_0012_item_01->setText(Translator::translate(969));
+    m_ui->Txt_0012_item_04->setText(Translator::translate(970));
+    m_ui->Txt_accept->setText(Translator::translate(971));
+    m_ui->txt_Title->setText(Translator::translate(972));
+    m_ui->txt_reset_success->setText(Translator::translate(973));
+}
+
+void Audiosettingsreset::setAsking(bool asking) {
+    for (QWidget *part : m_question) {
+        part->setVisible(asking);
+    }
+    m_ui->txt_reset_success->setVisible(!asking);
+}
+
+void Audiosettingsreset::onRejectClicked() {
+    qvaudio::AudioService::instance()->doBeep(0);
+    emit rejectClicked();
+}
+
+void Audiosettingsreset::onAcceptClicked() {
+    qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
+    audio->doBeep(0);
+    setAsking(false);
+    m_settings->clear(QStringLiteral("/media/flash/nvm/factory/audiosettings.ini"));
+
+    audio->setBalanceFader(0, 0, true);
+    mcu::McuService::instance()->setSubwooferValue(general::subwooferLevel().value());
+    mcu::McuService::instance()->setLoudness(reset::loudness().flag());
+    applyCustomCurve();
+    applyLowPass();
+    applyRearFilter();
+    resetFrontFilter();
+    applyDelays();
+    applySourceGains();
+    for (int type = 0; type < channelCount; ++type) {
+        audio->setVolumeLevel(resetVolume, type);
+    }
+    audio->setEQType(AudioEQPop, true);
+
+    QTimer::singleShot(donePeriod, this, SLOT(onDelayhidePop()));
+    emit mem::SettingsCache::instance()->SettingsCacheSig(general::defeat().key());
+}
+
+void Audiosettingsreset::onDelayhidePop() {
+    emit acceptClicked();
+}
+
+// On their own ----------------------------------------------------------------------------------------------------
+
+void Audiosettingsreset::makeEQDefaultEffect() {
+    qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
+    audio->setEQType(AudioEQCustom, true);
+    for (int band = 0; band < bandCount; ++band) {
+        audio->setCustomEq(0, band, true);
+    }
+    audio->setEQType(AudioEQFlat, true);
+}
+
+void Audiosettingsreset::makeVolumeDefaultEffect() {
+    for (int type = 0; type < defaultVolumeCount; ++type) {
+        mcu::McuService::instance()->setAudioVolumeValue(type, reset::defaultVolume(type).value());
+    }
+}
+
+void Audiosettingsreset::makeCrossoverDefaultEffect() {
+    applyFrontFilter();
+    applyRearFilter();
+    applyLowPass();
+}
+
+void Audiosettingsreset::makeSourceGainDefaultEffect() {
+    applySourceGains();
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "sourcegainwidget.h"
+
+#include <QScopedPointer>
+
+namespace Ui {
+class Audiosourcegainsettings_b;
+}
+
+/// The Source Gain page of regions with DAB: its row takes the place of SiriusXM.
+class Audiosourcegainsettings_b : public audiosetting::SourceGainWidget {
+    Q_OBJECT
+public:
+    explicit Audiosourcegainsettings_b(QWidget *parent);
+    ~Audiosourcegainsettings_b() override;
+
+    void updateBtnRadioState() { updateKeys(Radio); }
+    void updateBtnCarPlayState() { updateKeys(CarPlay); }
+    void updateBtnAndroidAutoState() { updateKeys(AndroidAuto); }
+    void updateBtnDabState() { updateKeys(Regional); }
+    void updateBtnBTMusicState() { updateKeys(BtMusic); }
+    void updateBtnUSBState() { updateKeys(Usb); }
+
+private Q_SLOTS:
+    void onRadioVolumeSliderChanged(int iIdex, int iValue) { changedBySlider(Radio, iIdex, iValue); }
+    void onAaVolumeSliderChanged(int iIdex, int iValue) { changedBySlider(AndroidAuto, iIdex, iValue); }
+    void onCplumeSliderChanged(int iIdex, int iValue) { changedBySlider(CarPlay, iIdex, iValue); }
+    void onDablumeSliderChanged(int iIdex, int iValue) { changedBySlider(Regional, iIdex, iValue); }
+    void onBtMusiclumeSliderChanged(int iIdex, int iValue) { changedBySlider(BtMusic, iIdex, iValue); }
+    void onUsblumeSliderChanged(int iIdex, int iValue) { changedBySlider(Usb, iIdex, iValue); }
+    void onRadioCameraPlus() { stepUp(Radio); }
+    void onRadioCameraMinus() { stepDown(Radio); }
+    void onAAPlus() { stepUp(AndroidAuto); }
+    void onAAMinus() { stepDown(AndroidAuto); }
+    void onCpPlus() { stepUp(CarPlay); }
+    void onCpMinus() { stepDown(CarPlay); }
+    void onDabPlus() { stepUp(Regional); }
+    void onDabMinus() { stepDown(Regional); }
+    void onBtMusicPlus() { stepUp(BtMusic); }
+    void onBtMusicMinus() { stepDown(BtMusic); }
+    void onUsbPlus() { stepUp(Usb); }
+    void onUsbMinus() { stepDown(Usb); }
+
+private:
+    QScopedPointer<Ui::Audiosourcegainsettings_b> m_ui;
+};

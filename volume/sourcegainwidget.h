@@ -1,0 +1,128 @@
+#pragma once
+
+#include <QWidget>
+
+class HorizontalSlider;
+class QLabel;
+class QPushButton;
+class QScrollArea;
+
+namespace cm {
+class ScrollBar;
+class ScrollManage;
+}  // namespace cm
+
+namespace audiosetting {
+
+/// What the Source Gain page is in every region: the input gains (-10 to 10) of six sources, by slider and by keys.
+///
+/// A regional page hands over its form and the names of its slots, and leads those slots back to here.
+class SourceGainWidget : public QWidget {
+public:
+    void initUi();
+    /// Reads the gains from the store and shows them.
+    void resume();
+    void retranslateUi();
+
+protected:
+    /// The rows in the order of the screen. The fourth is the one in which the regions differ.
+    enum RowId { Radio, AndroidAuto, CarPlay, Regional, BtMusic, Usb, RowCount };
+
+    /// A row of the form.
+    struct Row {
+        int source;       ///< the source's number in the microcontroller and in its key
+        int shownSource;  ///< whose gain the slider shows when the page is shown
+        int textId;       ///< of the caption; 0 for a caption that is the same in every language
+        QLabel *caption;
+        QLabel *placeholder;
+        QPushButton *plus;
+        QPushButton *minus;
+        const char *sliderSlot;
+        const char *plusSlot;
+        const char *minusSlot;
+    };
+
+    explicit SourceGainWidget(QWidget *parent);
+    ~SourceGainWidget() override;
+
+    /// Hands over the form, before initUi(): its members carry the same names in every region, but for those of the
+    /// \a regional row.
+    template <class Form> void setForm(const Form &form, const Row &regional);
+
+    /// A slider announced (index, gain); the index has no meaning here.
+    void changedBySlider(RowId id, int index, int gain);
+    void stepUp(RowId id);
+    void stepDown(RowId id);
+    void updateKeys(RowId id);
+
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void showStored(RowId id);
+    void setGain(RowId id, int gain);
+
+    QScrollArea *m_area = nullptr;
+    cm::ScrollManage *m_scrollManage = nullptr;
+    Row m_rows[RowCount];
+    HorizontalSlider *m_sliders[RowCount] = {};
+    int m_gains[RowCount] = {};
+    cm::ScrollBar *m_scrollBar = nullptr;
+};
+
+template <class Form> void SourceGainWidget::setForm(const Form &form, const Row &regional) {
+    m_area = form.scrollArea;
+    m_rows[Radio] = {0,
+                     0,
+                     361,
+                     form.txt_Radio,
+                     form.radioslider,
+                     form.key_radio_plus,
+                     form.key_radio_minus,
+                     SLOT(onRadioVolumeSliderChanged(int, int)),
+                     SLOT(onRadioCameraPlus()),
+                     SLOT(onRadioCameraMinus())};
+    m_rows[AndroidAuto] = {4,
+                           4,
+                           15,
+                           form.txt_androidauto,
+                           form.androidautoslider,
+                           form.key_androidauto_plus,
+                           form.key_androidauto_minus,
+                           SLOT(onAaVolumeSliderChanged(int, int)),
+                           SLOT(onAAPlus()),
+                           SLOT(onAAMinus())};
+    m_rows[CarPlay] = {3,
+                       3,
+                       14,
+                       form.txt_applecarplay,
+                       form.applecarplayslider,
+                       form.key_applecarplay_plus,
+                       form.key_applecarplay_minus,
+                       SLOT(onCplumeSliderChanged(int, int)),
+                       SLOT(onCpPlus()),
+                       SLOT(onCpMinus())};
+    m_rows[Regional] = regional;
+    m_rows[BtMusic] = {2,
+                       2,
+                       1084,
+                       form.txt_bluetoothmusic,
+                       form.btmusicslider,
+                       form.key_btmusic_plus,
+                       form.key_btmusic_minus,
+                       SLOT(onBtMusiclumeSliderChanged(int, int)),
+                       SLOT(onBtMusicPlus()),
+                       SLOT(onBtMusicMinus())};
+    m_rows[Usb] = {1,
+                   1,
+                   16,
+                   form.txt_usb,
+                   form.usbslider,
+                   form.key_usb_plus,
+                   form.key_usb_minus,
+                   SLOT(onUsblumeSliderChanged(int, int)),
+                   SLOT(onUsbPlus()),
+                   SLOT(onUsbMinus())};
+}
+
+}  // namespace audiosetting
