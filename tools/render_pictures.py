@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Renders one picture family: an SVG source in several states and sizes, at 1:1 and at 2:1.
 
-The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: stored, unfiltered, without
-colour chunks, RGB where nothing is transparent. The same sources give the same bytes on every run.
+The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: stored (large ones deflated),
+unfiltered, without colour chunks, RGB where nothing is transparent. The same sources give the same bytes on every run.
 """
 
 import argparse
@@ -15,6 +15,8 @@ import sys
 import zlib
 
 DENSITIES = ((1, ""), (2, "@2x"))
+# Pictures above this are deflated: few are so large, all are mostly empty, and together they would be most of the file.
+STORED_AT_MOST = 1 << 20  # bytes
 
 
 class Failure(Exception):
@@ -120,7 +122,8 @@ def png(bgra, width, height):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
     header = struct.pack(">IIBBBBB", width, height, 8, 2 if opaque else 6, 0, 0, 0)
-    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(raw, 0)) + chunk(b"IEND", b"")
+    data = zlib.compress(raw, 0 if len(raw) <= STORED_AT_MOST else 9)
+    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", data) + chunk(b"IEND", b"")
 
 
 def read_source(path, parts):
