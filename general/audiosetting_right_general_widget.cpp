@@ -4,6 +4,7 @@
 #include "balancefadercontrol.h"
 #include "generalsettings.h"
 #include "mcuservice.h"
+#include "plugin/buttongroup.h"
 #include "plugin/caption.h"
 #include "plugin/debuglog.h"
 #include "settingscache.h"
@@ -26,16 +27,6 @@ const int sendInterval = 100;  // ms; a drag sends at most one pair in this time
 // The pad counts the fader up to the front, the service and the store count it up to the rear.
 int otherSign(int fader) {
     return fader == std::numeric_limits<int>::min() ? std::numeric_limits<int>::max() : -fader;
-}
-
-// Checks one key of an exclusive group, or none where the group has no such id.
-void checkExclusively(QButtonGroup *group, int id) {
-    group->setExclusive(false);
-    const QList<QAbstractButton *> keys = group->buttons();
-    for (QAbstractButton *key : keys) {
-        key->setChecked(group->id(key) == id);
-    }
-    group->setExclusive(true);
 }
 
 }  // namespace

@@ -85,7 +85,7 @@ class Renderer:
     @staticmethod
     def _check(result, error):
         if not result:
-            raise Failure(error.contents.message.decode() if error else "the renderer failed without a reason")
+            raise Failure(error.contents.message.decode().strip() if error else "the renderer failed without a reason")
 
 
 # STRAIGHT[a] turns a premultiplied colour byte into a straight one.
@@ -127,6 +127,7 @@ def read_source(path, parts):
     if not match:
         raise Failure('the source has no viewBox="0 0 <width> <height>"')
     shared = re.sub(r"<\?xml.*?\?>|<!--.*?-->", "", parts.read_text(encoding="utf-8"), flags=re.DOTALL)
+    shared = " ".join(shared.split())  # one line, so that the renderer's messages name the lines of the source
     text = text[:match.end()] + shared + text[match.end():]
     return text.encode(), int(match[1]), int(match[2])
 

@@ -164,6 +164,7 @@ bool Unit::setSource(int source) {
         return false;
     }
     m_source = source;
+    SoundModel::instance().setActiveSource(source);
     setCurrentSourceDisplay(source);
     if (m_car) {
         m_car->setSource(source);
@@ -195,8 +196,9 @@ void Unit::chooseLanguage(const QString &code) {
 
 void Unit::restoreLanguage() {
     const int chosen = mem::SettingsFunc::instance()->getValue(languageKey, 0);
-    if (chosen > 0 && chosen < Language::all().size()) {
-        setLanguage(Language::all().at(chosen).code);
+    const QVector<Language::Name> &all = Language::all();
+    if (chosen >= 0 && chosen < all.size() && all[chosen].code != Language::current()) {
+        setLanguage(all[chosen].code);
     }
 }
 

@@ -64,7 +64,7 @@ FactoryState parseFactoryText(const QByteArray &text) {
     int number = 0;
     for (const QByteArray &line : text.split('\n')) {
         ++number;
-        const QString fault = takeLine(QString::fromUtf8(line).trimmed(), &group, &state.values);
+        const QString fault = takeLine(QString::fromUtf8(line.constData(), line.size()).trimmed(), &group, &state.values);
         if (!fault.isEmpty()) {
             state.values.clear();
             state.problem = QStringLiteral("line %1: %2").arg(number).arg(fault);

@@ -23,7 +23,8 @@ const QString checksumMember = QStringLiteral("sha256");
 
 /// Text as UTF-8 can carry it, so that it reads back as the very same text.
 QString portableText(const QString &text) {
-    return QString::fromUtf8(text.toUtf8());
+    const QByteArray bytes = text.toUtf8();
+    return QString::fromUtf8(bytes.constData(), bytes.size());  // with its size, as text may hold a zero
 }
 
 QVariant fromMember(const QJsonValue &member) {

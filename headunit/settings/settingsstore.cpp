@@ -36,8 +36,8 @@ void SettingsStore::close() {
     m_values.clear();
 }
 
-bool SettingsStore::flush() {
-    return m_writer && m_writer->flush();
+bool SettingsStore::flush(int timeoutMs) {
+    return m_writer && m_writer->flush(timeoutMs);
 }
 
 int SettingsStore::intValue(const QString &key, int defaultValue) const {

@@ -24,8 +24,8 @@ public:
     QString open(const QString &path, const SettingsMap &factory);
     /// Saves what is left and forgets all settings.
     void close();
-    /// Saves now and waits for it. False if the disk fails or takes too long.
-    bool flush();
+    /// Saves now and waits for it. False if the disk fails or takes longer.
+    bool flush(int timeoutMs = flushTimeMs);
 
     int intValue(const QString &key, int defaultValue) const;     ///< see toInt()
     bool boolValue(const QString &key, bool defaultValue) const;  ///< see toBool()
@@ -36,6 +36,8 @@ public:
     void replaceAll(const SettingsMap &values);
 
 private:
+    static constexpr int flushTimeMs = 2000;
+
     SettingsMap m_values;
     std::unique_ptr<SettingsWriter> m_writer;
     FolderLock m_lock;

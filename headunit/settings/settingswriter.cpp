@@ -38,7 +38,7 @@ struct SettingsWriter::Shared {
 
     void changed();
     void takeChanges();
-    bool save();
+    void saveChanges(std::unique_lock<std::mutex> &lock);
 };
 
 void SettingsWriter::Shared::changed() {
@@ -65,7 +65,13 @@ void SettingsWriter::Shared::takeChanges() {
     pending.clear();
 }
 
-bool SettingsWriter::Shared::save() {
+void SettingsWriter::Shared::saveChanges(std::unique_lock<std::mutex> &lock) {
+    flushNow = false;
+    const quint64 taken = changes;
+    takeChanges();
+    tried = taken;
+    ++savesBegun;
+    lock.unlock();
     QString problem;
     const bool ok = file.save(values, &problem);
     if (!ok && !failing) {
@@ -74,14 +80,20 @@ bool SettingsWriter::Shared::save() {
         qWarning("settings file %s is written again", qUtf8Printable(file.path()));
     }
     failing = !ok;
-    return ok;
+    lock.lock();
+    if (ok) {
+        saved = taken;
+    } else if (changes == taken) {
+        due = Clock::now() + milliseconds(retryTimeMs);
+    }
+    ++savesEnded;
+    done.notify_all();
 }
 
 SettingsWriter::SettingsWriter(const SettingsFile &file, const SettingsMap &values)
     : m_shared(std::make_shared<Shared>(file, values)), m_thread(&SettingsWriter::run, m_shared) {}
 
 SettingsWriter::~SettingsWriter() {
-    flush();
     std::unique_lock<std::mutex> lock(m_shared->mutex);
     m_shared->quit = true;
     m_shared->wake.notify_one();
@@ -127,31 +139,17 @@ bool SettingsWriter::flush(int timeoutMs) {
 void SettingsWriter::run(const std::shared_ptr<Shared> &pointer) {
     Shared &shared = *pointer;
     std::unique_lock<std::mutex> lock(shared.mutex);
-    while (!shared.quit) {
-        if (shared.saved == shared.changes) {
+    for (bool ending = false; !ending;) {
+        ending = shared.quit;
+        const bool changed = shared.saved != shared.changes;
+        if (changed && (ending || shared.flushNow || Clock::now() >= shared.due)) {
+            shared.saveChanges(lock);
+        } else if (changed) {
+            shared.wake.wait_until(lock, shared.due);
+        } else if (!ending) {
             shared.flushNow = false;
             shared.wake.wait(lock);
-            continue;
         }
-        if (!shared.flushNow && Clock::now() < shared.due) {
-            shared.wake.wait_until(lock, shared.due);
-            continue;
-        }
-        shared.flushNow = false;
-        const quint64 taken = shared.changes;
-        shared.takeChanges();
-        shared.tried = taken;
-        ++shared.savesBegun;
-        lock.unlock();
-        const bool ok = shared.save();
-        lock.lock();
-        if (ok) {
-            shared.saved = taken;
-        } else if (shared.changes == taken) {
-            shared.due = Clock::now() + milliseconds(retryTimeMs);
-        }
-        ++shared.savesEnded;
-        shared.done.notify_all();
     }
     shared.finished = true;
     shared.done.notify_all();

@@ -50,7 +50,9 @@ void prepareUnitApplication() {
     if (QFile::exists(QStringLiteral(HEADUNIT_FONTS_CONF))) {
         qputenv("FONTCONFIG_FILE", HEADUNIT_FONTS_CONF);
     }
+    // The attribute covers fonts, the variable the widgets' own idea of their screen.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
+    qputenv("QT_FONT_DPI", "96");
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setDesktopSettingsAware(false);
     QLocale::setDefault(QLocale::c());

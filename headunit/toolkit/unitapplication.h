@@ -22,11 +22,11 @@ namespace colour {
 const QColor text(0xFF, 0xFF, 0xFF);
 const QColor disabledText(0x57, 0x57, 0x5F);
 const QColor accent(11, 183, 237);
-const QColor ground(0x0D, 0x12, 0x18);    ///< near-black blue-grey
-const QColor surface(0x1A, 0x22, 0x2C);   ///< one step above the ground
-const QColor raised(0x26, 0x31, 0x3E);    ///< two steps above the ground
-const QColor hairline(0x3A, 0x47, 0x56);  ///< thin lines and edges
-const QColor handle(0x8A, 0x9A, 0xAC);    ///< what can be moved, at rest
+const QColor ground(0x10, 0x15, 0x1C);    ///< near-black blue-grey
+const QColor surface(0x1D, 0x25, 0x30);   ///< one step above the ground
+const QColor raised(0x2C, 0x36, 0x43);    ///< two steps above the ground
+const QColor hairline(0x36, 0x41, 0x4F);  ///< thin lines and edges
+const QColor handle(0xA9, 0xB4, 0xC0);    ///< what can be moved, at rest
 }  // namespace colour
 
 }  // namespace headunit

@@ -2,6 +2,7 @@
 
 #include "headunit/virtualtime/virtualtime.h"
 
+#include <QMetaMethod>
 #include <QTest>
 #include <QWidget>
 
@@ -51,4 +52,14 @@ void PageTest::show(QWidget *widget) {
     widget->show();
     QVERIFY(QTest::qWaitForWindowExposed(widget));
     advance(0);
+}
+
+QStringList PageTest::methods(const QMetaObject &meta) {
+    QStringList list;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const QMetaMethod method = meta.method(i);
+        list << QLatin1String(method.methodType() == QMetaMethod::Signal ? "signal " : "slot ") +
+                    QString::fromLatin1(method.methodSignature());
+    }
+    return list;
 }

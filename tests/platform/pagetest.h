@@ -25,6 +25,8 @@ protected:
     static QStringList debugLines();
     /// Shows \a widget as a window of its own size, and delivers what that posts.
     static void show(QWidget *widget);
+    /// The class's own signals and slots in the order of declaration: "signal backClicked()".
+    static QStringList methods(const QMetaObject &meta);
 };
 
 /// The descendant of that name and type; ends the test function where there is none.

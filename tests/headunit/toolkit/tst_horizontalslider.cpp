@@ -203,7 +203,7 @@ private slots:
         QCOMPARE(image.pixelColor(centre - knobWidth / 2, 36), QColor(Qt::red));
         QCOMPARE(image.pixelColor(centre - knobWidth / 2 - 1, 36), QColor(Qt::green));
         QCOMPARE(image.pixelColor(centre + knobWidth / 2, 36), QColor(Qt::blue));
-        QCOMPARE(image.pixelColor(2, 28), QColor(Qt::green));   // the track is centred: 28 to 43
+        QCOMPARE(image.pixelColor(2, 28), QColor(Qt::green));  // the track is centred: 28 to 43
         QVERIFY(image.pixelColor(2, 27) != QColor(Qt::green));
         QCOMPARE(image.pixelColor(635, 43), QColor(Qt::blue));
     }

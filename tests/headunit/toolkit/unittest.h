@@ -8,10 +8,14 @@
 #include <QTest>
 
 /// Moves time; no test waits.
-inline void advance(int ms) { headunit::VirtualTime::instance()->advance(ms); }
+inline void advance(int ms) {
+    headunit::VirtualTime::instance()->advance(ms);
+}
 
 /// Makes the pictures ":/test/red.xpm", green and blue, 8 x 8 pixels each, available.
-inline void initTestPictures() { Q_INIT_RESOURCE(pictures); }
+inline void initTestPictures() {
+    Q_INIT_RESOURCE(pictures);
+}
 
 /// The main function of a toolkit test: the application as the unit sets it up, in virtual time.
 #define UNIT_TEST_MAIN(Class)                              \

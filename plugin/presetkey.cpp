@@ -1,0 +1,39 @@
+#include "presetkey.h"
+
+#include <QAbstractButton>
+#include <QVariant>
+
+namespace audiosetting {
+
+namespace {
+
+const char longClickProperty[] = "long_click";
+
+}  // namespace
+
+QIcon presetIcon(int preset, bool saved) {
+    QIcon icon;
+    if (!saved) {
+        const QString pressed = QStringLiteral(":/corvina_icon/key_preset_click_p.png");
+        icon.addFile(QStringLiteral(":/corvina_icon/key_preset_click_n.png"), QSize(), QIcon::Normal, QIcon::Off);
+        icon.addFile(pressed, QSize(), QIcon::Selected, QIcon::Off);
+        icon.addFile(pressed, QSize(), QIcon::Selected, QIcon::On);
+        return icon;
+    }
+    const QString file = QStringLiteral(":/corvina_icon/key_timing_preset_%1_%2.png").arg(preset + 1);
+    icon.addFile(file.arg(QStringLiteral("n")), QSize(), QIcon::Normal, QIcon::Off);
+    icon.addFile(file.arg(QStringLiteral("s")), QSize(), QIcon::Active, QIcon::On);
+    icon.addFile(file.arg(QStringLiteral("p")), QSize(), QIcon::Selected, QIcon::Off);
+    icon.addFile(file.arg(QStringLiteral("s")), QSize(), QIcon::Selected, QIcon::On);
+    return icon;
+}
+
+void setLongClick(QAbstractButton *key, bool on) {
+    key->setProperty(longClickProperty, on);
+}
+
+bool longClick(const QAbstractButton *key) {
+    return key->property(longClickProperty).toBool();
+}
+
+}  // namespace audiosetting

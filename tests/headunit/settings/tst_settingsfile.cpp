@@ -1,0 +1,384 @@
+#include "headunit/settings/settingsfile.h"
+
+#include <QtTest>
+
+#include <csignal>
+#include <random>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using namespace headunit;
+
+namespace {
+
+const SettingsMap older{{"a", 1}, {"b", true}};
+const SettingsMap newer{{"a", 2}, {"b", false}, {"crossover/frontfreq", 11}, {"text", "\u00e9 \"x\"\n"}, {"half", 0.5}};
+
+void put(const QString &path, const QByteArray &bytes) {
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), qint64(bytes.size()));
+}
+
+QByteArray get(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+}
+
+/// QVariant's comparison converts types; this one does not.
+bool sameMap(const SettingsMap &a, const SettingsMap &b) {
+    bool same = a.size() == b.size();
+    for (auto it = a.cbegin(); same && it != a.cend(); ++it) {
+        same = b.contains(it.key()) && sameValue(it.value(), b.value(it.key()));
+    }
+    return same;
+}
+
+/// A disk that takes no more than a few bytes of any file, while it lives.
+class FullDisk {
+public:
+    FullDisk() {
+        constexpr rlim_t room = 16;
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = room;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+
+private:
+    rlimit m_before{};
+};
+
+}  // namespace
+
+class tst_SettingsFile : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void roundTrip();
+    void readable();
+    void editedByHand();
+    void badText_data();
+    void badText();
+    void nothingThere();
+    void keepsLastGoodCopy();
+    void truncatedAnywhere();
+    void flippedAnywhere();
+    void bothDamaged();
+    void everyDamagedFileIsKept();
+    void cutBetweenRenames();
+    void folderInPlaceOfTheFile();
+    void missingFolder();
+    void hugeFile();
+    void pipeInPlaceOfTheFile();
+    void fullDisk();
+    void damagedFileThatCannotBeSetAside();
+    void peekTouchesNothing();
+
+private:
+    QString path() const { return m_folder->filePath("settings.json"); }
+    QStringList files() const { return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot); }
+    /// Writes older, then newer, as two saves.
+    void saveTwice();
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_SettingsFile::init() {
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void tst_SettingsFile::saveTwice() {
+    SettingsFile file(path());
+    QString problem;
+    QVERIFY2(file.save(older, &problem), qPrintable(problem));
+    QVERIFY2(file.save(newer, &problem), qPrintable(problem));
+}
+
+void tst_SettingsFile::roundTrip() {
+    const quint32 seed = std::random_device{}();
+    qDebug("seed %u", seed);
+    std::mt19937 random(seed);
+    const auto below = [&random](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    const auto text = [&below] {
+        QString result;
+        for (int length = below(8); length > 0; --length) {
+            result.append(QChar(below(0xd800)));  // up to the surrogates, controls and zero included
+        }
+        return result;
+    };
+    for (int round = 0; round < 300; ++round) {
+        SettingsMap values;
+        for (int count = below(12); count > 0; --count) {
+            const int number = static_cast<int>(random());
+            const QVariant kinds[] = {number, number % 2 == 0, text(), number / 7.0 + 0.01, Q_INT64_C(5000000000) + number};
+            values.insert(text(), storableValue(kinds[below(5)]));
+        }
+        SettingsMap read;
+        QString problem;
+        QVERIFY2(settingsFromText(settingsToText(values), &read, &problem), qPrintable(problem));
+        for (auto it = values.cbegin(); it != values.cend(); ++it) {
+            if (it.value().type() == QVariant::Double) {
+                QCOMPARE(read.value(it.key()).toDouble(), it.value().toDouble());
+            } else {
+                QVERIFY2(sameValue(read.value(it.key()), it.value()), qPrintable(it.value().toString()));
+            }
+        }
+        QCOMPARE(read.size(), values.size());
+    }
+    SettingsMap read;
+    QString problem;
+    const QString zero = QString("a") + QChar(0) + "b";
+    QVERIFY(settingsFromText(settingsToText({{zero, zero}}), &read, &problem));
+    QVERIFY(sameMap(read, {{zero, zero}}));
+    const QString halfPair(QChar(0xd800));
+    QVERIFY(settingsFromText(settingsToText({{halfPair, halfPair}}), &read, &problem));
+    QCOMPARE(read.size(), 1);
+}
+
+void tst_SettingsFile::readable() {
+    const QByteArray text = settingsToText({{"b", true}, {"a", 3}, {"c", "x"}});
+    QVERIFY(text.contains("\"a\": 3,\n"));
+    QVERIFY(text.indexOf("\"a\": 3") < text.indexOf("\"b\": true"));
+    QVERIFY(text.indexOf("\"b\": true") < text.indexOf("\"c\": \"x\""));
+}
+
+void tst_SettingsFile::editedByHand() {
+    SettingsMap read;
+    QString problem;
+    QByteArray text = settingsToText({{"a", 3}});
+    text.replace("\"a\": 3", "\"a\": 4");
+    QVERIFY(!settingsFromText(text, &read, &problem));
+    QCOMPARE(problem, QStringLiteral("wrong checksum"));
+    text.replace(text.indexOf("    \"sha256\""), text.indexOf('\n', text.indexOf("\"sha256\"")) - text.indexOf("    \"sha256\""), "");
+    QVERIFY2(settingsFromText(text, &read, &problem), text.constData());
+    QCOMPARE(read.value("a"), QVariant(4));
+}
+
+void tst_SettingsFile::badText_data() {
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("binary") << QByteArray("\x00\xff\x80\x7f{}", 6);
+    QTest::newRow("other text") << QByteArray("[General]\na=1\n");
+    QTest::newRow("array") << QByteArray("[1]");
+    QTest::newRow("no values") << QByteArray("{\"settings-format\": 1}");
+    QTest::newRow("values are none") << QByteArray("{\"settings-format\": 1, \"values\": 3}");
+    QTest::newRow("newer format") << QByteArray("{\"settings-format\": 2, \"values\": {}}");
+    QTest::newRow("nested value") << QByteArray("{\"settings-format\": 1, \"values\": {\"a\": {}}}");
+    QTest::newRow("null") << QByteArray("{\"settings-format\": 1, \"values\": {\"a\": null}}");
+    QTest::newRow("deeply nested") << QByteArray(100000, '[');
+}
+
+void tst_SettingsFile::badText() {
+    QFETCH(QByteArray, text);
+    SettingsMap values = older;
+    QString problem;
+    QVERIFY(!settingsFromText(text, &values, &problem));
+    QVERIFY(!problem.isEmpty());
+    QVERIFY(sameMap(values, older));
+}
+
+void tst_SettingsFile::nothingThere() {
+    SettingsMap values = older;
+    QString problem;
+    QVERIFY(!SettingsFile(path()).load(&values, &problem));
+    QCOMPARE(problem, QString());
+    QVERIFY(sameMap(values, older));
+    QCOMPARE(files(), QStringList());
+}
+
+void tst_SettingsFile::keepsLastGoodCopy() {
+    saveTwice();
+    QCOMPARE(files(), QStringList({"settings.json", "settings.json.bak"}));
+    QCOMPARE(get(path()), settingsToText(newer));
+    QCOMPARE(get(path() + ".bak"), settingsToText(older));
+    SettingsMap values;
+    QString problem;
+    QVERIFY(SettingsFile(path()).load(&values, &problem));
+    QCOMPARE(problem, QString());
+    QVERIFY(sameMap(values, newer));
+}
+
+void tst_SettingsFile::truncatedAnywhere() {
+    const QByteArray whole = settingsToText(newer);
+    for (int size = 0; size < whole.size() - 1; ++size) {  // the last byte is a line end, which nobody misses
+        init();
+        put(path(), whole.left(size));
+        put(path() + ".bak", settingsToText(older));
+        SettingsMap values;
+        QString problem;
+        SettingsFile file(path());
+        QVERIFY2(file.load(&values, &problem), qPrintable(QString::number(size)));
+        QVERIFY(sameMap(values, older));
+        QVERIFY2(problem.contains(path()) && !problem.contains('\n'), qPrintable(problem));
+        QCOMPARE(get(path() + ".damaged-1"), whole.left(size));
+        // The next save keeps the good copy.
+        QVERIFY(file.save(newer, &problem));
+        QCOMPARE(get(path()), whole);
+        QCOMPARE(get(path() + ".bak"), settingsToText(older));
+    }
+}
+
+void tst_SettingsFile::flippedAnywhere() {
+    const QByteArray whole = settingsToText(newer);
+    int setAside = 0;
+    for (int at = 0; at < whole.size(); ++at) {
+        for (int bit = 0; bit < 8; ++bit) {
+            QByteArray damaged = whole;
+            damaged[at] = static_cast<char>(damaged[at] ^ (1 << bit));
+            SettingsMap values;
+            QString problem;
+            if (settingsFromText(damaged, &values, &problem)) {
+                QVERIFY2(sameMap(values, newer), damaged.constData());  // a space that became another one
+            } else {
+                ++setAside;
+                QVERIFY(values.isEmpty());
+            }
+        }
+    }
+    QVERIFY(setAside > whole.size());
+}
+
+void tst_SettingsFile::bothDamaged() {
+    put(path(), "x");
+    put(path() + ".bak", "y");
+    SettingsMap values = older;
+    QString problem;
+    SettingsFile file(path());
+    QVERIFY(!file.load(&values, &problem));
+    QVERIFY(sameMap(values, older));
+    QVERIFY2(problem.contains(path()) && problem.contains(path() + ".bak") && problem.contains("factory state"),
+             qPrintable(problem));
+    QVERIFY(file.save(newer, &problem));
+    QVERIFY(file.save(newer, &problem));
+    QCOMPARE(get(path() + ".damaged-1"), QByteArray("x"));
+    QCOMPARE(get(path() + ".bak.damaged-1"), QByteArray("y"));
+}
+
+void tst_SettingsFile::everyDamagedFileIsKept() {
+    for (int number = 1; number <= 3; ++number) {
+        const QByteArray bytes = "damage " + QByteArray::number(number);
+        put(path(), bytes);
+        SettingsMap values;
+        QString problem;
+        SettingsFile(path()).load(&values, &problem);
+        QCOMPARE(get(QString("%1.damaged-%2").arg(path()).arg(number)), bytes);
+    }
+}
+
+void tst_SettingsFile::cutBetweenRenames() {
+    saveTwice();
+    // What a save leaves when it is cut after its first rename.
+    QVERIFY(QFile::remove(path() + ".bak"));
+    QVERIFY(QFile::rename(path(), path() + ".bak"));
+    put(path() + ".new", settingsToText({{"a", 3}}));
+    SettingsMap values;
+    QString problem;
+    SettingsFile file(path());
+    QVERIFY(file.load(&values, &problem));
+    QCOMPARE(problem, QString());
+    QVERIFY(sameMap(values, newer));
+    QVERIFY(file.save(older, &problem));
+    QCOMPARE(files(), QStringList({"settings.json", "settings.json.bak"}));
+    QCOMPARE(get(path()), settingsToText(older));
+    QCOMPARE(get(path() + ".bak"), settingsToText(newer));
+}
+
+void tst_SettingsFile::folderInPlaceOfTheFile() {
+    QVERIFY(QDir().mkpath(path() + "/inside"));
+    SettingsMap values;
+    QString problem;
+    SettingsFile file(path());
+    QVERIFY(!file.load(&values, &problem));
+    QVERIFY2(problem.contains(path()), qPrintable(problem));
+    QVERIFY(QFileInfo(path() + ".damaged-1/inside").isDir());
+    QVERIFY(file.save(newer, &problem));
+    QCOMPARE(get(path()), settingsToText(newer));
+}
+
+void tst_SettingsFile::missingFolder() {
+    SettingsMap values;
+    QString problem;
+    SettingsFile file(m_folder->filePath("no/settings.json"));
+    QVERIFY(!file.load(&values, &problem));
+    QCOMPARE(problem, QString());
+    QVERIFY(!file.save(newer, &problem));
+    QVERIFY2(problem.contains(file.path()), qPrintable(problem));
+}
+
+void tst_SettingsFile::hugeFile() {
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 33));  // 8 GiB without a byte on the disk
+    file.close();
+    SettingsMap values;
+    QString problem;
+    QVERIFY(!SettingsFile(path()).load(&values, &problem));
+    QVERIFY2(problem.contains(path()) && problem.contains("Larger"), qPrintable(problem));
+    QVERIFY(QFileInfo::exists(path() + ".damaged-1"));
+}
+
+void tst_SettingsFile::pipeInPlaceOfTheFile() {
+    QCOMPARE(mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
+    SettingsMap values;
+    QString problem;
+    QVERIFY(!SettingsFile(path()).load(&values, &problem));  // and does not wait for a writer
+    QVERIFY2(problem.contains(path()), qPrintable(problem));
+}
+
+void tst_SettingsFile::fullDisk() {
+    saveTwice();
+    SettingsFile file(path());
+    SettingsMap values;
+    QString problem;
+    QVERIFY(file.load(&values, &problem));
+    bool saved = true;
+    {
+        const FullDisk full;
+        saved = file.save({{"a", 99}}, &problem);
+    }
+    QVERIFY(!saved);
+    QVERIFY2(problem.contains(path()), qPrintable(problem));
+    QCOMPARE(files(), QStringList({"settings.json", "settings.json.bak"}));
+    QCOMPARE(get(path()), settingsToText(newer));
+    QCOMPARE(get(path() + ".bak"), settingsToText(older));
+    QVERIFY(file.save({{"a", 99}}, &problem));
+    QCOMPARE(get(path()), settingsToText({{"a", 99}}));
+    QCOMPARE(get(path() + ".bak"), settingsToText(newer));
+}
+
+void tst_SettingsFile::damagedFileThatCannotBeSetAside() {
+    // A full set of names stands in for a disk that takes no rename.
+    put(path(), "x");
+    for (int number = 1; number <= 1000; ++number) {
+        put(QString("%1.damaged-%2").arg(path()).arg(number), "old");
+    }
+    SettingsMap values;
+    QString problem;
+    SettingsFile file(path());
+    QVERIFY(!file.load(&values, &problem));
+    QVERIFY2(problem.contains(path()) && problem.contains("cannot be set aside"), qPrintable(problem));
+    QVERIFY(!file.save(newer, &problem));
+    QCOMPARE(get(path()), QByteArray("x"));
+    QVERIFY(QFile::remove(path() + ".damaged-7"));
+    QVERIFY(file.save(newer, &problem));
+    QCOMPARE(get(path() + ".damaged-7"), QByteArray("x"));
+    QCOMPARE(get(path()), settingsToText(newer));
+}
+
+void tst_SettingsFile::peekTouchesNothing() {
+    SettingsMap values = older;
+    QVERIFY(!SettingsFile(path()).peek(&values));
+    put(path(), "x");
+    QVERIFY(!SettingsFile(path()).peek(&values));
+    QVERIFY(sameMap(values, older));
+    put(path() + ".bak", settingsToText(newer));
+    QVERIFY(SettingsFile(path()).peek(&values));
+    QVERIFY(sameMap(values, newer));
+    QCOMPARE(files(), QStringList({"settings.json", "settings.json.bak"}));
+}
+
+QTEST_GUILESS_MAIN(tst_SettingsFile)
+#include "tst_settingsfile.moc"

@@ -1,0 +1,250 @@
+#include "headunit/settings/settingsstore.h"
+
+#include "headunit/settings/settingsfile.h"
+#include "logwatch.h"
+
+#include <QtTest>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace headunit;
+
+class tst_SettingsStore : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void memoryOnly();
+    void factoryFirst();
+    void restartKeepsTypes();
+    void closeSaves();
+    void replaceAllRemoves();
+    void removesWithAnInvalidValue();
+    void refusesWhatCannotBeKept();
+    void anUnchangedValueIsNoSave();
+    void damageIsOneWarning();
+    void neverWaitsForTheDisk();
+    void aDeadDiskEndsWithTheStore();
+    void failingDiskIsOneWarningAndRetried();
+    void secondProcessOnlyReads();
+
+private:
+    QString path() const { return m_folder->filePath("settings.json"); }
+    SettingsMap onDisk() const {
+        SettingsMap values;
+        SettingsFile(path()).peek(&values);
+        return values;
+    }
+    /// Makes the writer wait, as a disk that does not answer does, until readBlockedSave().
+    void blockSaves() { QCOMPARE(mkfifo(newPath().constData(), 0600), 0); }
+    /// Waits for the save that waits, and lets it go on. It then fails: a pipe keeps nothing.
+    void readBlockedSave();
+    QByteArray newPath() const { return QFile::encodeName(path() + ".new"); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void tst_SettingsStore::init() {
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_folder->isValid());
+}
+
+void tst_SettingsStore::readBlockedSave() {
+    const int pipe = open(newPath().constData(), O_RDONLY);  // returns once the writer has it open as well
+    QVERIFY(pipe >= 0);
+    char buffer[4096];
+    while (read(pipe, buffer, sizeof buffer) > 0) {
+    }
+    close(pipe);
+}
+
+void tst_SettingsStore::memoryOnly() {
+    SettingsStore store;
+    QCOMPARE(store.intValue("a", 7), 7);
+    QCOMPARE(store.boolValue("a", true), true);
+    store.set("a", 3);
+    QCOMPARE(store.intValue("a", 7), 3);
+    QVERIFY(!store.flush());
+}
+
+void tst_SettingsStore::factoryFirst() {
+    SettingsStore store;
+    QCOMPARE(store.open(path(), {{"a", 1}, {"b", 2}}), QString());
+    QCOMPARE(store.intValue("a", 0), 1);
+    QCOMPARE(onDisk().size(), 0);  // opening writes nothing
+    store.set("a", 5);
+    QVERIFY(store.flush());
+    store.close();
+    QCOMPARE(store.intValue("a", -1), -1);
+    QCOMPARE(store.open(path(), {{"a", 8}, {"c", 9}}), QString());
+    QCOMPARE(store.intValue("a", 0), 5);
+    QCOMPARE(store.intValue("b", 0), 2);
+    QCOMPARE(store.intValue("c", 0), 0);  // the factory state is only for a store that has none
+}
+
+void tst_SettingsStore::restartKeepsTypes() {
+    SettingsStore store;
+    store.open(path(), {});
+    store.set("int", 1);
+    store.set("bool", true);
+    store.set("text", "1");
+    store.close();
+    store.open(path(), {});
+    QVERIFY(sameValue(store.values().value("int"), 1));
+    QVERIFY(sameValue(store.values().value("bool"), true));
+    QVERIFY(sameValue(store.values().value("text"), "1"));
+}
+
+void tst_SettingsStore::closeSaves() {
+    {
+        SettingsStore store;
+        store.open(path(), {});
+        store.set("a", 4);
+    }
+    QCOMPARE(onDisk().value("a"), QVariant(4));
+}
+
+void tst_SettingsStore::replaceAllRemoves() {
+    SettingsStore store;
+    store.open(path(), {});
+    store.set("a", 4);
+    store.replaceAll({{"b", 5}});
+    store.set("c", 6);
+    QCOMPARE(store.intValue("a", -1), -1);
+    QCOMPARE(store.intValue("b", -1), 5);
+    QVERIFY(store.flush());
+    QCOMPARE(onDisk(), (SettingsMap{{"b", 5}, {"c", 6}}));
+}
+
+void tst_SettingsStore::removesWithAnInvalidValue() {
+    SettingsStore store;
+    store.open(path(), {{"a", 1}, {"b", 2}});
+    store.set("a", QVariant());
+    store.set("never", QVariant());
+    QCOMPARE(store.intValue("a", -1), -1);
+    QVERIFY(store.flush());
+    QCOMPARE(onDisk(), (SettingsMap{{"b", 2}}));
+}
+
+void tst_SettingsStore::refusesWhatCannotBeKept() {
+    LogWatch log;
+    SettingsStore store;
+    store.set("a", 4);
+    store.set("a", QStringList{"x"});
+    QCOMPARE(store.intValue("a", -1), 4);
+    QCOMPARE(log.takeWarnings(), QStringList{"settings: a cannot hold a QStringList"});
+}
+
+void tst_SettingsStore::anUnchangedValueIsNoSave() {
+    SettingsStore store;
+    store.open(path(), {});
+    store.set("a", 4);
+    QVERIFY(store.flush());
+    QVERIFY(QFile::remove(path()));
+    store.set("a", 4);
+    QVERIFY(store.flush());
+    QVERIFY(!QFile::exists(path()));
+    store.set("a", true);  // another type is another value
+    QVERIFY(store.flush());
+    QVERIFY(sameValue(onDisk().value("a"), true));
+}
+
+void tst_SettingsStore::damageIsOneWarning() {
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("\x01\x02") == 2);
+    file.close();
+    LogWatch log;
+    SettingsStore store;
+    const QString problem = store.open(path(), {{"a", 1}});
+    QVERIFY2(problem.contains(path()), qPrintable(problem));
+    QCOMPARE(log.takeWarnings(), QStringList{problem});
+    QCOMPARE(store.intValue("a", 0), 1);
+}
+
+void tst_SettingsStore::neverWaitsForTheDisk() {
+    LogWatch log;
+    SettingsStore store;
+    store.open(path(), {});
+    blockSaves();
+    constexpr int count = 20000;
+    for (int number = 0; number < count; ++number) {
+        const QString key = QString::number(number % 100);
+        store.set(key, number);
+        QCOMPARE(store.intValue(key, -1), number);
+    }
+    QVERIFY(!store.flush(1));  // the disk really does not answer
+    store.set("last", 1);
+    readBlockedSave();
+    QVERIFY(store.flush() || store.flush());  // the first may still meet the blocked save
+    QCOMPARE(onDisk(), store.values());
+    QCOMPARE(onDisk().size(), 101);
+}
+
+void tst_SettingsStore::aDeadDiskEndsWithTheStore() {
+    LogWatch log;
+    blockSaves();
+    {
+        SettingsStore store;
+        store.open(path(), {});
+        store.set("a", 1);
+    }
+    const QStringList warnings = log.takeWarnings();
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY2(warnings.first().contains(path()) && warnings.first().contains("does not answer"),
+             qPrintable(warnings.first()));
+    readBlockedSave();
+    QStringList last;
+    const auto hasEnded = [&] {  // the thread that was left behind has said its last word
+        last += log.takeWarnings();
+        return last.join('\n').contains("cannot be written");
+    };
+    QTRY_VERIFY(hasEnded());
+}
+
+void tst_SettingsStore::failingDiskIsOneWarningAndRetried() {
+    LogWatch log;
+    SettingsStore store;
+    store.open(path(), {});
+    store.set("a", 1);
+    QVERIFY(store.flush());
+    QVERIFY(QDir().mkpath(path() + ".new"));  // nothing can be written under that name
+    store.set("a", 2);
+    QVERIFY(!store.flush());
+    store.set("a", 3);
+    QVERIFY(!store.flush());
+    QCOMPARE(store.intValue("a", 0), 3);
+    QCOMPARE(onDisk().value("a"), QVariant(1));
+    const QStringList warnings = log.takeWarnings();
+    QCOMPARE(warnings.size(), 1);
+    QVERIFY2(warnings.first().contains(path()) && warnings.first().contains("trying again"),
+             qPrintable(warnings.first()));
+    QVERIFY(QDir().rmdir(path() + ".new"));
+    QVERIFY(store.flush());  // without a further change
+    QCOMPARE(onDisk().value("a"), QVariant(3));
+    QCOMPARE(log.takeWarnings(), QStringList{"settings file " + path() + " is written again"});
+}
+
+void tst_SettingsStore::secondProcessOnlyReads() {
+    LogWatch log;
+    SettingsStore first;
+    first.open(path(), {});
+    first.set("a", 1);
+    QVERIFY(first.flush());
+    SettingsStore second;
+    const QString problem = second.open(path(), {});
+    QVERIFY2(problem.contains(path()) && problem.contains("in use"), qPrintable(problem));
+    QCOMPARE(second.intValue("a", 0), 1);
+    second.set("a", 2);
+    QCOMPARE(second.intValue("a", 0), 2);
+    QVERIFY(!second.flush());
+    QCOMPARE(onDisk().value("a"), QVariant(1));
+    first.close();
+    QCOMPARE(second.open(path(), {}), QString());
+    second.set("a", 2);
+    QVERIFY(second.flush());
+    QCOMPARE(onDisk().value("a"), QVariant(2));
+}
+
+QTEST_GUILESS_MAIN(tst_SettingsStore)
+#include "tst_settingsstore.moc"

@@ -1,0 +1,270 @@
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+#include <QTest>
+
+// The built program, as a person starts it: exit codes, and what it prints.
+class TestHeadunit : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void help();
+    void version();
+    void wrongCommandLine_data();
+    void wrongCommandLine();
+    void pluginsThatFail();
+    void openWithAFailedPlugin();
+    void exitWhenShown();
+    void scriptResults_data();
+    void scriptResults();
+    void scriptsAreInstant();
+    void trace();
+    void debugLines();
+    void tourWithoutADisplay();
+    void damagedSettings();
+
+private:
+    struct Result {
+        int code;
+        QString out;
+        QString err;
+        QStringList errLines() const { return err.split(QLatin1Char('\n'), Qt::SkipEmptyParts); }
+    };
+    Result run(const QStringList &arguments, const QStringList &unset = {});
+    /// Writes a file into the test's folder.
+    QString write(const QString &name, const QByteArray &content);
+
+    QScopedPointer<QTemporaryDir> m_folder;
+};
+
+void TestHeadunit::init() {
+    m_folder.reset(new QTemporaryDir);
+}
+
+QString TestHeadunit::write(const QString &name, const QByteArray &content) {
+    const QString path = m_folder->filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+        qFatal("cannot write %s", qPrintable(path));
+    }
+    return path;
+}
+
+TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStringList &unset) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("XDG_RUNTIME_DIR", m_folder->path());
+    environment.insert("XDG_DATA_HOME", m_folder->filePath("data"));
+    environment.insert("TMPDIR", m_folder->path());
+    for (const QString &name : unset) {
+        environment.remove(name);
+    }
+    QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(m_folder->path());
+    process.start(HEADUNIT, arguments);
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
+        process.kill();
+        process.waitForFinished();
+        return {-1, QString(), QString::fromUtf8(process.readAllStandardError())};
+    }
+    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
+
+void TestHeadunit::help() {
+    const Result result = run({"--help"});
+    QCOMPARE(result.code, 0);
+    QVERIFY(result.out.contains("--script"));
+    QCOMPARE(result.err, QString());
+}
+
+void TestHeadunit::version() {
+    const Result result = run({"--version"});
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.out, QStringLiteral("headunit " HEADUNIT_VERSION "\n"));
+}
+
+void TestHeadunit::wrongCommandLine_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("option") << QStringList{"--nonsense"} << "nonsense";
+    QTest::newRow("script missing") << QStringList{"--script", "gone.js"} << "gone.js";
+    QTest::newRow("script a folder") << QStringList{"--script", "."} << "--script .";
+    QTest::newRow("language") << QStringList{"--language", "xx"} << "--language xx";
+    QTest::newRow("application") << QStringList{"--open", "nothing"} << "--open nothing";
+    QTest::newRow("scale") << QStringList{"--scale", "huge"} << "--scale huge";
+    QTest::newRow("root is a file") << QStringList{"--root", "/dev/null/x"} << "/dev/null/x";
+    QTest::newRow("tour into a file") << QStringList{"--tour", "/dev/null/x"} << "/dev/null/x";
+}
+
+void TestHeadunit::wrongCommandLine() {
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, named);
+    const Result result = run(arguments);
+    QCOMPARE(result.code, 2);
+    QCOMPARE(result.errLines().size(), 1);
+    QVERIFY2(result.err.startsWith("headunit: ") && result.err.contains(named), qPrintable(result.err));
+    QCOMPARE(result.out, QString());
+}
+
+void TestHeadunit::pluginsThatFail() {
+    const QString script = write("s.js",
+                                 "shot('home.png'); expect('tile_audiosetting', 'visible', true);"
+                                 "expect('tile_second', 'visible', false);");
+    const Result result = run({"--script", script, "gone.so", FIXTURES "/noapplication.so", FIXTURES "/wrongiid.so",
+                               FIXTURES "/application.so"});
+    QVERIFY2(result.code == 0, qPrintable(result.err));
+    QCOMPARE(result.errLines().size(), 3);
+    QVERIFY(result.errLines().at(0).startsWith("headunit: gone.so: there is no such file"));
+    QVERIFY(result.errLines().at(1).startsWith("headunit: noapplication.so: "));
+    QVERIFY(result.errLines().at(2).startsWith("headunit: wrongiid.so: "));
+    // The same lines stand on the home screen, in the warm colour at its foot.
+    const QImage home(m_folder->filePath("home.png"));
+    QCOMPARE(home.size(), QSize(1024, 600));
+    int warm = 0;
+    for (int y = 440; y < 600; ++y) {
+        for (int x = 0; x < 1024; ++x) {
+            warm += home.pixel(x, y) == qRgb(0xFF, 0xB4, 0x54);
+        }
+    }
+    QVERIFY2(warm > 500, qPrintable(QString::number(warm)));
+}
+
+void TestHeadunit::openWithAFailedPlugin() {
+    const QString script = write("s.js", "expect('home', 'visible', true);");
+    const Result result = run({"--open", "audiosetting", "--script", script, "gone.so"});
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.errLines().size(), 1);
+}
+
+void TestHeadunit::exitWhenShown() {
+    const Result result = run({"--open", "audiosetting", "--exit-when-shown"});
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.err, QString());
+}
+
+void TestHeadunit::scriptResults_data() {
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("error");  // after the file's name
+    QTest::newRow("good") << QByteArray("log('yes');") << 0 << "";
+    QTest::newRow("failed expectation") << QByteArray("\n\nexpect(1 == 2, 'sums');") << 1 << ":3: Error: sums";
+    QTest::newRow("failed expectation without words")
+        << QByteArray("expect(false);") << 1 << ":1: Error: expectation failed";
+    QTest::newRow("failed property") << QByteArray("\nexpect('home', 'width', 5);") << 1
+                                     << ":2: Error: home.width is 1024, expected 5";
+    QTest::newRow("wrong type") << QByteArray("expect('home', 'width', '1024');") << 1
+                                << ":1: Error: home.width is 1024, expected 1024";
+    QTest::newRow("no such property") << QByteArray("expect('home', 'colour', 5);") << 1
+                                      << ":1: Error: \"home\" has no property \"colour\"";
+    QTest::newRow("nothing there") << QByteArray("tap('nothing');") << 1
+                                   << ":1: Error: nothing named \"nothing\" is visible";
+    QTest::newRow("outside") << QByteArray("tap(2000, 5);") << 1 << ":1: Error: 2000, 5 is outside the screen";
+    QTest::newRow("no place") << QByteArray("tap({});") << 1 << ":1: Error: a place is a name, or x and y";
+    QTest::newRow("syntax") << QByteArray("tap('home'") << 1 << ":1: SyntaxError: ";
+    QTest::newRow("unknown function") << QByteArray("\nhammer();") << 1 << ":2: ReferenceError: hammer is not defined";
+    QTest::newRow("picture") << QByteArray("shot('/dev/null/x.png');") << 1
+                             << ":1: Error: cannot write /dev/null/x.png";
+    QTest::newRow("release without press") << QByteArray("release();") << 1 << ":1: Error: the finger is not down";
+    QTest::newRow("pressed twice") << QByteArray("press(5, 5); press(6, 6);") << 1
+                                   << ":1: Error: the finger is down already";
+    QTest::newRow("language") << QByteArray("language('xx');") << 1 << ":1: Error: there is no language \"xx\"";
+    QTest::newRow("source") << QByteArray("source(7);") << 1 << ":1: Error: there is no source 7";
+    QTest::newRow("application") << QByteArray("open('x');") << 1 << ":1: Error: there is no application \"x\"";
+    QTest::newRow("first error ends it") << QByteArray("tap('nothing'); shot('late.png');") << 1
+                                         << ":1: Error: nothing named";
+}
+
+void TestHeadunit::scriptResults() {
+    QFETCH(QByteArray, script);
+    QFETCH(int, code);
+    QFETCH(QString, error);
+    const QString file = write("s.js", script);
+    const Result result = run({"--script", file});
+    QCOMPARE(result.code, code);
+    if (code == 0) {
+        QCOMPARE(result.err, QString());
+        QCOMPARE(result.out, QStringLiteral("yes\n"));
+    } else {
+        QCOMPARE(result.errLines().size(), 1);
+        QVERIFY2(result.err.startsWith(file + error), qPrintable(result.err));
+    }
+    QVERIFY(!QFile::exists(m_folder->filePath("late.png")));
+}
+
+void TestHeadunit::scriptsAreInstant() {
+    // A day on the unit's clock; it ends within the time limit of run().
+    const Result result = run({"--script", write("s.js", "wait(24 * 3600 * 1000); log('yes');")});
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.out, QStringLiteral("yes\n"));
+}
+
+void TestHeadunit::trace() {
+    const QString script = write("s.js", "volume(0, 21); log('between'); volume(2, 7);");
+    const QStringList lines = run({"--trace", "--script", script}).out.split('\n', Qt::SkipEmptyParts);
+    const QStringList calls = lines.filter(QRegularExpression("^(setVolumeLevel|between)"));
+    QCOMPARE(calls.size(), 3);
+    QVERIFY2(calls.at(0).startsWith("setVolumeLevel(21, 0) -> "), qPrintable(calls.at(0)));
+    QCOMPARE(calls.at(1), QStringLiteral("between"));
+    QVERIFY2(calls.at(2).startsWith("setVolumeLevel(7, 2) -> "), qPrintable(calls.at(2)));
+    QVERIFY(calls.at(0).size() > int(qstrlen("setVolumeLevel(21, 0) -> ")));
+    QCOMPARE(run({"--script", script}).out, QStringLiteral("between\n"));
+}
+
+void TestHeadunit::debugLines() {
+    const QString script = write("s.js", "open('audiosetting');");
+    QCOMPARE(run({"--script", script}).err, QString());
+    const Result verbose = run({"--verbose", "--script", script});
+    QCOMPARE(verbose.code, 0);
+    QVERIFY2(verbose.err.contains("[DBG]") && verbose.err.contains("audioSettingsPage: "), qPrintable(verbose.err));
+}
+
+void TestHeadunit::tourWithoutADisplay() {
+    const Result result = run({}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"});
+    QVERIFY2(result.code == 0, qPrintable(result.err));
+    QCOMPARE(result.errLines().size(), 1);
+    const QString folder = m_folder->filePath("headunit-tour");
+    QVERIFY2(result.err.contains("no display") && result.err.contains(folder), qPrintable(result.err));
+    // One line of the index for each picture, and each picture is of the screen's size.
+    const QStringList pictures = QDir(folder).entryList({"*.png"}, QDir::Files);
+    const QStringList index = result.out.split('\n', Qt::SkipEmptyParts);
+    QVERIFY(pictures.size() >= 10);
+    QCOMPARE(index.size(), pictures.size());
+    for (const QString &line : index) {
+        const QString name = line.section(' ', 0, 0);
+        QVERIFY2(QImage(folder + '/' + name).size() == QSize(1024, 600), qPrintable(name));
+    }
+    // The user's own settings were left alone.
+    QVERIFY(!QDir(m_folder->filePath("data")).exists());
+}
+
+void TestHeadunit::damagedSettings() {
+    // What the store does about it is tested with the store; here, that the program runs on and says so once.
+    const QString script = write("s.js", "setStore('subwooferLevel', 9); wait(200);");
+    const QString root = m_folder->filePath("root");
+    QCOMPARE(run({"--root", root, "--script", script}).code, 0);
+    QString settings;
+    QDirIterator files(root, {"*audio*"}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (path.contains("/settings/") && !path.endsWith(".bak")) {
+            settings = path;
+        }
+    }
+    QVERIFY(!settings.isEmpty());
+    write(QDir(m_folder->path()).relativeFilePath(settings), QByteArray("\0\1\2 no settings", 15));
+    const Result result = run({"--root", root, "--script", write("t.js", "expect('home', 'visible', true);")});
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.errLines().size(), 1);
+    QVERIFY2(result.err.contains(settings), qPrintable(result.err));
+}
+
+QTEST_GUILESS_MAIN(TestHeadunit)
+#include "tst_headunit.moc"
