@@ -44,7 +44,7 @@ inline QPoint placeOf(const HorizontalSlider *slider, int first, int count, int 
 }
 
 /// The signatures of a class's slots (or signals) with their arguments' names, in the order of their declaration.
-inline QStringList methods(const QMetaObject &meta, QMetaMethod::MethodType type) {
+inline QStringList signatures(const QMetaObject &meta, QMetaMethod::MethodType type) {
     QStringList lines;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
         const QMetaMethod method = meta.method(i);

@@ -130,8 +130,8 @@ private slots:
                 expected << QLatin1String(row->slot) + QStringLiteral("Plus()")
                          << QLatin1String(row->slot) + QStringLiteral("Minus()");
             }
-            QCOMPARE(methods(region.meta, QMetaMethod::Slot), expected);
-            QCOMPARE(methods(region.meta, QMetaMethod::Signal), QStringList());
+            QCOMPARE(signatures(region.meta, QMetaMethod::Slot), expected);
+            QCOMPARE(signatures(region.meta, QMetaMethod::Signal), QStringList());
             QCOMPARE(QByteArray(region.meta.superClass()->className()), QByteArray("QWidget"));
         }
     }

@@ -129,8 +129,8 @@ private slots:
                      << QStringLiteral("on%1VolumMinus()").arg(QLatin1String(name));
         }
         expected << QStringLiteral("onAudioVolumeChange(int mute, int vol, int type)");
-        QCOMPARE(methods(meta, QMetaMethod::Slot), expected);
-        QCOMPARE(methods(meta, QMetaMethod::Signal), QStringList());
+        QCOMPARE(signatures(meta, QMetaMethod::Slot), expected);
+        QCOMPARE(signatures(meta, QMetaMethod::Signal), QStringList());
     }
 
     void hasTheRowsOfItsForm() {
