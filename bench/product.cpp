@@ -9,10 +9,12 @@
 #include "appplugin.h"
 #include "benchtools.h"
 #include "headunit/settings/unitroot.h"
+#include "headunit/settings/unitsettings.h"
 #include "headunit/toolkit/unitapplication.h"
 #include "windowinterface.h"
 
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QPluginLoader>
 #include <QTemporaryDir>
 
@@ -99,6 +101,8 @@ int main(int argc, char **argv) {
     headunit::setUnitRoot(root.path());
     headunit::prepareUnitApplication();
     bench::Application app(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    headunit::openSettings();
     headunit::setUpUnitApplication();
     const QStringList args = app.arguments().mid(1);
 
@@ -113,5 +117,6 @@ int main(int argc, char **argv) {
         qCritical("product count PAGE | product switch STEPS PAGE PAGE | product drag STEPS pad");
         return 2;
     }
+    headunit::closeSettings();
     return 0;
 }
