@@ -48,6 +48,50 @@ for (var i = 0; i < tabs.length; ++i) {
     shot(tabs[i][1] + ".png", tabs[i][2]);
 }
 
+use("key_eq");
+for (var band = 0; band < 13; ++band) {
+    var x = 177 + Math.round(band * 67.8);
+    press(x, 283);
+    move(x, 283 - Math.round(50 * Math.cos(band / 3)));
+    release();
+    wait(pause);
+}
+press("key_custom1");
+wait(2000);
+release();
+settle();
+shot("eq_custom.png", "EQ, a curve of the user's own, kept as the first");
+
+use("key_crossover");
+for (var step = 0; step < 6; ++step) {
+    use("key_freq_plus");
+}
+use("key_slope_plus");
+use("key_sub");
+for (step = 0; step < 3; ++step) {
+    use("key_freq_plus");
+}
+use("key_slope_plus");
+use("key_slope_plus");
+use("key_level_minus");
+use("key_level_minus");
+settle();
+shot("crossover_filters.png", "Crossover, front high-pass and subwoofer low-pass");
+
+use("key_timing");
+for (step = 0; step < 12; ++step) {
+    use("key_fl_plus");
+    use("key_rl_plus");
+}
+use("key_inches");
+settle();
+shot("timing_inches.png", "Timing, in inches");
+
+use("key_factoryeq");
+use("key_Rock");
+settle();
+shot("factoryeq_rock.png", "Factory EQ, Rock");
+
 use("key_general");
 use("key_advanced");
 shot("settings.png", "Settings");
@@ -64,10 +108,19 @@ shot("volume.png", "Volume settings");
 tap("hardkey_volume_up");
 shot("volume_overlay.png", "Volume settings, level shown while the hard key turns it");
 settle();
+press(120, 560);
+move(120, 300);
+release();
+settle();
+shot("volume_scrolled.png", "Volume settings, scrolled");
 use("key_return");
 use("Key_005_res_audio");
 settle();
 shot("reset.png", "Reset audio settings");
+tap("Key_accept");
+wait(pause);
+shot("reset_done.png", "Reset audio settings, done");
+settle();
 use("key_return");
 
 home();
