@@ -119,30 +119,6 @@
 <context>
     <name>Audiosetting_right_crossover_widget</name>
     <message>
-        <source>Front1</source>
-        <translation>Vorne</translation>
-    </message>
-    <message>
-        <source>Rear</source>
-        <translation>Hinten</translation>
-    </message>
-    <message>
-        <source>Subwoofer</source>
-        <translation>Subwoofer</translation>
-    </message>
-    <message>
-        <source>Slope</source>
-        <translation>Flankensteilheit</translation>
-    </message>
-    <message>
-        <source>Frequency</source>
-        <translation>Frequenz</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>Pegel</translation>
-    </message>
-    <message>
         <source>Presets</source>
         <translation>Presets</translation>
     </message>

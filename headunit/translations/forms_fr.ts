@@ -119,30 +119,6 @@
 <context>
     <name>Audiosetting_right_crossover_widget</name>
     <message>
-        <source>Front1</source>
-        <translation>Avant</translation>
-    </message>
-    <message>
-        <source>Rear</source>
-        <translation>Arrière</translation>
-    </message>
-    <message>
-        <source>Subwoofer</source>
-        <translation>Caisson</translation>
-    </message>
-    <message>
-        <source>Slope</source>
-        <translation>Pente</translation>
-    </message>
-    <message>
-        <source>Frequency</source>
-        <translation>Fréquence</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>Niveau</translation>
-    </message>
-    <message>
         <source>Presets</source>
         <translation>Préréglages</translation>
     </message>

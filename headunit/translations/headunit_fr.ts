@@ -69,7 +69,7 @@
     </message>
     <message id="969">
         <source>This will reset all of your audio settings.</source>
-        <translation>Tous vos réglages audio seront réinitialisés.</translation>
+        <translation>Réinitialise tous les réglages audio.</translation>
     </message>
     <message id="970">
         <source>Do you want to proceed?</source>
