@@ -12,6 +12,15 @@
 class tst_Sdk : public PageTest {
     Q_OBJECT
 private slots:
+    // First, for Qt keeps a library in the process once it is loaded.
+    void bringsItsPictures() {
+        const QString picture = QStringLiteral(":/corvina_icon/settings_icn_back_n.png");
+        QVERIFY(!QFile::exists(picture));
+        QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
+        QVERIFY(loader.load());
+        QVERIFY(!QPixmap(picture).isNull());
+    }
+
     void needsNoOtherHeadUnit() {
         QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
         QVERIFY2(loader.load(), qPrintable(loader.errorString()));
@@ -23,7 +32,6 @@ private slots:
         for (const char *library : {"libtopui", "libcommon", "libqvaudio", "libmcuservice"}) {
             QVERIFY2(!mapped.contains(library), library);
         }
-        QVERIFY(loader.unload());
     }
 
     void loadsAndWorks() {
@@ -54,16 +62,7 @@ private slots:
 
         delete widget;
         QVERIFY(!window->mainWidget());
-        QVERIFY2(loader.unload(), qPrintable(loader.errorString()));
-    }
-
-    void bringsItsPictures() {
-        const QString picture = QStringLiteral(":/corvina_icon/settings_icn_back_n.png");
-        QVERIFY(!QFile::exists(picture));
-        QPluginLoader loader(QStringLiteral(PLUGIN_FILE));
-        QVERIFY(loader.load());
-        QVERIFY(!QPixmap(picture).isNull());
-        QVERIFY(loader.unload());
+        delete loader.instance();
     }
 };
 
