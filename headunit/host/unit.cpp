@@ -113,11 +113,10 @@ bool Unit::requestVolumeSettings() {
     mem::SettingsFunc::instance()->setValue(pageRequestKey, 0, volumePageRequest, true);
     const Application *application = m_catalog.find(audioSettingsId);
     if (application && m_stage->front() == application->window) {
+        // Only then: an application that is opened reads the request by itself, and told twice would take the requested
+        // page for the one to return to.
         Q_EMIT mem::SettingsCache::instance()->SettingsCacheSig(pageRequestKey);
-        return true;
     }
-    // An application that is opened reads the request by itself; told twice, it would take the requested page for
-    // the one to return to.
     return openApplication(audioSettingsId, m_place);
 }
 
