@@ -272,9 +272,5 @@
         <source>EQ</source>
         <translation>EQ</translation>
     </message>
-    <message>
-        <source>Custom</source>
-        <translation>Individuell</translation>
-    </message>
 </context>
 </TS>
