@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 """Renders one picture family: an SVG source in several states and sizes, at 1:1 and at 2:1.
 
-The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: stored, unfiltered, without
-colour chunks, RGB where nothing is transparent. The same sources give the same bytes on every run.
+The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: stored (large ones deflated),
+unfiltered, without colour chunks, RGB where nothing is transparent. The same sources give the same bytes on every run.
 """
 
 import argparse
 import ctypes
+import functools
 import pathlib
 import re
 import struct
@@ -14,6 +15,8 @@ import sys
 import zlib
 
 DENSITIES = ((1, ""), (2, "@2x"))
+# Pictures above this are deflated: few are so large, all are mostly empty, and together they would be most of the file.
+STORED_AT_MOST = 1 << 20  # bytes
 
 
 class Failure(Exception):
@@ -32,7 +35,7 @@ def load_library(name, functions):
     try:
         library = ctypes.CDLL(name)
     except OSError as error:
-        raise Failure(f"{name} is missing ({error}); it comes with the package librsvg2-bin") from error
+        raise Failure(f"{name} is missing ({error}); it comes with the package librsvg2-2") from error
     for function, (result, *arguments) in functions.items():
         getattr(library, function).restype = result
         getattr(library, function).argtypes = arguments
@@ -88,8 +91,10 @@ class Renderer:
             raise Failure(error.contents.message.decode().strip() if error else "the renderer failed without a reason")
 
 
-# STRAIGHT[a] turns a premultiplied colour byte into a straight one.
-STRAIGHT = [bytes(255 if a == 0 else min(255, (c * 255 + a // 2) // a) for c in range(256)) for a in range(256)]
+@functools.lru_cache(maxsize=None)
+def straight(alpha):
+    """Table from premultiplied to straight colour bytes."""
+    return bytes(min(255, (colour * 255 + alpha // 2) // alpha) for colour in range(256))
 
 
 def channels(bgra):
@@ -98,7 +103,7 @@ def channels(bgra):
     red, green, blue, alpha = planes
     for i, a in enumerate(alpha):
         if 0 < a < 255:
-            table = STRAIGHT[a]
+            table = straight(a)
             red[i], green[i], blue[i] = table[red[i]], table[green[i]], table[blue[i]]
     return planes
 
@@ -117,7 +122,8 @@ def png(bgra, width, height):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
     header = struct.pack(">IIBBBBB", width, height, 8, 2 if opaque else 6, 0, 0, 0)
-    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(raw, 0)) + chunk(b"IEND", b"")
+    data = zlib.compress(raw, 0 if len(raw) <= STORED_AT_MOST else 9)
+    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", data) + chunk(b"IEND", b"")
 
 
 def read_source(path, parts):

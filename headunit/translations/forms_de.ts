@@ -119,30 +119,6 @@
 <context>
     <name>Audiosetting_right_crossover_widget</name>
     <message>
-        <source>Front1</source>
-        <translation>Vorne</translation>
-    </message>
-    <message>
-        <source>Rear</source>
-        <translation>Hinten</translation>
-    </message>
-    <message>
-        <source>Subwoofer</source>
-        <translation>Subwoofer</translation>
-    </message>
-    <message>
-        <source>Slope</source>
-        <translation>Flankensteilheit</translation>
-    </message>
-    <message>
-        <source>Frequency</source>
-        <translation>Frequenz</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>Pegel</translation>
-    </message>
-    <message>
         <source>Presets</source>
         <translation>Presets</translation>
     </message>
@@ -275,7 +251,7 @@
     </message>
     <message>
         <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This will reset all of your audio settings.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Setzt alle Audioeinstellungen zurück.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Alle Audioeinstellungen gehen verloren.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
     </message>
     <message>
         <source>Do you want to proceed?</source>

@@ -119,30 +119,6 @@
 <context>
     <name>Audiosetting_right_crossover_widget</name>
     <message>
-        <source>Front1</source>
-        <translation>Delantero</translation>
-    </message>
-    <message>
-        <source>Rear</source>
-        <translation>Trasero</translation>
-    </message>
-    <message>
-        <source>Subwoofer</source>
-        <translation>Subwoofer</translation>
-    </message>
-    <message>
-        <source>Slope</source>
-        <translation>Pendiente</translation>
-    </message>
-    <message>
-        <source>Frequency</source>
-        <translation>Frecuencia</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>Nivel</translation>
-    </message>
-    <message>
         <source>Presets</source>
         <translation>Preajustes</translation>
     </message>

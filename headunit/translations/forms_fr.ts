@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>BAL:</source>
-        <translation>BAL :</translation>
+        <translation>BAL :</translation>
     </message>
     <message>
         <source>FAD:</source>
-        <translation>FAD :</translation>
+        <translation>FAD :</translation>
     </message>
 </context>
 <context>
@@ -118,30 +118,6 @@
 </context>
 <context>
     <name>Audiosetting_right_crossover_widget</name>
-    <message>
-        <source>Front1</source>
-        <translation>Avant</translation>
-    </message>
-    <message>
-        <source>Rear</source>
-        <translation>Arrière</translation>
-    </message>
-    <message>
-        <source>Subwoofer</source>
-        <translation>Caisson</translation>
-    </message>
-    <message>
-        <source>Slope</source>
-        <translation>Pente</translation>
-    </message>
-    <message>
-        <source>Frequency</source>
-        <translation>Fréquence</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>Niveau</translation>
-    </message>
     <message>
         <source>Presets</source>
         <translation>Préréglages</translation>
@@ -279,7 +255,7 @@
     </message>
     <message>
         <source>Do you want to proceed?</source>
-        <translation>Voulez-vous continuer ?</translation>
+        <translation>Voulez-vous continuer ?</translation>
     </message>
     <message>
         <source>Reset Successful</source>

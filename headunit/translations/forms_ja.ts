@@ -119,30 +119,6 @@
 <context>
     <name>Audiosetting_right_crossover_widget</name>
     <message>
-        <source>Front1</source>
-        <translation>フロント</translation>
-    </message>
-    <message>
-        <source>Rear</source>
-        <translation>リア</translation>
-    </message>
-    <message>
-        <source>Subwoofer</source>
-        <translation>サブウーファー</translation>
-    </message>
-    <message>
-        <source>Slope</source>
-        <translation>スロープ</translation>
-    </message>
-    <message>
-        <source>Frequency</source>
-        <translation>周波数</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>レベル</translation>
-    </message>
-    <message>
         <source>Presets</source>
         <translation>プリセット</translation>
     </message>

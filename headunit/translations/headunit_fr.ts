@@ -73,7 +73,7 @@
     </message>
     <message id="970">
         <source>Do you want to proceed?</source>
-        <translation>Voulez-vous continuer ?</translation>
+        <translation>Voulez-vous continuer ?</translation>
     </message>
     <message id="971">
         <source>Yes, Reset my Audio Settings</source>

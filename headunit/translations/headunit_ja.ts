@@ -25,7 +25,7 @@
     </message>
     <message id="231">
         <source>Subwoofer</source>
-        <translation>サブウーファー</translation>
+        <translation>サブ</translation>
     </message>
     <message id="232">
         <source>Dynamic</source>
