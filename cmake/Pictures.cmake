@@ -40,7 +40,7 @@ function(headunit_pictures target)
     list(REMOVE_DUPLICATES sources)
     foreach(source IN LISTS sources)
         add_custom_command(OUTPUT ${files_${source}}
-            COMMAND ${PYTHON3_PROGRAM} ${PICTURES_RENDERER} --source ${folder}/${source}.svg
+            COMMAND ${PYTHON3_PROGRAM} -I -S ${PICTURES_RENDERER} --source ${folder}/${source}.svg
                 --palette ${PICTURES_SOURCE_DIR}/palette --out ${out} ${rows_${source}}
             DEPENDS ${folder}/${source}.svg ${palette} ${PICTURES_RENDERER}
             COMMENT "Rendering ${source}.svg" VERBATIM)

@@ -17,8 +17,9 @@ function(audiosetting_part)
 endfunction()
 
 # audiosetting_plugin_end(): the shared library that ships, and the same objects as a static one for the tests.
+# It is a plug-in that hosts load, and a library that they may link for the classes that it exports.
 function(audiosetting_plugin_end)
-    add_library(audiosetting MODULE)
+    add_library(audiosetting SHARED)
     target_link_libraries(audiosetting PRIVATE audiosetting_objects headunit_libraries)
     set_target_properties(audiosetting PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib/plugins)
     add_library(audiosetting_static STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:audiosetting_objects>)

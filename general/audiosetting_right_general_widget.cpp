@@ -49,6 +49,9 @@ void Audiosetting_right_general_widget::initUi() {
     m_pad = new settings::balanceFaderControl(m_ui->balancefader_bg->parentWidget(), m_ui->balancefader_bg->geometry());
     connect(m_pad, SIGNAL(balanceFaderChanged(int, int)), this, SLOT(onUpdate(int, int)));
 
+    // The key spans the row, its caption lies over it.
+    m_ui->text_Advanced->setAttribute(Qt::WA_TransparentForMouseEvents);
+
     m_phaseGroup = new QButtonGroup(this);
     m_phaseGroup->addButton(m_ui->key_Phase_0, 0);
     m_phaseGroup->addButton(m_ui->key_Phase_180, 1);

@@ -7,6 +7,7 @@ unfiltered, without colour chunks, RGB where nothing is transparent. The same so
 
 import argparse
 import ctypes
+import functools
 import pathlib
 import re
 import struct
@@ -34,7 +35,7 @@ def load_library(name, functions):
     try:
         library = ctypes.CDLL(name)
     except OSError as error:
-        raise Failure(f"{name} is missing ({error}); it comes with the package librsvg2-bin") from error
+        raise Failure(f"{name} is missing ({error}); it comes with the package librsvg2-2") from error
     for function, (result, *arguments) in functions.items():
         getattr(library, function).restype = result
         getattr(library, function).argtypes = arguments
@@ -90,8 +91,10 @@ class Renderer:
             raise Failure(error.contents.message.decode().strip() if error else "the renderer failed without a reason")
 
 
-# STRAIGHT[a] turns a premultiplied colour byte into a straight one.
-STRAIGHT = [bytes(255 if a == 0 else min(255, (c * 255 + a // 2) // a) for c in range(256)) for a in range(256)]
+@functools.lru_cache(maxsize=None)
+def straight(alpha):
+    """Table from premultiplied to straight colour bytes."""
+    return bytes(min(255, (colour * 255 + alpha // 2) // alpha) for colour in range(256))
 
 
 def channels(bgra):
@@ -100,7 +103,7 @@ def channels(bgra):
     red, green, blue, alpha = planes
     for i, a in enumerate(alpha):
         if 0 < a < 255:
-            table = STRAIGHT[a]
+            table = straight(a)
             red[i], green[i], blue[i] = table[red[i]], table[green[i]], table[blue[i]]
     return planes
 

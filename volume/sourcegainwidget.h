@@ -19,6 +19,8 @@ namespace audiosetting {
 /// A regional page hands over its form and the names of its slots, and leads those slots back to here.
 class SourceGainWidget : public QWidget {
 public:
+    ~SourceGainWidget() override;
+
     void initUi();
     /// Reads the gains from the store and shows them.
     void resume();
@@ -43,7 +45,6 @@ protected:
     };
 
     explicit SourceGainWidget(QWidget *parent);
-    ~SourceGainWidget() override;
 
     /// Hands over the form, before initUi(): its members carry the same names in every region, but for those of the
     /// \a regional row.

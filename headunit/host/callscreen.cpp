@@ -21,6 +21,7 @@ constexpr QRect endKey(362, 424, 300, 96);
 
 CallScreen::CallScreen(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("call"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setGeometry(0, 0, look::screenWidth, look::screenHeight);
     setFont(look::font(look::valuePixels));
     Key *end = new Key(QStringLiteral("call_end"), endKey, this);

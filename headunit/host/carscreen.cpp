@@ -42,6 +42,7 @@ QRect cell(int row, int left, int count, int index) {
 
 CarScreen::CarScreen(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("car"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setGeometry(0, 0, look::screenWidth, look::screenHeight);
     addStepper(SourceRow, {"car_source_prev", "prev"}, {"car_source_next", "next"}, &CarScreen::stepSource);
     addStepper(ChannelRow, {"car_channel_prev", "prev"}, {"car_channel_next", "next"}, &CarScreen::stepChannel);

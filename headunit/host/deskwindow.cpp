@@ -5,6 +5,7 @@
 #include "keyevent.h"
 
 #include <QKeyEvent>
+#include <QWindow>
 
 namespace headunit {
 
@@ -37,17 +38,24 @@ DeskWindow::DeskWindow()
       m_hardKeys(new HardKeys(QRect(look::screenWidth, 0, HardKeys::stripWidth, look::screenHeight), this)) {
     setWindowTitle(QStringLiteral("Head unit"));
     setFixedSize(look::screenWidth + HardKeys::stripWidth, look::screenHeight);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     m_screen->setObjectName(QStringLiteral("screen"));
     m_screen->setGeometry(0, 0, look::screenWidth, look::screenHeight);
 }
 
-void DeskWindow::paintEvent(QPaintEvent *) {
-    // The children cover the window.
-    if (!m_painted) {
-        m_painted = true;
-        Q_EMIT painting();
+void DeskWindow::showEvent(QShowEvent *) {
+    // What covers the window whole spares it its own paint event, so the first picture is seen at the window below.
+    if (!m_exposed) {
+        windowHandle()->installEventFilter(this);
     }
+}
+
+bool DeskWindow::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::Expose) {
+        m_exposed = true;
+        watched->removeEventFilter(this);
+        Q_EMIT exposed();
+    }
+    return false;
 }
 
 void DeskWindow::keyPressEvent(QKeyEvent *event) {

@@ -17,18 +17,19 @@ public:
     HardKeys *hardKeys() const { return m_hardKeys; }
 
 Q_SIGNALS:
-    /// The window is being painted for the first time.
-    void painting();
+    /// Once: the window is being painted for the first time, and is by the time that posted events are delivered.
+    void exposed();
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
     QWidget *const m_screen;
     HardKeys *const m_hardKeys;
-    bool m_painted = false;
+    bool m_exposed = false;
 };
 
 }  // namespace headunit

@@ -22,6 +22,7 @@ constexpr int footHeight = 24;   ///< free below the last line
 HomeScreen::HomeScreen(const QStringList &applications, const QStringList &failures, QWidget *parent)
     : QWidget(parent), m_failures(failures) {
     setObjectName(QStringLiteral("home"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setGeometry(0, 0, look::screenWidth, look::screenHeight);
     setFont(look::font(look::captionPixels));
     addTiles(applications);

@@ -125,7 +125,7 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
         unit.showHome();
     }
     if (options.exitWhenShown) {
-        QObject::connect(&window, &DeskWindow::painting, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+        QObject::connect(&window, &DeskWindow::exposed, &application, &QCoreApplication::quit, Qt::QueuedConnection);
     }
     window.show();
     if (!options.scripted()) {

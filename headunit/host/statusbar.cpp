@@ -18,6 +18,7 @@ constexpr int clockCheckMilliseconds = 1000;
 
 StatusBar::StatusBar(Clock clock, QWidget *parent) : QWidget(parent), m_clock(std::move(clock)), m_time(m_clock()) {
     setObjectName(QStringLiteral("status_bar"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     setGeometry(0, 0, look::screenWidth, barHeight);
     setFont(look::font(look::captionPixels));
     startTimer(clockCheckMilliseconds);

@@ -88,19 +88,23 @@ DiskResult readFile(const QString &path, qint64 limit, QByteArray *bytes) {
     return DiskResult();
 }
 
-DiskResult writeFileDurably(const QString &path, const QByteArray &bytes) {
+DiskResult writeFile(const QString &path, const QByteArray &bytes, Sync sync) {
     const QByteArray name = QFile::encodeName(path);
     const Descriptor file(
         open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, filePermissions));
     if (!file.valid()) {
         return lastError();
     }
-    if (!writeAll(file.get(), bytes) || fsync(file.get()) != 0) {
+    if (!writeAll(file.get(), bytes) || (sync == Sync::Yes && fsync(file.get()) != 0)) {
         const DiskResult result = lastError();
         unlink(name.constData());
         return result;
     }
     return DiskResult();
+}
+
+void removeFile(const QString &path) {
+    unlink(QFile::encodeName(path).constData());
 }
 
 DiskResult renameFile(const QString &from, const QString &to) {

@@ -64,7 +64,8 @@ FactoryState parseFactoryText(const QByteArray &text) {
     int number = 0;
     for (const QByteArray &line : text.split('\n')) {
         ++number;
-        const QString fault = takeLine(QString::fromUtf8(line.constData(), line.size()).trimmed(), &group, &state.values);
+        const QString fault =
+            takeLine(QString::fromUtf8(line.constData(), line.size()).trimmed(), &group, &state.values);
         if (!fault.isEmpty()) {
             state.values.clear();
             state.problem = QStringLiteral("line %1: %2").arg(number).arg(fault);
@@ -95,7 +96,7 @@ void installFactoryFile(const QString &path) {
         qFatal("the shipped factory file is missing in this library");
     }
     QDir().mkpath(QFileInfo(path).path());
-    const DiskResult result = writeFileDurably(path, shipped.readAll());
+    const DiskResult result = writeFile(path, shipped.readAll(), Sync::Yes);
     if (!result.ok()) {
         qWarning("factory file %s cannot be written: %s", qUtf8Printable(path), qUtf8Printable(result.error));
     }

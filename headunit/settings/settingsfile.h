@@ -1,47 +1,51 @@
 #pragma once
 
-#include "settingsmap.h"
+#include "settingstext.h"
 
-#include <QByteArray>
-#include <QStringList>
+#include <QString>
 
 namespace headunit {
 
-/// The text of a settings file: JSON with the values by key, in key order, and a checksum over them. A file without
-/// a checksum is accepted, so that a person who edits one by hand deletes that line.
-QByteArray settingsToText(const SettingsMap &values);
-/// The values of such a text. False with the reason in \a problem if it is none.
-bool settingsFromText(const QByteArray &text, SettingsMap *values, QString *problem);
-
-/// One settings file on the disk with its last good copy beside it. At any moment, also after a power cut, the
-/// disk holds the state before or after a save. Not thread-safe; used by one thread at a time.
+/// One settings file on the disk with its copies beside it. At any moment, also after a power cut, the disk holds the
+/// state before or after a save.
 ///
 /// Files: NAME, NAME.bak (the state before the last save), NAME.new (a save under way), NAME.damaged-1 and so on
-/// (what could not be read, kept for inspection).
+/// (what could not be read, kept for inspection), and NAME.quick: the newest state, written without waiting for the
+/// medium, so that a process that is killed while the medium is slow loses no more than it would on a fast one.
+/// Used by one thread at a time, but for saveQuickly().
 class SettingsFile {
 public:
     explicit SettingsFile(const QString &path);
 
-    /// Reads the file, or its last good copy. False where there is neither: the values are left alone.
+    /// Reads the newest good state of the file and its copies. False where there is none: \a snapshot is left alone.
     /// A file that cannot be read is set aside; \a problem then says so in one line that names it.
-    bool load(SettingsMap *values, QString *problem);
+    bool load(Snapshot *snapshot, QString *problem);
     /// The same without touching anything on the disk.
-    bool peek(SettingsMap *values) const;
+    bool peek(Snapshot *snapshot) const;
     /// Replaces the file. On failure what was on the disk is still there and \a problem names the file and the reason.
-    bool save(const SettingsMap &values, QString *problem);
+    bool save(const Snapshot &snapshot, QString *problem);
+
+    /// Writes the state where a killed process leaves it safe, but a power cut may not. Any thread.
+    bool saveQuickly(const Snapshot &snapshot) const;
+    /// Removes that copy, which a save has made needless.
+    void dropQuickCopy() const;
+    /// Whether load() found a state that is newer than the file's own.
+    bool isBehind() const { return m_behind; }
 
     QString path() const { return m_path; }
     QString backupPath() const { return m_path + QStringLiteral(".bak"); }
+    QString quickPath() const { return m_path + QStringLiteral(".quick"); }
 
 private:
     enum class Presence { Good, Missing, Bad };
-    static Presence read(const QString &path, SettingsMap *values, QString *reason);
-    static Presence readOrSetAside(const QString &path, SettingsMap *values, QString *problem);
+    static Presence read(const QString &path, Snapshot *snapshot, QString *reason);
+    static Presence readOrSetAside(const QString &path, Snapshot *snapshot, QString *problem);
     static bool setAside(const QString &path, QString *newName, QString *reason);
 
     QString m_path;
     Presence m_present = Presence::Missing;      ///< what stands under path()
     Presence m_copyPresent = Presence::Missing;  ///< what stands under backupPath(), as far as it was read
+    bool m_behind = false;
 };
 
 }  // namespace headunit

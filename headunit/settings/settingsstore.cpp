@@ -1,5 +1,6 @@
 #include "settingsstore.h"
 
+#include "settingsfile.h"
 #include "settingswriter.h"
 
 #include <QDir>
@@ -7,22 +8,45 @@
 
 namespace headunit {
 
+namespace {
+
+// Of the 100 ms in which a change must be on the disk, the rest is the disk's.
+constexpr int durableGatherMs = 40;
+constexpr int quickGatherMs = 20;
+
+}  // namespace
+
 SettingsStore::SettingsStore() = default;
 
-SettingsStore::~SettingsStore() = default;
+SettingsStore::~SettingsStore() {
+    close();
+}
 
 QString SettingsStore::open(const QString &path, const SettingsMap &factory) {
     close();
-    m_values = factory;
     QDir().mkpath(QFileInfo(path).path());
-    SettingsFile file(path);
+    const auto file = std::make_shared<SettingsFile>(path);
+    Snapshot snapshot;
+    snapshot.values = factory;
     QString problem;
     if (m_lock.acquire(path + QStringLiteral(".lock"))) {
-        file.load(&m_values, &problem);
-        m_writer = std::make_unique<SettingsWriter>(file, m_values);
+        file->load(&snapshot, &problem);
+        m_file = file;
+        m_writer = std::make_unique<SettingsWriter>(
+            path, snapshot, durableGatherMs,
+            [file](const Snapshot &state, QString *reason) { return file->save(state, reason); });
+        m_quick =
+            std::make_unique<SettingsWriter>(path, snapshot, quickGatherMs, [file](const Snapshot &state, QString *) {
+                file->saveQuickly(state);  // where that fails, the other writer has the same trouble and says so
+                return true;
+            });
     } else {
-        file.peek(&m_values);
+        file->peek(&snapshot);
         problem = QStringLiteral("settings file %1: in use by another process; nothing will be saved").arg(path);
+    }
+    m_values = snapshot.values;
+    if (m_file && m_file->isBehind()) {
+        replaceAll(m_values);
     }
     if (!problem.isEmpty()) {
         qWarning("%s", qUtf8Printable(problem));
@@ -31,7 +55,15 @@ QString SettingsStore::open(const QString &path, const SettingsMap &factory) {
 }
 
 void SettingsStore::close() {
-    m_writer.reset();
+    if (m_file) {
+        const bool quickEnded = m_quick->finish();
+        if (m_writer->finish() && quickEnded) {
+            m_file->dropQuickCopy();
+        }
+        m_quick.reset();
+        m_writer.reset();
+        m_file.reset();
+    }
     m_lock.release();
     m_values.clear();
 }
@@ -69,6 +101,7 @@ void SettingsStore::set(const QString &key, const QVariant &value) {
     }
     if (m_writer) {
         m_writer->put(key, kept);
+        m_quick->put(key, kept);
     }
 }
 
@@ -76,6 +109,7 @@ void SettingsStore::replaceAll(const SettingsMap &values) {
     m_values = values;
     if (m_writer) {
         m_writer->replaceAll(values);
+        m_quick->replaceAll(values);
     }
 }
 

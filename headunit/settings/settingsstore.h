@@ -7,6 +7,7 @@
 
 namespace headunit {
 
+class SettingsFile;
 class SettingsWriter;
 
 /// Settings in memory, kept on the disk. A read is one look-up; a write is seen at once and is on the disk at the
@@ -39,7 +40,9 @@ private:
     static constexpr int flushTimeMs = 2000;
 
     SettingsMap m_values;
-    std::unique_ptr<SettingsWriter> m_writer;
+    std::shared_ptr<SettingsFile> m_file;      // null while in memory only
+    std::unique_ptr<SettingsWriter> m_writer;  // waits for the medium
+    std::unique_ptr<SettingsWriter> m_quick;   // does not, see SettingsFile
     FolderLock m_lock;
 };
 

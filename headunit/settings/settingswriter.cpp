@@ -5,6 +5,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
+#include <utility>
 
 namespace headunit {
 
@@ -12,7 +13,13 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 struct SettingsWriter::Shared {
-    Shared(const SettingsFile &settingsFile, const SettingsMap &onDisk) : file(settingsFile), values(onDisk) {}
+    Shared(const QString &pathInLog, const Snapshot &state, milliseconds gather, Save function)
+        : path(pathInLog), gatherTime(gather), save(std::move(function)), base(state.number), onDisk(state) {}
+
+    const QString path;
+    const milliseconds gatherTime;
+    const Save save;
+    const qint64 base;  ///< the number of the state that this began with
 
     // Under the mutex, which is never held during work on the disk.
     std::mutex mutex;
@@ -32,8 +39,7 @@ struct SettingsWriter::Shared {
     bool finished = false;
 
     // The thread's own.
-    SettingsFile file;
-    SettingsMap values;
+    Snapshot onDisk;
     bool failing = false;
 
     void changed();
@@ -43,7 +49,7 @@ struct SettingsWriter::Shared {
 
 void SettingsWriter::Shared::changed() {
     if (changes == tried) {  // the first of a gathering; a retry that waits is brought forward
-        due = Clock::now() + milliseconds(gatherTimeMs);
+        due = Clock::now() + gatherTime;
         wake.notify_one();
     }
     ++changes;
@@ -51,18 +57,19 @@ void SettingsWriter::Shared::changed() {
 
 void SettingsWriter::Shared::takeChanges() {
     if (replace) {
-        values = replacement;
+        onDisk.values = replacement;
         replacement.clear();
         replace = false;
     }
     for (auto it = pending.cbegin(); it != pending.cend(); ++it) {
         if (it.value().isValid()) {
-            values.insert(it.key(), it.value());
+            onDisk.values.insert(it.key(), it.value());
         } else {
-            values.remove(it.key());
+            onDisk.values.remove(it.key());
         }
     }
     pending.clear();
+    onDisk.number = base + static_cast<qint64>(changes);
 }
 
 void SettingsWriter::Shared::saveChanges(std::unique_lock<std::mutex> &lock) {
@@ -73,11 +80,11 @@ void SettingsWriter::Shared::saveChanges(std::unique_lock<std::mutex> &lock) {
     ++savesBegun;
     lock.unlock();
     QString problem;
-    const bool ok = file.save(values, &problem);
+    const bool ok = save(onDisk, &problem);
     if (!ok && !failing) {
         qWarning("%s; going on from memory and trying again", qUtf8Printable(problem));
     } else if (ok && failing) {
-        qWarning("settings file %s is written again", qUtf8Printable(file.path()));
+        qWarning("settings file %s is written again", qUtf8Printable(path));
     }
     failing = !ok;
     lock.lock();
@@ -90,22 +97,32 @@ void SettingsWriter::Shared::saveChanges(std::unique_lock<std::mutex> &lock) {
     done.notify_all();
 }
 
-SettingsWriter::SettingsWriter(const SettingsFile &file, const SettingsMap &values)
-    : m_shared(std::make_shared<Shared>(file, values)), m_thread(&SettingsWriter::run, m_shared) {}
+SettingsWriter::SettingsWriter(const QString &path, const Snapshot &onDisk, int gatherTimeMs, Save save)
+    : m_shared(std::make_shared<Shared>(path, onDisk, milliseconds(gatherTimeMs), std::move(save))),
+      m_thread(&SettingsWriter::run, m_shared) {}
 
 SettingsWriter::~SettingsWriter() {
+    finish();
+}
+
+bool SettingsWriter::finish() {
     std::unique_lock<std::mutex> lock(m_shared->mutex);
+    if (!m_thread.joinable()) {
+        return m_shared->saved == m_shared->changes;
+    }
     m_shared->quit = true;
     m_shared->wake.notify_one();
-    // A thread that waits for a dead disk is left behind: it works on what it shares only.
-    const bool ended = m_shared->done.wait_for(lock, milliseconds(flushTimeMs), [this] { return m_shared->finished; });
+    const bool ended = m_shared->done.wait_for(lock, milliseconds(finishTimeMs), [this] { return m_shared->finished; });
+    const bool saved = m_shared->saved == m_shared->changes;
     lock.unlock();
     if (ended) {
         m_thread.join();
     } else {
-        qWarning("settings file %s: the disk does not answer", qUtf8Printable(m_shared->file.path()));
+        // A thread that waits for a dead disk is left behind: it works on what it shares only.
+        qWarning("settings file %s: the disk does not answer", qUtf8Printable(m_shared->path));
         m_thread.detach();
     }
+    return ended && saved;
 }
 
 void SettingsWriter::put(const QString &key, const QVariant &value) {

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "settingsfile.h"
+#include "settingstext.h"
 
+#include <functional>
 #include <memory>
 #include <thread>
 
@@ -9,18 +10,18 @@ namespace headunit {
 
 /// Brings changed settings to the disk from a thread of its own, so that whoever changes them never waits.
 ///
-/// Changes are gathered for gatherTime and saved together. A save that fails is reported once in the log and tried
+/// Changes are gathered for a while and saved together. A save that fails is reported once in the log and tried
 /// again until it succeeds.
 class SettingsWriter {
 public:
-    /// Leaves the rest of the 100 ms in which a change must be on the disk to the disk itself.
-    static constexpr int gatherTimeMs = 40;
     static constexpr int retryTimeMs = 1000;
 
-    /// \a values is what is on the disk now.
-    SettingsWriter(const SettingsFile &file, const SettingsMap &values);
-    /// Saves what is left, waiting as long as flush() does.
-    ~SettingsWriter();
+    /// Saves a state; false with a line that names the file if that fails. Called on the writer's thread.
+    using Save = std::function<bool(const Snapshot &snapshot, QString *problem)>;
+
+    /// \a path names the file in the log, \a onDisk is what is on the disk now.
+    SettingsWriter(const QString &path, const Snapshot &onDisk, int gatherTimeMs, Save save);
+    ~SettingsWriter();  ///< finishes
     SettingsWriter(const SettingsWriter &) = delete;
     SettingsWriter &operator=(const SettingsWriter &) = delete;
 
@@ -29,10 +30,12 @@ public:
     /// Saves \a values soon in place of everything before.
     void replaceAll(const SettingsMap &values);
     /// Saves now and waits for it. False if that fails or takes longer.
-    bool flush(int timeoutMs = flushTimeMs);
+    bool flush(int timeoutMs);
+    /// Saves what is left and ends the thread; the last call. False if that fails or takes more than two seconds.
+    bool finish();
 
 private:
-    static constexpr int flushTimeMs = 2000;
+    static constexpr int finishTimeMs = 2000;
 
     // Shared with the thread, which outlives this object where the disk never answers.
     struct Shared;

@@ -13,7 +13,8 @@ struct HorizontalSlider::Private : public QObject {
 
     int lastIndex() const { return qMax(0, end - 1 - min); }
 
-    int index() const { return qBound(0, value - min, lastIndex()); }
+    /// In range for every value: the difference of two far ones would overflow.
+    int index() const { return qBound(min, value, min + lastIndex()) - min; }
 
     /// Where the knob's centre may go: half a knob is kept free at either end of the widget.
     int travel() const { return qMax(0, q->width() - knobWidth()); }

@@ -73,7 +73,7 @@ struct ScrollManage::Private {
 
     bool press(QObject *watched, const QMouseEvent &event);
     bool move(const QMouseEvent &event);
-    bool release();
+    bool release(const QMouseEvent &event);
     void beginScroll(const QPoint &at);
     void sendOutside(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons buttons);
     void apply();
@@ -133,7 +133,10 @@ bool ScrollManage::Private::move(const QMouseEvent &event) {
     return phase != Idle && phase != Touched;
 }
 
-bool ScrollManage::Private::release() {
+bool ScrollManage::Private::release(const QMouseEvent &event) {
+    if (event.button() != Qt::LeftButton) {
+        return false;
+    }
     const Phase last = phase;
     phase = Idle;
     if (last == Scrolling) {
@@ -250,7 +253,7 @@ bool ScrollManage::eventFilter(QObject *watched, QEvent *event) {
         case QEvent::MouseMove:
             return d->move(*static_cast<QMouseEvent *>(event));
         case QEvent::MouseButtonRelease:
-            return d->release();
+            return d->release(*static_cast<QMouseEvent *>(event));
         default:
             return false;
     }

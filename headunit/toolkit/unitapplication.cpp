@@ -47,8 +47,11 @@ QPalette unitPalette() {
 }  // namespace
 
 void prepareUnitApplication() {
-    if (QFile::exists(QStringLiteral(HEADUNIT_FONTS_CONF))) {
-        qputenv("FONTCONFIG_FILE", HEADUNIT_FONTS_CONF);
+    if (QFile::exists(QStringLiteral(HEADUNIT_FONT_ROOT HEADUNIT_FONTS))) {
+        qputenv("FONTCONFIG_SYSROOT", HEADUNIT_FONT_ROOT);
+        qputenv("FONTCONFIG_FILE", "/fonts.conf");
+    } else {
+        qWarning("The unit's fonts are not in %s: texts are drawn in whatever the desk has", HEADUNIT_FONTS);
     }
     // The attribute covers fonts, the variable the widgets' own idea of their screen.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);

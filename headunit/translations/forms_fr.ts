@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>BAL:</source>
-        <translation>BAL :</translation>
+        <translation>BAL :</translation>
     </message>
     <message>
         <source>FAD:</source>
-        <translation>FAD :</translation>
+        <translation>FAD :</translation>
     </message>
 </context>
 <context>
@@ -255,7 +255,7 @@
     </message>
     <message>
         <source>Do you want to proceed?</source>
-        <translation>Voulez-vous continuer ?</translation>
+        <translation>Voulez-vous continuer ?</translation>
     </message>
     <message>
         <source>Reset Successful</source>

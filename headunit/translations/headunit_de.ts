@@ -69,7 +69,7 @@
     </message>
     <message id="969">
         <source>This will reset all of your audio settings.</source>
-        <translation>Setzt alle Audioeinstellungen zurück.</translation>
+        <translation>Alle Audioeinstellungen gehen verloren.</translation>
     </message>
     <message id="970">
         <source>Do you want to proceed?</source>

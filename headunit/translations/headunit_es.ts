@@ -69,7 +69,7 @@
     </message>
     <message id="969">
         <source>This will reset all of your audio settings.</source>
-        <translation>Se restablecerán todos los ajustes de audio.</translation>
+        <translation>Restablece todos los ajustes de audio.</translation>
     </message>
     <message id="970">
         <source>Do you want to proceed?</source>

@@ -69,11 +69,11 @@
     </message>
     <message id="969">
         <source>This will reset all of your audio settings.</source>
-        <translation>Tous vos réglages audio seront réinitialisés.</translation>
+        <translation>Réinitialise tous les réglages audio.</translation>
     </message>
     <message id="970">
         <source>Do you want to proceed?</source>
-        <translation>Voulez-vous continuer ?</translation>
+        <translation>Voulez-vous continuer ?</translation>
     </message>
     <message id="971">
         <source>Yes, Reset my Audio Settings</source>

@@ -4,6 +4,7 @@
 #include "windowinterface.h"
 
 #include <QPointer>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
@@ -37,14 +38,19 @@ public:
     QString name() override { return m_name; }
     QWidget *mainWidget() const override { return m_widget; }
 
+    bool shows() const {
+        const QWidget *const widget = m_widget.data();
+        return widget && widget->isVisible();
+    }
+
     QPointer<QWidget> m_widget;
     bool hasWidget = true;
     int answer = 0;
 
 private:
     void note(const char *call) {
-        g_calls << QStringLiteral("%1 %2%3").arg(
-            m_name, QLatin1String(call), m_widget && m_widget->isVisible() ? QStringLiteral(" shown") : QString());
+        g_calls << QStringLiteral("%1 %2%3").arg(m_name, QLatin1String(call),
+                                                 shows() ? QStringLiteral(" shown") : QString());
     }
 
     const QString m_name;
@@ -65,6 +71,7 @@ private Q_SLOTS:
     void opensWhatHasNoWidget();
     void offersKeysAndBack();
     void shutsDown();
+    void aHeldKeyDoesNotAct();
     void survivesADeletedWidget();
 
 private:
@@ -141,7 +148,7 @@ void TestStage::opensWhatHasNoWidget() {
     m_b->hasWidget = false;
     QVERIFY(!m_stage->open(m_b.data()));
     QVERIFY(!m_stage->front());
-    QVERIFY(!m_a->m_widget->isVisible());
+    QVERIFY(!m_a->shows());
 }
 
 void TestStage::offersKeysAndBack() {
@@ -172,6 +179,22 @@ void TestStage::shutsDown() {
     QCOMPARE(g_calls.size(), 4);
 }
 
+void TestStage::aHeldKeyDoesNotAct() {
+    m_stage->open(m_a.data());
+    QPushButton *const key = new QPushButton(m_a->m_widget);
+    key->setGeometry(0, 0, 80, 80);
+    key->show();
+    QSignalSpy clicked(key, SIGNAL(clicked()));
+    QTest::mousePress(key, Qt::LeftButton);
+    QVERIFY(key->isDown());
+    m_stage->leave();
+    QTest::mouseRelease(key, Qt::LeftButton);
+    QCOMPARE(clicked.count(), 0);
+    m_stage->open(m_a.data());
+    QTest::mouseClick(key, Qt::LeftButton);
+    QCOMPARE(clicked.count(), 1);
+}
+
 void TestStage::survivesADeletedWidget() {
     m_stage->open(m_a.data());
     delete m_a->m_widget;
@@ -179,7 +202,7 @@ void TestStage::survivesADeletedWidget() {
     m_stage->leave();
     QCOMPARE(g_calls, QStringList({"a onExit", "a onHide"}));
     QVERIFY(m_stage->open(m_a.data()));
-    QVERIFY(m_a->m_widget->isVisible());
+    QVERIFY(m_a->shows());
     m_stage->shutDown();
     m_stage->releaseWidgets();
 }

@@ -75,6 +75,8 @@ void AudioService::setCustomEq(int value, int band, bool apply) {
     call("setCustomEq", value, band, apply);
     if (isBand(band)) {
         state().customEq[band] = value;
+        // The service keeps the live curve in the store by itself.
+        recording::setStored(QStringLiteral("eq%1").arg(band), value);
     }
 }
 

@@ -20,6 +20,7 @@ struct HorizontalSlider::Private {
     QString empty;
 
     int last() const { return std::max(min, end - 1); }
+    int index() const { return std::clamp(value, min, last()) - min; }
     /// The value under a position of a widget that is \a width wide: the steps share the width evenly.
     int valueAt(int x, int width) const {
         const int steps = last() - min;
@@ -76,7 +77,7 @@ void HorizontalSlider::setValue(int value) {
     if (d->value != value) {
         d->value = value;
         update();
-        emit valueChanged(value - d->min, value);
+        emit valueChanged(d->index(), value);
     }
 }
 
@@ -115,7 +116,7 @@ void HorizontalSlider::mouseMoveEvent(QMouseEvent *event) {
     if (d->moving && d->value != value) {
         d->value = value;
         update();
-        emit valueChanged(value - d->min, value);
+        emit valueChanged(d->index(), value);
     }
 }
 

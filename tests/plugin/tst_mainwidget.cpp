@@ -41,10 +41,10 @@ private slots:
         QCOMPARE(title->text(), QStringLiteral("#1065"));
         widget.resume();
         QCOMPARE(title->text(), QStringLiteral("#1065"));
+        QCOMPARE(recording::take(), QStringList());
         recording::setShared("SettingTouchPageType", 3);
         widget.resume();
         QCOMPARE(title->text(), QStringLiteral("#1071"));
-        QCOMPARE(recording::take(), QStringList());
     }
 
     void resumeReadsTheStoreAgain() {

@@ -49,13 +49,22 @@ void ScriptApi::fail(const QString &message) {
     m_engine->throwError(message);
 }
 
-QWidget *ScriptApi::find(const QString &name) {
-    QList<QWidget *> found;
-    for (QWidget *widget : m_target.window()->findChildren<QWidget *>(name)) {
-        if (widget->isVisible()) {
-            found << widget;
+QList<QWidget *> ScriptApi::all(const QString &name) {
+    QList<QWidget *> found = {m_target.window()};
+    for (const QString &part : name.split(QLatin1Char('/'))) {
+        QList<QWidget *> next;
+        for (const QWidget *parent : qAsConst(found)) {
+            next << parent->findChildren<QWidget *>(part);
         }
+        found = next;
     }
+    return found;
+}
+
+QWidget *ScriptApi::find(const QString &name) {
+    QList<QWidget *> found = all(name);
+    found.erase(std::remove_if(found.begin(), found.end(), [](const QWidget *widget) { return !widget->isVisible(); }),
+                found.end());
     if (found.size() == 1) {
         return found.first();
     }
@@ -223,7 +232,7 @@ void ScriptApi::expect(const QJSValue &what, const QJSValue &property, const QJS
     QJSValue actual;
     if (property.toString() == QLatin1String("visible")) {
         // The one property of a widget that is not visible.
-        const QList<QWidget *> widgets = m_target.window()->findChildren<QWidget *>(name);
+        const QList<QWidget *> widgets = all(name);
         actual = std::any_of(widgets.begin(), widgets.end(), [](const QWidget *widget) { return widget->isVisible(); });
     } else if (!read(name, property.toString(), &actual)) {
         return;

@@ -13,7 +13,8 @@ class ScriptTarget;
 
 /// The functions that a script sees. Each invokable method is a global function of that name.
 ///
-/// Places are a widget's object name (its centre), or x and y on the screen. A failure is thrown as a script error.
+/// Places are a widget's object name (its centre), or x and y on the screen. A name that stands on more than one
+/// visible page is written with that of a parent: "AudiosettingsTop/Key_update". A failure is thrown as a script error.
 class ScriptApi : public QObject {
     Q_OBJECT
 public:
@@ -58,6 +59,7 @@ public:
 
 private:
     void fail(const QString &message);
+    QList<QWidget *> all(const QString &name);
     /// The one visible widget of that name; null, with a script error, if there is none or more than one.
     QWidget *find(const QString &name);
     /// A property's value; false with a script error if there is none.

@@ -1,2 +1,108 @@
-// The tour: each screen, in each state worth seeing.
-shot("home_en.png", "Home screen");
+// The tour: every screen, in each state worth seeing, and in each language where its texts differ. One picture each.
+
+// Time for a press to be seen, and longer than any guard against double taps.
+var pause = 400;
+
+function use(place) {
+    tap(place);
+    wait(pause);
+}
+
+// Waits until what was on the screen for a moment only is gone.
+function settle() {
+    wait(3000);
+}
+
+var tabs = [
+    ["key_eq", "eq", "EQ"],
+    ["key_crossover", "crossover", "Crossover"],
+    ["key_timing", "timing", "Timing"],
+    ["key_factoryeq", "factoryeq", "Factory EQ"],
+];
+
+shot("home.png", "Home screen");
+press("tile_audiosetting");
+shot("home_pressed.png", "Home screen, Audio settings pressed");
+release();
+settle();
+
+shot("general.png", "General");
+press("key_advanced");
+shot("general_pressed.png", "General, Advanced pressed");
+move(600, 560);
+release();
+use("key_Subwoofer");
+use("key_subvol_next");
+use("key_Phase_180");
+drag("balancefader_bg", [[130, 130], [180, 60], [200, 70]]);
+settle();
+shot("general_subwoofer.png", "General, subwoofer on, reversed, sound placed front right");
+use("key_defeat");
+settle();
+shot("general_defeat.png", "General, Defeat on");
+use("key_defeat");
+
+for (var i = 0; i < tabs.length; ++i) {
+    use(tabs[i][0]);
+    settle();
+    shot(tabs[i][1] + ".png", tabs[i][2]);
+}
+
+use("key_general");
+use("key_advanced");
+shot("settings.png", "Settings");
+use("Key_001_loudness");
+settle();
+shot("settings_loudness.png", "Settings, Loudness on");
+use("Key_003_source_gain");
+settle();
+shot("source_gain.png", "Source gain");
+use("key_return");
+use("Key_004_vol_settings");
+settle();
+shot("volume.png", "Volume settings");
+tap("hardkey_volume_up");
+shot("volume_overlay.png", "Volume settings, level shown while the hard key turns it");
+settle();
+use("key_return");
+use("Key_005_res_audio");
+settle();
+shot("reset.png", "Reset audio settings");
+use("key_return");
+
+home();
+use("tile_car");
+shot("car.png", "The rest of the car");
+use("car_call");
+shot("call.png", "A call");
+use("call_end");
+
+var languages = [["de", "German"], ["fr", "French"], ["es", "Spanish"], ["ja", "Japanese"]];
+for (var l = 0; l < languages.length; ++l) {
+    var code = languages[l][0];
+    var name = languages[l][1];
+    language(code);
+    car();
+    shot("car_" + code + ".png", "The rest of the car, " + name);
+    open("audiosetting");
+    use("key_general");
+    settle();
+    shot("general_" + code + ".png", "General, " + name);
+    for (var t = 0; t < tabs.length; ++t) {
+        use(tabs[t][0]);
+        settle();
+        shot(tabs[t][1] + "_" + code + ".png", tabs[t][2] + ", " + name);
+    }
+    use("key_general");
+    use("key_advanced");
+    shot("settings_" + code + ".png", "Settings, " + name);
+    use("Key_004_vol_settings");
+    settle();
+    shot("volume_" + code + ".png", "Volume settings, " + name);
+    use("key_return");
+    use("Key_005_res_audio");
+    settle();
+    shot("reset_" + code + ".png", "Reset audio settings, " + name);
+    use("key_return");
+    home();
+}

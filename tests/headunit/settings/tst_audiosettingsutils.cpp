@@ -19,12 +19,21 @@ struct Default {
     const char *key;
     int value;
 };
-const Default crossoverDefaults[] = {
-    {"crossover/frontfreq", 0},        {"crossover/fronty", 0},     {"crossover/frontheigh", 506},
-    {"crossover/frontlevel", 12},      {"crossover/frontslope", 1}, {"crossover/rearfreq", 0},
-    {"crossover/reary", 0},            {"crossover/rearheigh", 506}, {"crossover/rearlevel", 12},
-    {"crossover/rearslope", 1},        {"crossover/subwooferfreq", 0}, {"crossover/subwoofery", 0},
-    {"crossover/subwooferheigh", 506}, {"crossover/subwooferlevel", 12}, {"crossover/subwooferslope", 1}};
+const Default crossoverDefaults[] = {{"crossover/frontfreq", 0},
+                                     {"crossover/fronty", 0},
+                                     {"crossover/frontheigh", 506},
+                                     {"crossover/frontlevel", 12},
+                                     {"crossover/frontslope", 1},
+                                     {"crossover/rearfreq", 0},
+                                     {"crossover/reary", 0},
+                                     {"crossover/rearheigh", 506},
+                                     {"crossover/rearlevel", 12},
+                                     {"crossover/rearslope", 1},
+                                     {"crossover/subwooferfreq", 0},
+                                     {"crossover/subwoofery", 0},
+                                     {"crossover/subwooferheigh", 506},
+                                     {"crossover/subwooferlevel", 12},
+                                     {"crossover/subwooferslope", 1}};
 
 }  // namespace
 

@@ -2,17 +2,19 @@
 
 #include <QtTest>
 
-#include <csignal>
-#include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <csignal>
+#include <random>
 
 using namespace headunit;
 
 namespace {
 
-const SettingsMap older{{"a", 1}, {"b", true}};
-const SettingsMap newer{{"a", 2}, {"b", false}, {"crossover/frontfreq", 11}, {"text", "\u00e9 \"x\"\n"}, {"half", 0.5}};
+const Snapshot older{{{"a", 1}, {"b", true}}, 10};
+const Snapshot newer{{{"a", 2}, {"b", false}, {"crossover/frontfreq", 11}, {"text", "\u00e9 \"x\"\n"}, {"half", 0.5}},
+                     20};
+const Snapshot newest{{{"a", 99}}, 30};
 
 void put(const QString &path, const QByteArray &bytes) {
     QFile file(path);
@@ -26,8 +28,10 @@ QByteArray get(const QString &path) {
 }
 
 /// QVariant's comparison converts types; this one does not.
-bool sameMap(const SettingsMap &a, const SettingsMap &b) {
-    bool same = a.size() == b.size();
+bool same(const Snapshot &left, const Snapshot &right) {
+    const SettingsMap &a = left.values;
+    const SettingsMap &b = right.values;
+    bool same = left.number == right.number && a.size() == b.size();
     for (auto it = a.cbegin(); same && it != a.cend(); ++it) {
         same = b.contains(it.key()) && sameValue(it.value(), b.value(it.key()));
     }
@@ -75,6 +79,8 @@ private Q_SLOTS:
     void pipeInPlaceOfTheFile();
     void fullDisk();
     void damagedFileThatCannotBeSetAside();
+    void quickCopy_data();
+    void quickCopy();
     void peekTouchesNothing();
 
 private:
@@ -114,48 +120,52 @@ void tst_SettingsFile::roundTrip() {
         SettingsMap values;
         for (int count = below(12); count > 0; --count) {
             const int number = static_cast<int>(random());
-            const QVariant kinds[] = {number, number % 2 == 0, text(), number / 7.0 + 0.01, Q_INT64_C(5000000000) + number};
+            const QVariant kinds[] = {number, number % 2 == 0, text(), number / 7.0 + 0.01,
+                                      Q_INT64_C(5000000000) + number};
             values.insert(text(), storableValue(kinds[below(5)]));
         }
-        SettingsMap read;
+        Snapshot read;
         QString problem;
-        QVERIFY2(settingsFromText(settingsToText(values), &read, &problem), qPrintable(problem));
+        const qint64 number = below(1000000) * Q_INT64_C(1000000);
+        QVERIFY2(settingsFromText(settingsToText({values, number}), &read, &problem), qPrintable(problem));
+        QCOMPARE(read.number, number);
         for (auto it = values.cbegin(); it != values.cend(); ++it) {
             if (it.value().type() == QVariant::Double) {
-                QCOMPARE(read.value(it.key()).toDouble(), it.value().toDouble());
+                QCOMPARE(read.values.value(it.key()).toDouble(), it.value().toDouble());
             } else {
-                QVERIFY2(sameValue(read.value(it.key()), it.value()), qPrintable(it.value().toString()));
+                QVERIFY2(sameValue(read.values.value(it.key()), it.value()), qPrintable(it.value().toString()));
             }
         }
-        QCOMPARE(read.size(), values.size());
+        QCOMPARE(read.values.size(), values.size());
     }
-    SettingsMap read;
+    Snapshot read;
     QString problem;
     const QString zero = QString("a") + QChar(0) + "b";
-    QVERIFY(settingsFromText(settingsToText({{zero, zero}}), &read, &problem));
-    QVERIFY(sameMap(read, {{zero, zero}}));
+    QVERIFY(settingsFromText(settingsToText({{{zero, zero}}, 0}), &read, &problem));
+    QVERIFY(same(read, {{{zero, zero}}, 0}));
     const QString halfPair(QChar(0xd800));
-    QVERIFY(settingsFromText(settingsToText({{halfPair, halfPair}}), &read, &problem));
-    QCOMPARE(read.size(), 1);
+    QVERIFY(settingsFromText(settingsToText({{{halfPair, halfPair}}, 0}), &read, &problem));
+    QCOMPARE(read.values.size(), 1);
 }
 
 void tst_SettingsFile::readable() {
-    const QByteArray text = settingsToText({{"b", true}, {"a", 3}, {"c", "x"}});
+    const QByteArray text = settingsToText({{{"b", true}, {"a", 3}, {"c", "x"}}, 5});
     QVERIFY(text.contains("\"a\": 3,\n"));
     QVERIFY(text.indexOf("\"a\": 3") < text.indexOf("\"b\": true"));
     QVERIFY(text.indexOf("\"b\": true") < text.indexOf("\"c\": \"x\""));
 }
 
 void tst_SettingsFile::editedByHand() {
-    SettingsMap read;
+    Snapshot read;
     QString problem;
-    QByteArray text = settingsToText({{"a", 3}});
+    QByteArray text = settingsToText({{{"a", 3}}, 5});
     text.replace("\"a\": 3", "\"a\": 4");
     QVERIFY(!settingsFromText(text, &read, &problem));
     QCOMPARE(problem, QStringLiteral("wrong checksum"));
-    text.replace(text.indexOf("    \"sha256\""), text.indexOf('\n', text.indexOf("\"sha256\"")) - text.indexOf("    \"sha256\""), "");
+    text.replace(text.indexOf("    \"sha256\""),
+                 text.indexOf('\n', text.indexOf("\"sha256\"")) - text.indexOf("    \"sha256\""), "");
     QVERIFY2(settingsFromText(text, &read, &problem), text.constData());
-    QCOMPARE(read.value("a"), QVariant(4));
+    QCOMPARE(read.values.value("a"), QVariant(4));
 }
 
 void tst_SettingsFile::badText_data() {
@@ -174,19 +184,19 @@ void tst_SettingsFile::badText_data() {
 
 void tst_SettingsFile::badText() {
     QFETCH(QByteArray, text);
-    SettingsMap values = older;
+    Snapshot state = older;
     QString problem;
-    QVERIFY(!settingsFromText(text, &values, &problem));
+    QVERIFY(!settingsFromText(text, &state, &problem));
     QVERIFY(!problem.isEmpty());
-    QVERIFY(sameMap(values, older));
+    QVERIFY(same(state, older));
 }
 
 void tst_SettingsFile::nothingThere() {
-    SettingsMap values = older;
+    Snapshot state = older;
     QString problem;
-    QVERIFY(!SettingsFile(path()).load(&values, &problem));
+    QVERIFY(!SettingsFile(path()).load(&state, &problem));
     QCOMPARE(problem, QString());
-    QVERIFY(sameMap(values, older));
+    QVERIFY(same(state, older));
     QCOMPARE(files(), QStringList());
 }
 
@@ -195,11 +205,11 @@ void tst_SettingsFile::keepsLastGoodCopy() {
     QCOMPARE(files(), QStringList({"settings.json", "settings.json.bak"}));
     QCOMPARE(get(path()), settingsToText(newer));
     QCOMPARE(get(path() + ".bak"), settingsToText(older));
-    SettingsMap values;
+    Snapshot state;
     QString problem;
-    QVERIFY(SettingsFile(path()).load(&values, &problem));
+    QVERIFY(SettingsFile(path()).load(&state, &problem));
     QCOMPARE(problem, QString());
-    QVERIFY(sameMap(values, newer));
+    QVERIFY(same(state, newer));
 }
 
 void tst_SettingsFile::truncatedAnywhere() {
@@ -208,11 +218,11 @@ void tst_SettingsFile::truncatedAnywhere() {
         init();
         put(path(), whole.left(size));
         put(path() + ".bak", settingsToText(older));
-        SettingsMap values;
+        Snapshot state;
         QString problem;
         SettingsFile file(path());
-        QVERIFY2(file.load(&values, &problem), qPrintable(QString::number(size)));
-        QVERIFY(sameMap(values, older));
+        QVERIFY2(file.load(&state, &problem), qPrintable(QString::number(size)));
+        QVERIFY(same(state, older));
         QVERIFY2(problem.contains(path()) && !problem.contains('\n'), qPrintable(problem));
         QCOMPARE(get(path() + ".damaged-1"), whole.left(size));
         // The next save keeps the good copy.
@@ -229,13 +239,13 @@ void tst_SettingsFile::flippedAnywhere() {
         for (int bit = 0; bit < 8; ++bit) {
             QByteArray damaged = whole;
             damaged[at] = static_cast<char>(damaged[at] ^ (1 << bit));
-            SettingsMap values;
+            Snapshot state;
             QString problem;
-            if (settingsFromText(damaged, &values, &problem)) {
-                QVERIFY2(sameMap(values, newer), damaged.constData());  // a space that became another one
+            if (settingsFromText(damaged, &state, &problem)) {
+                QVERIFY2(same(state, newer), damaged.constData());  // a space that became another one
             } else {
                 ++setAside;
-                QVERIFY(values.isEmpty());
+                QVERIFY(state.values.isEmpty());
             }
         }
     }
@@ -245,11 +255,11 @@ void tst_SettingsFile::flippedAnywhere() {
 void tst_SettingsFile::bothDamaged() {
     put(path(), "x");
     put(path() + ".bak", "y");
-    SettingsMap values = older;
+    Snapshot state = older;
     QString problem;
     SettingsFile file(path());
-    QVERIFY(!file.load(&values, &problem));
-    QVERIFY(sameMap(values, older));
+    QVERIFY(!file.load(&state, &problem));
+    QVERIFY(same(state, older));
     QVERIFY2(problem.contains(path()) && problem.contains(path() + ".bak") && problem.contains("factory state"),
              qPrintable(problem));
     QVERIFY(file.save(newer, &problem));
@@ -262,9 +272,9 @@ void tst_SettingsFile::everyDamagedFileIsKept() {
     for (int number = 1; number <= 3; ++number) {
         const QByteArray bytes = "damage " + QByteArray::number(number);
         put(path(), bytes);
-        SettingsMap values;
+        Snapshot state;
         QString problem;
-        SettingsFile(path()).load(&values, &problem);
+        SettingsFile(path()).load(&state, &problem);
         QCOMPARE(get(QString("%1.damaged-%2").arg(path()).arg(number)), bytes);
     }
 }
@@ -274,13 +284,13 @@ void tst_SettingsFile::cutBetweenRenames() {
     // What a save leaves when it is cut after its first rename.
     QVERIFY(QFile::remove(path() + ".bak"));
     QVERIFY(QFile::rename(path(), path() + ".bak"));
-    put(path() + ".new", settingsToText({{"a", 3}}));
-    SettingsMap values;
+    put(path() + ".new", settingsToText({{{"a", 3}}, 5}));
+    Snapshot state;
     QString problem;
     SettingsFile file(path());
-    QVERIFY(file.load(&values, &problem));
+    QVERIFY(file.load(&state, &problem));
     QCOMPARE(problem, QString());
-    QVERIFY(sameMap(values, newer));
+    QVERIFY(same(state, newer));
     QVERIFY(file.save(older, &problem));
     QCOMPARE(files(), QStringList({"settings.json", "settings.json.bak"}));
     QCOMPARE(get(path()), settingsToText(older));
@@ -289,10 +299,10 @@ void tst_SettingsFile::cutBetweenRenames() {
 
 void tst_SettingsFile::folderInPlaceOfTheFile() {
     QVERIFY(QDir().mkpath(path() + "/inside"));
-    SettingsMap values;
+    Snapshot state;
     QString problem;
     SettingsFile file(path());
-    QVERIFY(!file.load(&values, &problem));
+    QVERIFY(!file.load(&state, &problem));
     QVERIFY2(problem.contains(path()), qPrintable(problem));
     QVERIFY(QFileInfo(path() + ".damaged-1/inside").isDir());
     QVERIFY(file.save(newer, &problem));
@@ -300,10 +310,10 @@ void tst_SettingsFile::folderInPlaceOfTheFile() {
 }
 
 void tst_SettingsFile::missingFolder() {
-    SettingsMap values;
+    Snapshot state;
     QString problem;
     SettingsFile file(m_folder->filePath("no/settings.json"));
-    QVERIFY(!file.load(&values, &problem));
+    QVERIFY(!file.load(&state, &problem));
     QCOMPARE(problem, QString());
     QVERIFY(!file.save(newer, &problem));
     QVERIFY2(problem.contains(file.path()), qPrintable(problem));
@@ -313,39 +323,39 @@ void tst_SettingsFile::hugeFile() {
     QFile file(path());
     QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 33));  // 8 GiB without a byte on the disk
     file.close();
-    SettingsMap values;
+    Snapshot state;
     QString problem;
-    QVERIFY(!SettingsFile(path()).load(&values, &problem));
+    QVERIFY(!SettingsFile(path()).load(&state, &problem));
     QVERIFY2(problem.contains(path()) && problem.contains("Larger"), qPrintable(problem));
     QVERIFY(QFileInfo::exists(path() + ".damaged-1"));
 }
 
 void tst_SettingsFile::pipeInPlaceOfTheFile() {
     QCOMPARE(mkfifo(QFile::encodeName(path()).constData(), 0600), 0);
-    SettingsMap values;
+    Snapshot state;
     QString problem;
-    QVERIFY(!SettingsFile(path()).load(&values, &problem));  // and does not wait for a writer
+    QVERIFY(!SettingsFile(path()).load(&state, &problem));  // and does not wait for a writer
     QVERIFY2(problem.contains(path()), qPrintable(problem));
 }
 
 void tst_SettingsFile::fullDisk() {
     saveTwice();
     SettingsFile file(path());
-    SettingsMap values;
+    Snapshot state;
     QString problem;
-    QVERIFY(file.load(&values, &problem));
+    QVERIFY(file.load(&state, &problem));
     bool saved = true;
     {
         const FullDisk full;
-        saved = file.save({{"a", 99}}, &problem);
+        saved = file.save(newest, &problem);
     }
     QVERIFY(!saved);
     QVERIFY2(problem.contains(path()), qPrintable(problem));
     QCOMPARE(files(), QStringList({"settings.json", "settings.json.bak"}));
     QCOMPARE(get(path()), settingsToText(newer));
     QCOMPARE(get(path() + ".bak"), settingsToText(older));
-    QVERIFY(file.save({{"a", 99}}, &problem));
-    QCOMPARE(get(path()), settingsToText({{"a", 99}}));
+    QVERIFY(file.save(newest, &problem));
+    QCOMPARE(get(path()), settingsToText(newest));
     QCOMPARE(get(path() + ".bak"), settingsToText(newer));
 }
 
@@ -355,10 +365,10 @@ void tst_SettingsFile::damagedFileThatCannotBeSetAside() {
     for (int number = 1; number <= 1000; ++number) {
         put(QString("%1.damaged-%2").arg(path()).arg(number), "old");
     }
-    SettingsMap values;
+    Snapshot state;
     QString problem;
     SettingsFile file(path());
-    QVERIFY(!file.load(&values, &problem));
+    QVERIFY(!file.load(&state, &problem));
     QVERIFY2(problem.contains(path()) && problem.contains("cannot be set aside"), qPrintable(problem));
     QVERIFY(!file.save(newer, &problem));
     QCOMPARE(get(path()), QByteArray("x"));
@@ -368,15 +378,49 @@ void tst_SettingsFile::damagedFileThatCannotBeSetAside() {
     QCOMPARE(get(path()), settingsToText(newer));
 }
 
+void tst_SettingsFile::quickCopy_data() {
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QByteArray>("quick");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<bool>("behind");
+    const QByteArray old = settingsToText(older);
+    const QByteArray recent = settingsToText(newer);
+    QTest::newRow("quick copy is newer") << old << recent << 20 << true;
+    QTest::newRow("quick copy is as old") << recent << recent << 20 << false;
+    QTest::newRow("quick copy is older") << recent << old << 20 << false;
+    QTest::newRow("quick copy is cut") << old << recent.left(40) << 10 << false;
+    QTest::newRow("quick copy alone") << QByteArray() << recent << 20 << true;
+}
+
+void tst_SettingsFile::quickCopy() {
+    QFETCH(QByteArray, file);
+    QFETCH(QByteArray, quick);
+    if (!file.isEmpty()) {
+        put(path(), file);
+    }
+    put(path() + ".quick", quick);
+    Snapshot state;
+    QString problem;
+    SettingsFile settings(path());
+    QVERIFY(settings.load(&state, &problem));
+    QCOMPARE(problem, QString());
+    QTEST(int(state.number), "number");
+    QTEST(settings.isBehind(), "behind");
+    QVERIFY(settings.saveQuickly(newest));
+    QCOMPARE(get(path() + ".quick"), settingsToText(newest));
+    settings.dropQuickCopy();
+    QVERIFY(!QFile::exists(path() + ".quick"));
+}
+
 void tst_SettingsFile::peekTouchesNothing() {
-    SettingsMap values = older;
-    QVERIFY(!SettingsFile(path()).peek(&values));
+    Snapshot state = older;
+    QVERIFY(!SettingsFile(path()).peek(&state));
     put(path(), "x");
-    QVERIFY(!SettingsFile(path()).peek(&values));
-    QVERIFY(sameMap(values, older));
+    QVERIFY(!SettingsFile(path()).peek(&state));
+    QVERIFY(same(state, older));
     put(path() + ".bak", settingsToText(newer));
-    QVERIFY(SettingsFile(path()).peek(&values));
-    QVERIFY(sameMap(values, newer));
+    QVERIFY(SettingsFile(path()).peek(&state));
+    QVERIFY(same(state, newer));
     QCOMPARE(files(), QStringList({"settings.json", "settings.json.bak"}));
 }
 

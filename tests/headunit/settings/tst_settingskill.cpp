@@ -3,12 +3,12 @@
 
 #include <QtTest>
 
-#include <chrono>
-#include <csignal>
 #include <fcntl.h>
-#include <random>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <chrono>
+#include <csignal>
+#include <random>
 
 using namespace headunit;
 
@@ -121,12 +121,12 @@ void tst_SettingsKill::killedAtAnyMoment() {
         QVERIFY(!reports.isEmpty());
         QCOMPARE(reports.first().number, before + 1);
 
-        SettingsMap values;
+        Snapshot state;
         QString problem;
-        SettingsFile(path).load(&values, &problem);
+        SettingsFile(path).load(&state, &problem);
         QVERIFY2(problem.isEmpty(), qPrintable(problem));
-        const qint64 first = toInt(values.value("first"), 0);
-        const qint64 second = toInt(values.value("second"), 0);
+        const qint64 first = toInt(state.values.value("first"), 0);
+        const qint64 second = toInt(state.values.value("second"), 0);
         QVERIFY2(second == first || second == first - 1, qPrintable(QString("%1 and %2").arg(first).arg(second)));
         QVERIFY(second >= before - 1);
         QVERIFY(first <= reports.last().number + 1);

@@ -32,9 +32,9 @@ private Q_SLOTS:
 private:
     QString path() const { return m_folder->filePath("settings.json"); }
     SettingsMap onDisk() const {
-        SettingsMap values;
-        SettingsFile(path()).peek(&values);
-        return values;
+        Snapshot state;
+        SettingsFile(path()).peek(&state);
+        return state.values;
     }
     /// Makes the writer wait, as a disk that does not answer does, until readBlockedSave().
     void blockSaves() { QCOMPARE(mkfifo(newPath().constData(), 0600), 0); }

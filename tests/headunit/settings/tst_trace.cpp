@@ -31,7 +31,8 @@ void tst_Trace::costsNothingWithoutSink() {
 
 void tst_Trace::handsOverInOrder() {
     QStringList lines;
-    headunit::setTraceSink([&lines](const headunit::TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
+    headunit::setTraceSink(
+        [&lines](const headunit::TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
     HEADUNIT_TRACE(QString("a(1)"), QString("one"));
     HEADUNIT_TRACE(QString("b(2)"), QString("two"));
     QCOMPARE(lines, QStringList({"a(1) -> one", "b(2) -> two"}));

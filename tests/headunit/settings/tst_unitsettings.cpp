@@ -45,11 +45,16 @@ void tst_UnitSettings::cleanup() {
 void tst_UnitSettings::resolves_data() {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("below");
-    QTest::newRow("absolute") << "/media/flash/x.ini" << "/media/flash/x.ini";
-    QTest::newRow("relative") << "x.ini" << "/x.ini";
-    QTest::newRow("untidy") << "//media/./flash//a/../x.ini" << "/media/flash/x.ini";
-    QTest::newRow("never outside") << "/../../etc/passwd" << "/etc/passwd";
-    QTest::newRow("nothing") << "" << "/";
+    QTest::newRow("absolute") << "/media/flash/x.ini"
+                              << "/media/flash/x.ini";
+    QTest::newRow("relative") << "x.ini"
+                              << "/x.ini";
+    QTest::newRow("untidy") << "//media/./flash//a/../x.ini"
+                            << "/media/flash/x.ini";
+    QTest::newRow("never outside") << "/../../etc/passwd"
+                                   << "/etc/passwd";
+    QTest::newRow("nothing") << ""
+                             << "/";
 }
 
 void tst_UnitSettings::resolves() {

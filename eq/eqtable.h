@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QList>
+
+/// Bands of the equaliser.
+enum { eqBandCount = 13 };
+
+/// One curve: its type for the audio service, a row id, and the gain of each band in dB (-12 to 12).
+struct tagAudioEQItem_T {
+    qint32 type;
+    qint32 id;
+    qint32 gain[eqBandCount];
+};
+
+namespace audiosetting {
+namespace eq {
+
+const int maxGain = 12;         ///< dB
+const int maxLevel = 24;        ///< lowest position of a slider: -12 dB; level 0 is the top, +12 dB
+const int flatLevel = maxGain;  ///< position of 0 dB
+const int slotCount = 5;        ///< curves that the driver can store
+
+/// The gains of a slider's levels, from the top down: 12, 11, ... -12.
+const QList<int> &levelGains();
+/// The slider level of a gain: its position in levelGains(), or 0 for a gain that is not there.
+int levelOfGain(int gain);
+/// \a value counted from the other end of a range: \a end - value, for every value of an int.
+int fromOtherEnd(int end, int value);
+/// The level that a slider can show: \a level moved into 0 to 24, with a debug line where it was outside.
+int shownLevel(int level);
+
+/// The curves of the EQ page and of the Factory EQ page.
+const QList<tagAudioEQItem_T> &presets();
+/// First row of that type in \a table, or -1.
+int findByType(const QList<tagAudioEQItem_T> &table, int type);
+/// The curve of that type in \a table, or a flat one.
+tagAudioEQItem_T curveOfType(const QList<tagAudioEQItem_T> &table, int type);
+
+}  // namespace eq
+}  // namespace audiosetting

@@ -1,0 +1,32 @@
+// The keys beside the screen.
+tap("hardkey_volume_up");
+expect("level_overlay", "visible", true);
+expect(sound().channelLevel[0] === 17);
+wait(1999);
+expect("level_overlay", "visible", true);
+wait(2);
+expect("level_overlay", "visible", false);
+
+// Held, it repeats.
+press("hardkey_volume_down");
+wait(2000);
+release();
+expect(sound().channelLevel[0] < 10);
+expect(sound().channelLevel[0] >= 0);
+
+// An application answers Back itself: the hard key does nothing. Home goes home.
+open("audiosetting");
+wait(200);
+tap("hardkey_back");
+wait(200);
+expect("Txt_title", "text", "General");
+tap("hardkey_volume_up");
+expect("level_overlay", "visible", true);
+// A finger goes through the level to the page below.
+tap("key_return");
+expect("home", "visible", true);
+tap("hardkey_back");
+expect("home", "visible", true);
+open("audiosetting");
+tap("hardkey_home");
+expect("home", "visible", true);

@@ -1,0 +1,41 @@
+// Another application asks for Volume Settings.
+var guard = 200;
+
+function use(place) {
+    tap(place);
+    wait(guard);
+}
+
+// At the very first opening.
+use("tile_car");
+use("car_request");
+expect("Txt_title", "text", "Volume Settings");
+expect("key_general", "visible", false);
+expect(store("SettingTouchPageType") === 3);
+use("key_return");
+expect("car", "visible", true);
+expect(store("SettingTouchPageType") === 0);
+
+// Later, with another page shown last: that page is the one to come back to.
+home();
+use("tile_audiosetting");
+expect("Txt_title", "text", "General");
+use("key_timing");
+use("Key_close");
+use("tile_car");
+use("car_request");
+expect("Txt_title", "text", "Volume Settings");
+use("key_return");
+expect("car", "visible", true);
+home();
+use("tile_audiosetting");
+expect("Txt_title", "text", "Timing");
+
+// While it is in front: Back returns to the page, and stays.
+request();
+expect("Txt_title", "text", "Volume Settings");
+use("key_return");
+expect("Txt_title", "text", "Timing");
+expect("home", "visible", false);
+use("key_return");
+expect("home", "visible", true);
