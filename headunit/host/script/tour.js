@@ -48,6 +48,7 @@ for (var i = 0; i < tabs.length; ++i) {
     shot(tabs[i][1] + ".png", tabs[i][2]);
 }
 
+<<<<<<< HEAD
 use("key_eq");
 for (var band = 0; band < 13; ++band) {
     var x = 177 + Math.round(band * 67.8);
@@ -91,6 +92,20 @@ use("key_factoryeq");
 use("key_Rock");
 settle();
 shot("factoryeq_rock.png", "Factory EQ, Rock");
+=======
+press("key_hiphop");
+shot("factoryeq_pressed.png", "Factory EQ, Hip Hop pressed");
+release();
+settle();
+shot("factoryeq_hiphop.png", "Factory EQ, Hip Hop");
+use("key_eq");
+press("key_custom1");
+wait(1500);
+shot("eq_store.png", "EQ, the curve stored by a long press");
+release();
+settle();
+shot("eq_preset.png", "EQ, a curve of the driver's own");
+>>>>>>> main
 
 use("key_general");
 use("key_advanced");
@@ -124,6 +139,14 @@ settle();
 use("key_return");
 
 home();
+use("tile_bandadjust");
+shot("bandadjust.png", "Band adjust");
+for (var b = 0; b < 3; ++b) {
+    use("key_left");
+}
+drag("bands", [[68, 245], [68, 160], [68, 110]]);
+shot("bandadjust_custom.png", "Band adjust, a preset changed by hand");
+use("key_back");
 use("tile_car");
 shot("car.png", "The rest of the car");
 use("car_call");
