@@ -48,20 +48,18 @@ for (var i = 0; i < tabs.length; ++i) {
     shot(tabs[i][1] + ".png", tabs[i][2]);
 }
 
-<<<<<<< HEAD
-use("key_eq");
-for (var band = 0; band < 13; ++band) {
-    var x = 177 + Math.round(band * 67.8);
-    press(x, 283);
-    move(x, 283 - Math.round(50 * Math.cos(band / 3)));
-    release();
-    wait(pause);
-}
-press("key_custom1");
-wait(2000);
+press("key_hiphop");
+shot("factoryeq_pressed.png", "Factory EQ, Hip Hop pressed");
 release();
 settle();
-shot("eq_custom.png", "EQ, a curve of the user's own, kept as the first");
+shot("factoryeq_hiphop.png", "Factory EQ, Hip Hop");
+use("key_eq");
+press("key_custom1");
+wait(1500);
+shot("eq_store.png", "EQ, the curve stored by a long press");
+release();
+settle();
+shot("eq_preset.png", "EQ, a curve of the driver's own");
 
 use("key_crossover");
 for (var step = 0; step < 6; ++step) {
@@ -88,25 +86,6 @@ use("key_inches");
 settle();
 shot("timing_inches.png", "Timing, in inches");
 
-use("key_factoryeq");
-use("key_Rock");
-settle();
-shot("factoryeq_rock.png", "Factory EQ, Rock");
-=======
-press("key_hiphop");
-shot("factoryeq_pressed.png", "Factory EQ, Hip Hop pressed");
-release();
-settle();
-shot("factoryeq_hiphop.png", "Factory EQ, Hip Hop");
-use("key_eq");
-press("key_custom1");
-wait(1500);
-shot("eq_store.png", "EQ, the curve stored by a long press");
-release();
-settle();
-shot("eq_preset.png", "EQ, a curve of the driver's own");
->>>>>>> main
-
 use("key_general");
 use("key_advanced");
 shot("settings.png", "Settings");
@@ -132,10 +111,6 @@ use("key_return");
 use("Key_005_res_audio");
 settle();
 shot("reset.png", "Reset audio settings");
-tap("Key_accept");
-wait(pause);
-shot("reset_done.png", "Reset audio settings, done");
-settle();
 use("key_return");
 
 home();
@@ -182,3 +157,13 @@ for (var l = 0; l < languages.length; ++l) {
     use("key_return");
     home();
 }
+
+language("en");
+open("audiosetting");
+use("key_general");
+use("key_advanced");
+use("Key_005_res_audio");
+tap("Key_accept");
+wait(pause);
+shot("reset_done.png", "Reset audio settings, done");
+settle();
