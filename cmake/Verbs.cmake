@@ -38,6 +38,11 @@ function(headunit_library name)
     target_link_libraries(${name} PUBLIC headunit_contract Qt5::Core ${ARG_LINK})
 endfunction()
 
+# What every test runs in. Qt is built without frame pointers: only the slow unwinder sees whose leak it is.
+set(audiosetting_test_environment
+    "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1;\
+ASAN_OPTIONS=fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+
 # audiosetting_test(NAME SOURCES FILE... [LINK LIBRARY...] [LABELS LABEL...]): a QTest program, run by ctest.
 function(audiosetting_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK;LABELS" ${ARGN})
@@ -46,10 +51,8 @@ function(audiosetting_test name)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt5::Test)
     add_test(NAME ${name} COMMAND ${name})
-    # Qt is built without frame pointers: only the slow unwinder sees whose leak it is.
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ARG_LABELS}" ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1;\
-ASAN_OPTIONS=fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+    set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ARG_LABELS}"
+        ENVIRONMENT "${audiosetting_test_environment}")
 endfunction()
 
 # audiosetting_page_test(NAME SOURCES FILE... [LABELS LABEL...]): a test of what the plug-in shows, against the
