@@ -22,7 +22,7 @@ public:
     headunit::VirtualTime &time() { return m_time; }
 
 private:
-    headunit::VirtualTime m_time;
+    headunit::VirtualTime &m_time = *new headunit::VirtualTime;  // the application's from its construction on
     QApplication m_app;
 };
 
