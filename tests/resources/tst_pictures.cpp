@@ -94,8 +94,8 @@ private Q_SLOTS:
     void picture();
     void densePicture_data() { rows(); }
     void densePicture();
-    void decodesWithoutInflating_data() { rows(); }
-    void decodesWithoutInflating();
+    void decodesCheaply_data() { rows(); }
+    void decodesCheaply();
     void statesDiffer_data() { families(); }
     void statesDiffer();
     void selectedStandsOut_data() { families(QStringLiteral("s")); }
@@ -234,7 +234,7 @@ void PicturesTest::densePicture() {
     QVERIFY2(mean < 2.0, qPrintable(QStringLiteral("mean difference %1 of 255").arg(mean)));
 }
 
-void PicturesTest::decodesWithoutInflating() {
+void PicturesTest::decodesCheaply() {
     QFETCH(QString, name);
     const Picture expected = row(name);
     const QByteArray png = bytes(expected.file());
@@ -244,6 +244,11 @@ void PicturesTest::decodesWithoutInflating() {
     const int channels = QImage(expected.file()).hasAlphaChannel() ? 4 : 3;
     const int line = 1 + expected.size.width() * channels;
     const int raw = line * expected.size.height();
+    if (raw > 1 << 20) {
+        // So large a drawing is mostly empty, and cheaper to inflate than to read.
+        QVERIFY2(length < raw / 20, "the data is not compressed");
+        return;
+    }
     QVERIFY2(length > raw, "the data is compressed");
     // After the two bytes of zlib's header: the first block is of the stored kind.
     QCOMPARE((png.at(dataChunk + 6) >> 1) & 3, 0);
@@ -310,9 +315,10 @@ void PicturesTest::shapeStandsOut() {
 
 void PicturesTest::keyEdgeStandsOut_data() {
     QTest::addColumn<QString>("name");
-    for (const char *key : {"key_vol_prev_n", "key_vol_next_n", "key_vol_front_n", "key_vol_rear_n", "key_phase_0_n",
-                            "key_phase_180_n", "key_balance_center_n", "key_eq_custom_n", "key_advanced_n",
-                            "key_next_n", "settings_icn_back_n", "settings_icn_close_n"}) {
+    for (const char *key :
+         {"key_vol_prev_n", "key_vol_next_n", "key_vol_front_n", "key_vol_rear_n", "key_phase_0_n", "key_phase_180_n",
+          "key_balance_center_n", "key_eq_custom_n", "key_advanced_n", "key_next_n", "settings_icn_back_n",
+          "settings_icn_close_n", "key_minus_n", "key_plus_n", "key_front1_n", "key_rear_n", "key_sub_n", "key_off"}) {
         QTest::newRow(key) << QStringLiteral("corvina_icon/") + QLatin1String(key);
     }
 }
@@ -334,8 +340,8 @@ void PicturesTest::keyEdgeStandsOut() {
 
 void PicturesTest::textOnKeyIsLegible_data() {
     QTest::addColumn<QString>("name");
-    for (const char *key :
-         {"key_next_n", "key_next_p", "key_advanced_n", "key_advanced_p", "key_eq_custom_n", "key_eq_custom_p"}) {
+    for (const char *key : {"key_next_n", "key_next_p", "key_advanced_n", "key_advanced_p", "key_eq_custom_n",
+                            "key_eq_custom_p", "key_front1_n", "key_front1_d", "key_off", "key_on"}) {
         QTest::newRow(key) << QStringLiteral("corvina_icon/") + QLatin1String(key);
     }
 }
