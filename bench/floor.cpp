@@ -4,6 +4,8 @@
 //   floor start                       a 1024 x 600 window with one pixmap, painted once
 //   floor switch STEPS LABELS LABELS  two pages of that many labels, shown in turn
 //   floor drag STEPS                  one cached pixmap, moved by mouse events
+//   floor scroll STEPS                one ready pixmap of a page's height, moved by mouse events in a window of 980 x
+//   440
 
 #include "benchtools.h"
 
@@ -75,6 +77,30 @@ void drag(int steps) {
     bench::drag(&window, QRect(300, 200, 180, 180), steps, Qt::Horizontal | Qt::Vertical);
 }
 
+/// Moves its one label up and down with the finger.
+class ScrollFloor : public QWidget {
+public:
+    ScrollFloor() : m_label(new QLabel(this)) {
+        setFixedSize(980, 440);
+        m_label->setPixmap(readyPixmap(955, 885));
+        m_label->resize(955, 885);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent *event) override { m_grip = event->y(); }
+    void mouseMoveEvent(QMouseEvent *event) override { m_label->move(0, qBound(-445, event->y() - m_grip, 0)); }
+
+private:
+    QLabel *m_label;
+    int m_grip = 0;
+};
+
+void scroll(int steps) {
+    ScrollFloor window;
+    bench::showAndPaint(&window);
+    bench::drag(&window, QRect(40, 20, 200, 400), steps, Qt::Vertical);
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
@@ -88,8 +114,10 @@ int main(int argc, char **argv) {
         switchPages(number(1), number(2), number(3));
     } else if (what == QLatin1String("drag")) {
         drag(number(1));
+    } else if (what == QLatin1String("scroll")) {
+        scroll(number(1));
     } else {
-        qCritical("floor start | floor switch STEPS LABELS LABELS | floor drag STEPS");
+        qCritical("floor start | floor switch STEPS LABELS LABELS | floor drag STEPS | floor scroll STEPS");
         return 2;
     }
     return 0;
