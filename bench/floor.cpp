@@ -2,6 +2,7 @@
 // nothing but plain labels and ready pixmaps.
 //
 //   floor start                       a 1024 x 600 window with one pixmap, painted once
+//   floor first LABELS                a page of that many labels, built and shown; -1: no page
 //   floor switch STEPS LABELS LABELS  two pages of that many labels, shown in turn
 //   floor drag STEPS                  one cached pixmap, moved by mouse events
 //   floor scroll STEPS                one ready pixmap of a page's height, moved by mouse events in a window of 980 x
@@ -39,6 +40,17 @@ QWidget *page(QWidget *parent, int labels, const QPixmap &pixmap) {
     }
     page->hide();
     return page;
+}
+
+void first(int labels) {
+    QWidget window;
+    window.setFixedSize(bench::screen);
+    const QPixmap pixmap = readyPixmap(72, 72);
+    bench::showAndPaint(&window);
+    if (labels >= 0) {
+        page(&window, labels, pixmap)->show();
+        bench::settle();
+    }
 }
 
 void switchPages(int steps, int labelsA, int labelsB) {
@@ -110,6 +122,8 @@ int main(int argc, char **argv) {
     const QString what = args.value(0);
     if (what == QLatin1String("start")) {
         start();
+    } else if (what == QLatin1String("first")) {
+        first(number(1));
     } else if (what == QLatin1String("switch")) {
         switchPages(number(1), number(2), number(3));
     } else if (what == QLatin1String("drag")) {
@@ -117,7 +131,9 @@ int main(int argc, char **argv) {
     } else if (what == QLatin1String("scroll")) {
         scroll(number(1));
     } else {
-        qCritical("floor start | floor switch STEPS LABELS LABELS | floor drag STEPS | floor scroll STEPS");
+        qCritical(
+            "floor start | floor first LABELS | floor switch STEPS LABELS LABELS | floor drag STEPS | "
+            "floor scroll STEPS");
         return 2;
     }
     return 0;
