@@ -12,11 +12,13 @@
 #include "appplugin.h"
 #include "benchtools.h"
 #include "headunit/settings/unitroot.h"
+#include "headunit/settings/unitsettings.h"
 #include "headunit/toolkit/unitapplication.h"
 #include "horizontalslider.h"
 #include "windowinterface.h"
 
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QPluginLoader>
 #include <QScrollArea>
 #include <QTemporaryDir>
@@ -141,6 +143,8 @@ int main(int argc, char **argv) {
     headunit::setUnitRoot(root.path());
     headunit::prepareUnitApplication();
     bench::Application app(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    headunit::openSettings();
     headunit::setUpUnitApplication();
     const QStringList args = app.arguments().mid(1);
 
@@ -163,5 +167,6 @@ int main(int argc, char **argv) {
             "product reset STEPS");
         return 2;
     }
+    headunit::closeSettings();
     return 0;
 }

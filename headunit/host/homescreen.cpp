@@ -11,7 +11,7 @@ namespace headunit {
 
 namespace {
 
-constexpr int tileWidth = 272;
+constexpr int largestTileWidth = 272;
 constexpr int tileHeight = 288;
 constexpr int failureLineHeight = 40;
 constexpr int failureLines = 3;  ///< as many as fit below the tiles
@@ -29,7 +29,9 @@ HomeScreen::HomeScreen(const QStringList &applications, const QStringList &failu
 }
 
 void HomeScreen::addTiles(const QStringList &applications) {
-    const int count = applications.size() + 1;
+    const int count = applications.size() + 2;
+    const int room = width() - (count + 1) * look::margin;
+    const int tileWidth = qMin(largestTileWidth, room / count);
     // In the middle of what the status bar and the failures leave free.
     const int failuresTop = height() - qMin(m_failures.size(), failureLines) * failureLineHeight - footHeight;
     const int y = (StatusBar::barHeight + failuresTop - tileHeight) / 2;
@@ -47,6 +49,9 @@ void HomeScreen::addTiles(const QStringList &applications) {
         tile->setTextId(isAudio ? texts::audioSettings : 0);
         connect(tile, &Key::clicked, this, [this, id] { Q_EMIT applicationChosen(id); });
     }
+    Key *bandAdjust = addTile(QStringLiteral("tile_bandadjust"), "tile_bandadjust");
+    bandAdjust->setTextId(texts::bandAdjust);
+    connect(bandAdjust, &Key::clicked, this, &HomeScreen::bandAdjustChosen);
     Key *car = addTile(QStringLiteral("tile_car"), "tile_car");
     car->setTextId(texts::car);
     connect(car, &Key::clicked, this, &HomeScreen::carChosen);

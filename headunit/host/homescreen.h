@@ -5,8 +5,8 @@
 
 namespace headunit {
 
-/// The home screen: a tile for each application, one for the rest of the car, and a line for each plug-in that
-/// could not be loaded.
+/// The home screen: a tile for each application, for the band-adjust panel and for the rest of the car, and a line for
+/// each plug-in that could not be loaded.
 class HomeScreen : public QWidget {
     Q_OBJECT
 public:
@@ -15,6 +15,7 @@ public:
 
 Q_SIGNALS:
     void applicationChosen(const QString &id);
+    void bandAdjustChosen();
     void carChosen();
 
 protected:

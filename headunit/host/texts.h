@@ -15,6 +15,7 @@ constexpr int volumeSettings = 20007;
 constexpr int startCall = 20008;
 constexpr int endCall = 20009;
 constexpr int callInProgress = 20010;
+constexpr int bandAdjust = 20018;
 
 struct Channel {
     int type;  ///< as the audio service counts

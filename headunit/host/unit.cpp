@@ -2,6 +2,7 @@
 
 #include "audioservice.h"
 #include "headunit/audio/soundmodel.h"
+#include "headunit/host/bandadjust.h"
 #include "headunit/host/callscreen.h"
 #include "headunit/host/carscreen.h"
 #include "headunit/host/homescreen.h"
@@ -53,6 +54,8 @@ Unit::~Unit() {
 void Unit::show(Place place) {
     if (place == Car) {
         showCar();
+    } else if (place == BandAdjust) {
+        showBandAdjust();
     } else {
         showHome();
     }
@@ -62,6 +65,9 @@ void Unit::show(Place place, QWidget *widget) {
     leaveApplication();
     if (m_shown && m_shown != widget) {
         m_shown->hide();
+    }
+    if (m_bandAdjust != widget) {
+        closeBandAdjust();
     }
     m_place = place;
     m_shown = widget;
@@ -78,6 +84,30 @@ void Unit::showHome() {
 
 void Unit::showCar() {
     show(Car, carScreen());
+}
+
+void Unit::showBandAdjust() {
+    if (!m_bandAdjust) {
+        m_bandAdjust = createBandAdjust(m_screen);
+        if (!m_bandAdjust) {
+            return;
+        }
+        m_bandAdjust->setObjectName(QStringLiteral("bandadjust"));
+        m_bandAdjust->move(0, StatusBar::barHeight);
+    }
+    show(BandAdjust, m_bandAdjust);
+}
+
+void Unit::closeBandAdjust() {
+    if (m_bandAdjust) {
+        if (m_shown == m_bandAdjust) {
+            m_shown = nullptr;
+        }
+        // One of its keys may be what closes it.
+        m_bandAdjust->hide();
+        m_bandAdjust->deleteLater();
+        m_bandAdjust = nullptr;
+    }
 }
 
 bool Unit::openApplication(const QString &id, Place origin) {
@@ -98,6 +128,7 @@ bool Unit::openApplication(const QString &id, Place origin) {
         m_shown->hide();
         m_shown = nullptr;
     }
+    closeBandAdjust();
     updateStatusBar();
     return true;
 }
@@ -113,11 +144,10 @@ bool Unit::requestVolumeSettings() {
     mem::SettingsFunc::instance()->setValue(pageRequestKey, 0, volumePageRequest, true);
     const Application *application = m_catalog.find(audioSettingsId);
     if (application && m_stage->front() == application->window) {
+        // Only then: an application that is opened reads the request by itself, and told twice would take the requested
+        // page for the one to return to.
         Q_EMIT mem::SettingsCache::instance()->SettingsCacheSig(pageRequestKey);
-        return true;
     }
-    // An application that is opened reads the request by itself; told twice, it would take the requested page for
-    // the one to return to.
     return openApplication(audioSettingsId, m_place);
 }
 
@@ -218,7 +248,7 @@ void Unit::pressHardKey(int key) {
             showHome();
             break;
         case KeyEvent::Back:
-            if (m_place == Car) {
+            if (m_place == Car || m_place == BandAdjust) {
                 showHome();
             } else if (m_place == InApplication && !m_stage->offerBack()) {
                 touch(Qx::TouchBack);
@@ -240,6 +270,8 @@ void Unit::touch(int code) {
         case Qx::TouchBack:
             if (m_place == InApplication) {
                 show(m_origin);
+            } else if (m_place == BandAdjust) {
+                showHome();
             }
             break;
         case Qx::TouchClose:
@@ -264,6 +296,7 @@ void Unit::stepVolume(int by) {
 
 void Unit::shutDown() {
     m_place = Nowhere;
+    closeBandAdjust();
     m_stage->shutDown();
     m_catalog.unload();
     m_stage->releaseWidgets();
@@ -277,6 +310,7 @@ HomeScreen *Unit::homeScreen() {
         }
         m_home = new HomeScreen(ids, m_catalog.failures(), m_screen);
         connect(m_home, &HomeScreen::applicationChosen, this, [this](const QString &id) { openApplication(id, Home); });
+        connect(m_home, &HomeScreen::bandAdjustChosen, this, &Unit::showBandAdjust);
         connect(m_home, &HomeScreen::carChosen, this, &Unit::showCar);
     }
     return m_home;

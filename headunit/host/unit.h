@@ -20,7 +20,7 @@ class Unit : public QObject {
     Q_OBJECT
 public:
     /// Where the unit can be.
-    enum Place { Nowhere, Home, Car, Call, InApplication };
+    enum Place { Nowhere, Home, Car, Call, BandAdjust, InApplication };
 
     /// Shows everything in \a screen; \a clock gives the status bar its time. Starts nowhere.
     Unit(PluginCatalog &catalog, QWidget *screen, StatusBar::Clock clock);
@@ -30,6 +30,8 @@ public:
 
     void showHome();
     void showCar();
+    /// Shows the equaliser panel that Audio Settings exports, below the status bar. Stays where it is if there is none.
+    void showBandAdjust();
     /// Opens an application, which returns to \a origin when it is left by Back. False if there is none of that
     /// name, or it has nothing to show.
     bool openApplication(const QString &id, Place origin);
@@ -59,6 +61,7 @@ private:
     void show(Place place);
     void show(Place place, QWidget *widget);
     void leaveApplication();
+    void closeBandAdjust();
     void stepVolume(int by);
     void setCallActive(bool active);
     HomeScreen *homeScreen();
@@ -79,7 +82,8 @@ private:
     int m_source = 0;
 
     // Made when they are first shown.
-    QWidget *m_shown = nullptr;  ///< the host's own screen that is in front
+    QWidget *m_shown = nullptr;      ///< the host's own screen that is in front
+    QWidget *m_bandAdjust = nullptr;  ///< only while it is in front: it shows what it found when it was made
     HomeScreen *m_home = nullptr;
     CarScreen *m_car = nullptr;
     CallScreen *m_call = nullptr;

@@ -227,5 +227,9 @@
         <source>DAB</source>
         <translation>DAB</translation>
     </message>
+    <message id="20018">
+        <source>Band adjust</source>
+        <translation>Bandes</translation>
+    </message>
 </context>
 </TS>

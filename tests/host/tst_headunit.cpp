@@ -152,7 +152,7 @@ void TestHeadunit::exitWhenShown() {
 
 void TestHeadunit::scale() {
     // Places are the unit's pixels, whatever the desk's are.
-    const QString script = write("s.js", "tap(660, 320); expect('car', 'visible', true); shot('car.png');"
+    const QString script = write("s.js", "tap(816, 320); expect('car', 'visible', true); shot('car.png');"
                                          "tap('hardkey_home'); expect('home', 'visible', true);");
     for (const char *scale : {"1", "1.5", "2"}) {
         const Result result = run({"--scale", scale, "--script", script});

@@ -46,6 +46,9 @@ private Q_SLOTS:
     void callTakesTheScreenAndGivesItBack();
     void callFromTheCar();
     void homeDuringACall();
+    void bandAdjustOpensAndCloses();
+    void bandAdjustIsLeftForTheRest();
+    void bandAdjustComesBackAfterACall();
     void volumeKeys();
     void volumeKeysDuringACall();
     void levelOverlayGoesByItself();
@@ -234,6 +237,55 @@ void TestUnit::callFromTheCar() {
     QCOMPARE(m_unit->place(), Unit::Car);
 }
 
+void TestUnit::bandAdjustOpensAndCloses() {
+    for (int round = 0; round < 2; ++round) {
+        QTest::mouseClick(child("tile_bandadjust"), Qt::LeftButton);
+        QCOMPARE(m_unit->place(), Unit::BandAdjust);
+        QVERIFY(shows("bandadjust"));
+        QVERIFY(!shows("home"));
+        QVERIFY(shows("status_bar"));
+        // The bands fill the page area of the applications.
+        QCOMPARE(child("bands")->mapTo(m_screen.data(), QPoint()), QPoint(0, 130));
+        QCOMPARE(child("bandadjust")->geometry(), QRect(0, 48, 1024, 552));
+        if (round == 0) {
+            m_unit->touch(Qx::TouchBack);
+        } else {
+            press(KeyEvent::Back);
+        }
+        QCOMPARE(m_unit->place(), Unit::Home);
+        QVERIFY(shows("home"));
+        QVERIFY(!shows("bandadjust"));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!child("bandadjust"));
+    }
+}
+
+void TestUnit::bandAdjustIsLeftForTheRest() {
+    m_unit->showBandAdjust();
+    m_unit->showBandAdjust();
+    QCOMPARE(m_screen->findChildren<QWidget *>(QStringLiteral("bandadjust")).size(), 1);
+    QVERIFY(m_unit->openApplication(app, Unit::Home));
+    QVERIFY(!shows("bandadjust"));
+    QCOMPARE(m_unit->place(), Unit::InApplication);
+    m_unit->showBandAdjust();
+    QCOMPARE(takeCalls().mid(3), QStringList({"onExit visible=1", "onHide visible=0"}));
+    m_unit->touch(Qx::TouchClose);
+    QCOMPARE(m_unit->place(), Unit::Home);
+    m_unit->showBandAdjust();
+    m_unit->shutDown();
+    QVERIFY(!shows("bandadjust"));
+}
+
+void TestUnit::bandAdjustComesBackAfterACall() {
+    m_unit->showBandAdjust();
+    m_unit->startCall();
+    QVERIFY(!shows("bandadjust"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_unit->endCall();
+    QCOMPARE(m_unit->place(), Unit::BandAdjust);
+    QVERIFY(shows("bandadjust"));
+}
+
 void TestUnit::homeDuringACall() {
     m_unit->openApplication(app, Unit::Home);
     m_unit->startCall();
@@ -281,6 +333,8 @@ void TestUnit::levelOverlayGoesByItself() {
     press(KeyEvent::VolumeUp);
     time->advance(headunit::LevelOverlay::showMilliseconds - 1);
     QVERIFY(shows("level_overlay"));
+    // A finger goes through it.
+    QCOMPARE(m_screen->childAt(child("level_overlay")->geometry().center()), child("home"));
     time->advance(1);
     QVERIFY(!shows("level_overlay"));
     // It stays on top of an application that is opened meanwhile.

@@ -48,6 +48,19 @@ for (var i = 0; i < tabs.length; ++i) {
     shot(tabs[i][1] + ".png", tabs[i][2]);
 }
 
+press("key_hiphop");
+shot("factoryeq_pressed.png", "Factory EQ, Hip Hop pressed");
+release();
+settle();
+shot("factoryeq_hiphop.png", "Factory EQ, Hip Hop");
+use("key_eq");
+press("key_custom1");
+wait(1500);
+shot("eq_store.png", "EQ, the curve stored by a long press");
+release();
+settle();
+shot("eq_preset.png", "EQ, a curve of the driver's own");
+
 use("key_general");
 use("key_advanced");
 shot("settings.png", "Settings");
@@ -71,6 +84,14 @@ shot("reset.png", "Reset audio settings");
 use("key_return");
 
 home();
+use("tile_bandadjust");
+shot("bandadjust.png", "Band adjust");
+for (var b = 0; b < 3; ++b) {
+    use("key_left");
+}
+drag("bands", [[68, 245], [68, 160], [68, 110]]);
+shot("bandadjust_custom.png", "Band adjust, a preset changed by hand");
+use("key_back");
 use("tile_car");
 shot("car.png", "The rest of the car");
 use("car_call");
