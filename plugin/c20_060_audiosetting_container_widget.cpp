@@ -44,5 +44,9 @@ void c20_060_audiosetting_container_widget::paintGround(QPainter *painter, const
 
 void c20_060_audiosetting_container_widget::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
-    paintGround(&painter, event->rect());
+    // Piece by piece: a picture that lies whole within the region is laid without testing each line of it.
+    const QVector<QRect> pieces = event->region().rects();
+    for (const QRect &piece : pieces) {
+        paintGround(&painter, piece);
+    }
 }
