@@ -17,12 +17,12 @@ constexpr int touchInterval = 10;
 /// Virtual time first, then the application: both programs run without waiting.
 class Application {
 public:
-    Application(int &argc, char **argv) : m_app(argc, argv) {}
+    Application(int &argc, char **argv) : m_time(new headunit::VirtualTime), m_app(argc, argv) {}
     QStringList arguments() const { return QCoreApplication::arguments(); }
-    headunit::VirtualTime &time() { return m_time; }
+    headunit::VirtualTime &time() { return *m_time; }
 
 private:
-    headunit::VirtualTime &m_time = *new headunit::VirtualTime;  // the application's from its construction on
+    headunit::VirtualTime *const m_time;  // Qt's, once the application is there
     QApplication m_app;
 };
 

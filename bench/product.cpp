@@ -13,6 +13,7 @@
 #include "appplugin.h"
 #include "benchtools.h"
 #include "headunit/settings/unitroot.h"
+#include "headunit/settings/unitsettings.h"
 #include "headunit/toolkit/unitapplication.h"
 #include "horizontalslider.h"
 #include "windowinterface.h"
@@ -163,6 +164,8 @@ int main(int argc, char **argv) {
     headunit::setUnitRoot(root.path());
     headunit::prepareUnitApplication();
     bench::Application app(argc, argv);
+    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
+    headunit::openSettings();
     headunit::setUpUnitApplication();
     // As in the host, which writes debug lines only when it is asked to.
     QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);
@@ -189,5 +192,6 @@ int main(int argc, char **argv) {
             "product reset STEPS");
         return 2;
     }
+    headunit::closeSettings();
     return 0;
 }

@@ -88,17 +88,27 @@ DiskResult readFile(const QString &path, qint64 limit, QByteArray *bytes) {
     return DiskResult();
 }
 
-DiskResult writeFile(const QString &path, const QByteArray &bytes, Sync sync) {
+DiskResult writeFileDurably(const QString &path, const QByteArray &bytes) {
     const QByteArray name = QFile::encodeName(path);
     const Descriptor file(
         open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, filePermissions));
     if (!file.valid()) {
         return lastError();
     }
-    if (!writeAll(file.get(), bytes) || (sync == Sync::Yes && fsync(file.get()) != 0)) {
+    if (!writeAll(file.get(), bytes) || fsync(file.get()) != 0) {
         const DiskResult result = lastError();
         unlink(name.constData());
         return result;
+    }
+    return DiskResult();
+}
+
+DiskResult overwriteFile(const QString &path, const QByteArray &bytes) {
+    // Neither emptied first nor renamed: for both, file systems start writing to the medium, and then a busy one waits.
+    const Descriptor file(
+        open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_CLOEXEC | O_NOFOLLOW, filePermissions));
+    if (!file.valid() || !writeAll(file.get(), bytes) || ftruncate(file.get(), bytes.size()) != 0) {
+        return lastError();
     }
     return DiskResult();
 }

@@ -14,10 +14,10 @@ struct DiskResult {
 
 /// Reads a regular file of at most \a limit bytes. Never waits for a pipe or a device.
 DiskResult readFile(const QString &path, qint64 limit, QByteArray *bytes);
-/// Whether to wait until the bytes are on the medium.
-enum class Sync { No, Yes };
-/// Writes a file. A failure leaves no file of that name.
-DiskResult writeFile(const QString &path, const QByteArray &bytes, Sync sync);
+/// Writes a file and returns once its bytes are on the medium. A failure leaves no file of that name.
+DiskResult writeFileDurably(const QString &path, const QByteArray &bytes);
+/// Writes over a file in place, without waiting for the medium. A failure or an interruption leaves a mixture.
+DiskResult overwriteFile(const QString &path, const QByteArray &bytes);
 void removeFile(const QString &path);
 /// Renames over an existing file.
 DiskResult renameFile(const QString &from, const QString &to);

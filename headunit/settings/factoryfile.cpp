@@ -96,7 +96,7 @@ void installFactoryFile(const QString &path) {
         qFatal("the shipped factory file is missing in this library");
     }
     QDir().mkpath(QFileInfo(path).path());
-    const DiskResult result = writeFile(path, shipped.readAll(), Sync::Yes);
+    const DiskResult result = writeFileDurably(path, shipped.readAll());
     if (!result.ok()) {
         qWarning("factory file %s cannot be written: %s", qUtf8Printable(path), qUtf8Printable(result.error));
     }

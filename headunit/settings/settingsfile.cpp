@@ -33,12 +33,14 @@ bool SettingsFile::load(Snapshot *snapshot, QString *problem) {
         m_copyPresent = readOrSetAside(backupPath(), &found, problem);
     }
     bool any = m_present == Presence::Good || m_copyPresent == Presence::Good;
-    Snapshot quick;
-    QString reason;  // a quick copy may be anything after a power cut, and is then no loss
-    m_behind = read(quickPath(), &quick, &reason) == Presence::Good && (!any || quick.number > found.number);
-    if (m_behind) {
-        found = quick;
-        any = true;
+    for (int slot = 0; slot < quickSlots; ++slot) {
+        Snapshot quick;
+        QString reason;  // a quick copy may be anything after a power cut, and is then no loss
+        if (read(quickPath(slot), &quick, &reason) == Presence::Good && (!any || quick.number > found.number)) {
+            found = quick;
+            any = true;
+            m_behind = true;
+        }
     }
     if (!problem->isEmpty()) {
         *problem +=
@@ -85,13 +87,16 @@ bool SettingsFile::setAside(const QString &path, QString *newName, QString *reas
     return false;
 }
 
-bool SettingsFile::saveQuickly(const Snapshot &snapshot) const {
-    const QString newPath = quickPath() + QStringLiteral(".new");
-    return writeFile(newPath, settingsToText(snapshot), Sync::No).ok() && renameFile(newPath, quickPath()).ok();
+bool SettingsFile::saveQuickly(const Snapshot &snapshot) {
+    // In turn, so that one is whole while the other is written.
+    m_quickSlot = (m_quickSlot + 1) % quickSlots;
+    return overwriteFile(quickPath(m_quickSlot), settingsToText(snapshot)).ok();
 }
 
-void SettingsFile::dropQuickCopy() const {
-    removeFile(quickPath());
+void SettingsFile::dropQuickCopies() const {
+    for (int slot = 0; slot < quickSlots; ++slot) {
+        removeFile(quickPath(slot));
+    }
 }
 
 bool SettingsFile::save(const Snapshot &snapshot, QString *problem) {
@@ -110,7 +115,7 @@ bool SettingsFile::save(const Snapshot &snapshot, QString *problem) {
         }
     }
     const QString newPath = m_path + QStringLiteral(".new");
-    DiskResult result = writeFile(newPath, settingsToText(snapshot), Sync::Yes);
+    DiskResult result = writeFileDurably(newPath, settingsToText(snapshot));
     if (!result.ok()) {
         return failed(result.error);
     }

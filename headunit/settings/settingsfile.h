@@ -10,9 +10,9 @@ namespace headunit {
 /// state before or after a save.
 ///
 /// Files: NAME, NAME.bak (the state before the last save), NAME.new (a save under way), NAME.damaged-1 and so on
-/// (what could not be read, kept for inspection), and NAME.quick: the newest state, written without waiting for the
-/// medium, so that a process that is killed while the medium is slow loses no more than it would on a fast one.
-/// Used by one thread at a time, but for saveQuickly().
+/// (what could not be read, kept for inspection), and NAME.quick-0 and -1: the newest states, written without
+/// waiting for the medium, so that a process that is killed while the medium is slow loses no more than it would on a
+/// fast one. Used by one thread at a time, but for saveQuickly().
 class SettingsFile {
 public:
     explicit SettingsFile(const QString &path);
@@ -25,18 +25,20 @@ public:
     /// Replaces the file. On failure what was on the disk is still there and \a problem names the file and the reason.
     bool save(const Snapshot &snapshot, QString *problem);
 
-    /// Writes the state where a killed process leaves it safe, but a power cut may not. Any thread.
-    bool saveQuickly(const Snapshot &snapshot) const;
-    /// Removes that copy, which a save has made needless.
-    void dropQuickCopy() const;
+    /// Writes the state where a killed process leaves it safe, but a power cut may not. May run
+    /// beside save(), but not beside itself.
+    bool saveQuickly(const Snapshot &snapshot);
+    /// Removes those copies, which a save has made needless.
+    void dropQuickCopies() const;
     /// Whether load() found a state that is newer than the file's own.
     bool isBehind() const { return m_behind; }
 
     QString path() const { return m_path; }
     QString backupPath() const { return m_path + QStringLiteral(".bak"); }
-    QString quickPath() const { return m_path + QStringLiteral(".quick"); }
+    QString quickPath(int slot) const { return QStringLiteral("%1.quick-%2").arg(m_path).arg(slot); }
 
 private:
+    static constexpr int quickSlots = 2;
     enum class Presence { Good, Missing, Bad };
     static Presence read(const QString &path, Snapshot *snapshot, QString *reason);
     static Presence readOrSetAside(const QString &path, Snapshot *snapshot, QString *problem);
@@ -46,6 +48,7 @@ private:
     Presence m_present = Presence::Missing;      ///< what stands under path()
     Presence m_copyPresent = Presence::Missing;  ///< what stands under backupPath(), as far as it was read
     bool m_behind = false;
+    int m_quickSlot = 0;  ///< saveQuickly()'s own
 };
 
 }  // namespace headunit

@@ -58,7 +58,7 @@ void SettingsStore::close() {
     if (m_file) {
         const bool quickEnded = m_quick->finish();
         if (m_writer->finish() && quickEnded) {
-            m_file->dropQuickCopy();
+            m_file->dropQuickCopies();
         }
         m_quick.reset();
         m_writer.reset();

@@ -13,9 +13,9 @@ QString picturePath(const QUrl &url);
 /// asked for again come from the application's pixmap cache.
 QPixmap loadPicture(const QString &path);
 
-/// Size of a picture in widget pixels, whatever its density.
+/// Size of a picture in widget pixels, whatever its density; (0, 0) for none.
 inline QSize pictureSize(const QPixmap &picture) {
-    return picture.size() / picture.devicePixelRatioF();
+    return picture.isNull() ? QSize(0, 0) : picture.size() / picture.devicePixelRatioF();
 }
 
 }  // namespace headunit

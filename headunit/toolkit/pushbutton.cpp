@@ -57,15 +57,19 @@ struct PushButton::Private : public QObject {
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override {
-        QPushButton *target = button;  // null once the button's destructor runs
-        if (target && event->type() == QEvent::EnabledChange && !target->isEnabled()) {
-            timer.stop();
-        } else if (target && event->type() == QEvent::Hide) {
+        if (event->type() != QEvent::EnabledChange && event->type() != QEvent::Hide) {
+            return false;
+        }
+        // None while the button is being destroyed, when it still sends events but is no push button any more.
+        auto *target = qobject_cast<QPushButton *>(watched);
+        if (target && event->type() == QEvent::Hide) {
             // The release of a hidden button goes to nobody; without this it would come back pressed.
             timer.stop();
             target->setDown(false);
+        } else if (target && !target->isEnabled()) {
+            timer.stop();
         }
-        return QObject::eventFilter(watched, event);
+        return false;
     }
 
     PushButton *const q;

@@ -34,6 +34,12 @@ struct ScrollManage::Private {
         headunit::KineticAxis motion;
     };
 
+    /// False also while the area is being destroyed, when its children still send events but it is none any more.
+    bool exists() {
+        area = qobject_cast<QScrollArea *>(areaObject);
+        return area;
+    }
+
     QScrollBar *bar(Qt::Orientation o) const {
         return o == Qt::Vertical ? area->verticalScrollBar() : area->horizontalScrollBar();
     }
@@ -80,7 +86,8 @@ struct ScrollManage::Private {
     void tick();
     void stop();
 
-    QPointer<QScrollArea> area;
+    QScrollArea *area = nullptr;  // valid after exists()
+    QPointer<QObject> areaObject;
     Axis vertical;
     Axis horizontal;
     QTimer ticker;
@@ -195,7 +202,7 @@ void ScrollManage::Private::apply() {
 }
 
 void ScrollManage::Private::tick() {
-    if (!area) {
+    if (!exists()) {
         ticker.stop();
         return;
     }
@@ -218,7 +225,7 @@ void ScrollManage::Private::stop() {
 }
 
 ScrollManage::ScrollManage(QScrollArea *area, bool vertical, bool horizontal) : QObject(area), d(new Private) {
-    d->area = area;
+    d->areaObject = area;
     d->vertical.enabled = vertical;
     d->horizontal.enabled = horizontal;
     d->ticker.setTimerType(Qt::PreciseTimer);
@@ -234,7 +241,7 @@ ScrollManage::~ScrollManage() {
 }
 
 bool ScrollManage::eventFilter(QObject *watched, QEvent *event) {
-    if (!d->area || d->sending) {
+    if (d->sending || !d->exists()) {
         return false;
     }
     switch (event->type()) {

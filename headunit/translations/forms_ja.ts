@@ -272,5 +272,49 @@
         <source>EQ</source>
         <translation>EQ</translation>
     </message>
+    <message>
+        <source>Custom</source>
+        <translation>カスタム</translation>
+    </message>
+    <message>
+        <source>32Hz</source>
+        <translation>32 Hz</translation>
+    </message>
+    <message>
+        <source>63Hz</source>
+        <translation>63 Hz</translation>
+    </message>
+    <message>
+        <source>125Hz</source>
+        <translation>125 Hz</translation>
+    </message>
+    <message>
+        <source>250Hz</source>
+        <translation>250 Hz</translation>
+    </message>
+    <message>
+        <source>500Hz</source>
+        <translation>500 Hz</translation>
+    </message>
+    <message>
+        <source>1KHz</source>
+        <translation>1 kHz</translation>
+    </message>
+    <message>
+        <source>2KHz</source>
+        <translation>2 kHz</translation>
+    </message>
+    <message>
+        <source>4KHz</source>
+        <translation>4 kHz</translation>
+    </message>
+    <message>
+        <source>8KHz</source>
+        <translation>8 kHz</translation>
+    </message>
+    <message>
+        <source>16KHz</source>
+        <translation>16 kHz</translation>
+    </message>
 </context>
 </TS>

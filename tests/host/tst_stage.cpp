@@ -133,6 +133,13 @@ void TestStage::opensAgain() {
     m_stage->open(m_a.data());
     QCOMPARE(g_calls, QStringList({"a onCreate", "a onShow", "a onEnter shown"}));
     QCOMPARE(m_a->m_widget.data(), widget);
+    // Above whatever came onto the stage meanwhile.
+    m_stage->leave();
+    QWidget other(m_screen.data());
+    other.setGeometry(m_screen->rect());
+    other.show();
+    m_stage->open(m_a.data());
+    QCOMPARE(m_screen->childAt(10, 10), widget);
 }
 
 void TestStage::changesOver() {

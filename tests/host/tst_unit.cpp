@@ -333,6 +333,8 @@ void TestUnit::levelOverlayGoesByItself() {
     press(KeyEvent::VolumeUp);
     time->advance(headunit::LevelOverlay::showMilliseconds - 1);
     QVERIFY(shows("level_overlay"));
+    // A finger goes through it.
+    QCOMPARE(m_screen->childAt(child("level_overlay")->geometry().center()), child("home"));
     time->advance(1);
     QVERIFY(!shows("level_overlay"));
     // It stays on top of an application that is opened meanwhile.

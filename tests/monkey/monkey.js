@@ -49,10 +49,23 @@ function tapSomewhere() {
     tap(at[0], at[1]);
 }
 
+// What leads from page to page.
+var roads = ["left_widget/key_general", "left_widget/key_eq", "left_widget/key_crossover", "left_widget/key_timing",
+             "left_widget/key_factoryeq", "key_advanced", "Key_001_loudness", "Key_003_source_gain",
+             "Key_004_vol_settings", "Key_005_res_audio", "Key_accept", "Key_Reject", "top_widget/Key_update",
+             "key_return"];
+function tapRoad() {
+    try {
+        tap(oneOf(roads));
+    } catch (error) {
+        // Not on this page, or covered.
+    }
+}
+
 // Most touches of a driver go to keys, not between them.
 function tapKey() {
     var columns = [68, 116, 200, 246, 330, 430, 512, 620, 730, 838, 956];
-    var rows = [68, 166, 256, 302, 346, 430, 462, 540, 570];
+    var rows = [166, 256, 302, 346, 430, 462, 540, 570];
     tap(oneOf(columns), oneOf(rows));
 }
 
@@ -119,10 +132,21 @@ function pause() {
 }
 
 // Likelihoods in per mille; what remains is taps on keys.
-var habits = [[250, tapSomewhere], [140, dragSomewhere], [60, holdSomewhere], [30, interrupted], [40, hardKey],
-              [20, outsideVolume], [15, outsideRequest], [10, outsideLanguage], [8, outsideCall], [8, outsideSource],
-              [15, openAgain], [6, spoilStore], [60, pause]];
+var habits = [[200, tapSomewhere], [120, dragSomewhere], [60, holdSomewhere], [30, interrupted], [40, hardKey],
+              [20, outsideVolume], [8, outsideRequest], [10, outsideLanguage], [8, outsideCall], [8, outsideSource],
+              [10, openAgain], [6, spoilStore], [60, pause],
+              [180, tapRoad]];
 function step() {
+    // The monkey soon finds the way back from wherever it got out.
+    if (!shown("key_return") && random() < 0.4) {
+        call(false);
+        openAgain();
+    }
+    // From the two pages without tabs only Back leads on.
+    if (shown("scrollArea") && random() < 0.06) {
+        tap("key_return");
+    }
+    wait(pick(200));
     var die = pick(1000);
     for (var i = 0; i < habits.length; ++i) {
         die -= habits[i][0];

@@ -398,7 +398,8 @@ void tst_SettingsFile::quickCopy() {
     if (!file.isEmpty()) {
         put(path(), file);
     }
-    put(path() + ".quick", quick);
+    put(path() + ".quick-0", quick);
+    put(path() + ".quick-1", settingsToText({{}, 1}));
     Snapshot state;
     QString problem;
     SettingsFile settings(path());
@@ -406,10 +407,15 @@ void tst_SettingsFile::quickCopy() {
     QCOMPARE(problem, QString());
     QTEST(int(state.number), "number");
     QTEST(settings.isBehind(), "behind");
+    // Saves take both slots in turn; longer text leaves nothing behind a shorter one.
+    QVERIFY(settings.saveQuickly(newer));
     QVERIFY(settings.saveQuickly(newest));
-    QCOMPARE(get(path() + ".quick"), settingsToText(newest));
-    settings.dropQuickCopy();
-    QVERIFY(!QFile::exists(path() + ".quick"));
+    QVERIFY(settings.saveQuickly(older));
+    QCOMPARE(get(path() + ".quick-1"), settingsToText(older));
+    QCOMPARE(get(path() + ".quick-0"), settingsToText(newest));
+    settings.dropQuickCopies();
+    QVERIFY(!QFile::exists(path() + ".quick-0"));
+    QVERIFY(!QFile::exists(path() + ".quick-1"));
 }
 
 void tst_SettingsFile::peekTouchesNothing() {

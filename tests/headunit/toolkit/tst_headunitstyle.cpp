@@ -2,7 +2,9 @@
 #include "unittest.h"
 
 #include <QLabel>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyleOptionFocusRect>
 
 namespace {
 
@@ -122,6 +124,20 @@ private slots:
         QApplication::setActiveWindow(screen);
         QVERIFY(key->hasFocus());
         QCOMPARE(shown(), before);
+    }
+
+    void noFocusFrameAnywhere() {
+        QImage image(72, 72, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        const QImage empty = image;
+        QStyleOptionFocusRect option;
+        option.initFrom(key);
+        option.rect = image.rect();
+        option.state |= QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+        QPainter painter(&image);
+        QApplication::style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, key);
+        painter.end();
+        QCOMPARE(image, empty);
     }
 
     void iconIsCentredAtItsOwnSize() {

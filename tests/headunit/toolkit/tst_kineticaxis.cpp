@@ -124,6 +124,16 @@ private slots:
         QCOMPARE(axis.position(), 0.0);
     }
 
+    void fingerThatPullsBeyondTheEndDoesNotThrowFurther() {
+        KineticAxis axis;
+        axis.setMax(1000);
+        flick(axis, 10, 20, 5);
+        const double released = axis.overshoot();
+        QVERIFY(released < -20);
+        axis.tick();
+        QVERIFY(axis.overshoot() > released);
+    }
+
     void flickIntoTheEndRestsAtTheEnd_data() {
         QTest::addColumn<double>("from");
         QTest::addColumn<double>("step");

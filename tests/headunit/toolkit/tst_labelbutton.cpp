@@ -121,8 +121,8 @@ private slots:
     }
 
     void releaseOutsideWithoutMoveIsNoClick() {
-        finger::press(button, QPoint(20, 20));
-        finger::release(button, QPoint(20, 90));
+        QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
+        QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, QPoint(20, 90));
         QCOMPARE(log, QStringList());
     }
 

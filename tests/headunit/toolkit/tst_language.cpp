@@ -70,10 +70,13 @@ QStringList fixedParts(const QString &text) {
     return parts;
 }
 
+/// Counts what its one object is told.
 struct LanguageChanges : public QObject {
+    explicit LanguageChanges(QObject *object) : watchedObject(object) { object->installEventFilter(this); }
+    QObject *const watchedObject;
     int count = 0;
-    bool eventFilter(QObject *, QEvent *event) override {
-        count += event->type() == QEvent::LanguageChange;
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        count += watched == watchedObject && event->type() == QEvent::LanguageChange;
         return false;
     }
 };
@@ -99,8 +102,8 @@ private slots:
     void switchIsOneEvent() {
         QWidget page;
         QLabel label(&page);
-        LanguageChanges changes;
-        label.installEventFilter(&changes);
+        LanguageChanges changes(&label);
+        LanguageChanges applicationChanges(qApp);
         QVERIFY(Language::set("fr"));
         advance(0);
         QCOMPARE(changes.count, 1);
@@ -111,17 +114,16 @@ private slots:
         QVERIFY(Language::set("en"));
         advance(0);
         QCOMPARE(changes.count, 2);
+        QCOMPARE(applicationChanges.count, 2);
     }
 
     void unknownLanguageChangesNothing() {
         QVERIFY(Language::set("es"));
-        LanguageChanges changes;
-        qApp->installEventFilter(&changes);
+        LanguageChanges changes(qApp);
         for (const char *code : {"", "xx", "DE", "de_DE", "../en"}) {
             QVERIFY(!Language::set(code));
         }
         advance(0);
-        qApp->removeEventFilter(&changes);
         QCOMPARE(changes.count, 0);
         QCOMPARE(Language::current(), QString("es"));
         QCOMPARE(Language::text(1074), QString("Apagado"));

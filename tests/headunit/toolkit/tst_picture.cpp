@@ -38,6 +38,7 @@ private slots:
     void missingPictureIsNull() {
         QVERIFY(headunit::loadPicture(":/test/missing.xpm").isNull());
         QVERIFY(headunit::loadPicture(QString()).isNull());
+        QCOMPARE(headunit::pictureSize(QPixmap()), QSize(0, 0));
     }
 };
 

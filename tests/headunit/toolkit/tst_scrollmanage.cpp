@@ -5,6 +5,7 @@
 #include "unittest.h"
 
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
@@ -276,6 +277,7 @@ private slots:
         const QPoint at = slider->mapTo(screen, slider->rect().center());
         press(at);
         const int caught = position();
+        move(at + QPoint(100, -30));
         move(at + QPoint(100, -60));
         release(at + QPoint(100, -60));
         QVERIFY(atRest());
@@ -354,17 +356,62 @@ private slots:
     }
 
     void timersRestWhileNothingMoves() {
-        const auto running = [this] {
-            int count = 0;
-            for (QObject *object : QList<QObject *>{manage} + manage->children()) {
-                count += headunit::VirtualTime::instance()->registeredTimers(object).size();
+        struct Watcher : public QObject {
+            int timeouts = 0;
+            bool eventFilter(QObject *, QEvent *event) override {
+                timeouts += event->type() == QEvent::Timer;
+                return false;
             }
-            return count;
-        };
-        QCOMPARE(running(), 0);
+        } watcher;
+        qApp->installEventFilter(&watcher);
+        advance(1000);
+        QCOMPARE(watcher.timeouts, 0);
         flick(QPoint(20, 400), QPoint(0, -20), 8);
+        QVERIFY(watcher.timeouts >= 6);
         advance(10000);
-        QCOMPARE(running(), 0);
+        watcher.timeouts = 0;
+        advance(1000);
+        QCOMPARE(watcher.timeouts, 0);
+        press(QPoint(20, 200));
+        move(QPoint(20, 100));
+        advance(500);
+        release(QPoint(20, 100));
+        watcher.timeouts = 0;
+        advance(1000);
+        QCOMPARE(watcher.timeouts, 0);
+        qApp->removeEventFilter(&watcher);
+    }
+
+    void touchedWidgetSeesAWholePress() {
+        // A widget of any kind: the finger comes, leaves, and is lifted when it really is.
+        struct Probe : public QWidget {
+            explicit Probe(QWidget *parent) : QWidget(parent) {}
+            QStringList seen;
+            void note(const char *what, const QMouseEvent *event) {
+                seen << QString("%1 %2").arg(what, rect().contains(event->pos()) ? "inside" : "outside");
+            }
+            void mousePressEvent(QMouseEvent *event) override { note("press", event); }
+            void mouseMoveEvent(QMouseEvent *event) override { note("move", event); }
+            void mouseReleaseEvent(QMouseEvent *event) override { note("release", event); }
+        };
+        Probe probe(content);
+        probe.setGeometry(0, 500, 100, 100);
+        probe.show();
+        area->verticalScrollBar()->setValue(300);
+        const QPoint at = probe.mapTo(screen, QPoint(50, 50));
+        press(at);
+        move(at - QPoint(0, 20));
+        move(at - QPoint(0, 25));
+        move(at);
+        QCOMPARE(probe.seen, (QStringList{"press inside", "move outside"}));
+        release(at);
+        QCOMPARE(probe.seen, (QStringList{"press inside", "move outside", "release outside"}));
+        advance(1000);
+        probe.seen.clear();
+        press(at);
+        move(at + QPoint(5, 5));
+        release(at + QPoint(5, 5));
+        QCOMPARE(probe.seen, (QStringList{"press inside", "move inside", "release inside"}));
     }
 
     void nothingToScrollIsHarmless() {
