@@ -13,14 +13,26 @@
 
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include <memory>
 
 namespace {
 
+// Opaque for the whole screen; a round key for the rest, see-through at its edges as the product's pictures are.
 QPixmap readyPixmap(int width, int height) {
     QPixmap pixmap(width, height);
     pixmap.fill(Qt::darkBlue);
+    return pixmap;
+}
+
+QPixmap readyKey() {
+    QPixmap pixmap(72, 72);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::darkBlue);
+    painter.drawEllipse(pixmap.rect().adjusted(1, 1, -1, -1));
     return pixmap;
 }
 
@@ -57,7 +69,7 @@ void first(int labels) {
 void switchPages(int steps, int labelsA, int labelsB) {
     QWidget window;
     window.setFixedSize(bench::screen);
-    const QPixmap pixmap = readyPixmap(72, 72);
+    const QPixmap pixmap = readyKey();
     QWidget *const pages[] = {page(&window, labelsA, pixmap), page(&window, labelsB, pixmap)};
     bench::showAndPaint(&window);
     for (int i = 0; i < steps; ++i) {
@@ -72,7 +84,7 @@ class DragFloor : public QWidget {
 public:
     DragFloor() : m_label(new QLabel(this)) {
         setFixedSize(bench::screen);
-        m_label->setPixmap(readyPixmap(72, 72));
+        m_label->setPixmap(readyKey());
         m_label->resize(72, 72);
     }
 
