@@ -7,6 +7,8 @@ function(audiosetting_plugin_begin)
         CXX_STANDARD 11 AUTOMOC ON AUTOUIC ON AUTOUIC_SEARCH_PATHS ${CMAKE_SOURCE_DIR}/forms
         CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
     target_include_directories(audiosetting_objects PUBLIC ${CMAKE_SOURCE_DIR})
+    # Written for Qt 5.3: what later releases call deprecated is all that it has.
+    target_compile_definitions(audiosetting_objects PRIVATE QT_NO_DEPRECATED_WARNINGS)
     target_link_libraries(audiosetting_objects PUBLIC headunit_contract Qt5::Core Qt5::Gui Qt5::Widgets)
 endfunction()
 
