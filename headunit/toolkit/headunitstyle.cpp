@@ -76,6 +76,15 @@ void HeadUnitStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
     }
 }
 
+void HeadUnitStyle::drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette, bool enabled,
+                                 const QString &text, QPalette::ColorRole role) const {
+    if (painter->transform().type() > QTransform::TxTranslate) {
+        QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+        return;
+    }
+    m_texts.draw(painter, rect, flags, text, role == QPalette::NoRole ? painter->pen().color() : palette.color(role));
+}
+
 int HeadUnitStyle::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const {
     switch (metric) {
         case PM_ButtonShiftHorizontal:

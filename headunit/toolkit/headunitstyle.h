@@ -1,5 +1,6 @@
 #pragma once
 
+#include "headunit/toolkit/textpictures.h"
 #include "platformapi.h"
 
 #include <QProxyStyle>
@@ -18,6 +19,8 @@ public:
                      const QWidget *widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
+    void drawItemText(QPainter *painter, const QRect &rect, int flags, const QPalette &palette, bool enabled,
+                      const QString &text, QPalette::ColorRole role) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override;
@@ -29,6 +32,8 @@ public:
 
 private:
     void drawPushButton(const QStyleOptionButton &button, QPainter *painter, const QWidget *widget) const;
+
+    mutable TextPictures m_texts;
 };
 
 }  // namespace headunit

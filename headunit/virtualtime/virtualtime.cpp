@@ -212,11 +212,8 @@ void VirtualTime::wakeUp() {
 }
 
 void VirtualTime::interrupt() {
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_interrupted = true;
-    }
-    m_condition.notify_all();
+    m_interrupted = true;
+    wakeUp();  // also for a loop that is only about to wait
 }
 
 }  // namespace headunit

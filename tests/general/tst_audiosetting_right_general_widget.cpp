@@ -331,6 +331,19 @@ private slots:
         QVERIFY(!g.pad->isEnabled());
     }
 
+    void defeatIsAppliedLast() {
+        General g;
+        recording::setLogged(recording::Reads);
+        for (int round = 0; round < 2; ++round) {  // on, off
+            g.tap("key_defeat");
+            const QStringList calls = recording::take();
+            QCOMPARE(calls.last(), QStringLiteral("updateDefeatSetup()"));
+            // Before it the page has read the state that it shows.
+            QVERIFY(calls.at(calls.size() - 2).startsWith(QStringLiteral("getValue(")));
+            QCOMPARE(calls.count(QStringLiteral("updateDefeatSetup()")), 1);
+        }
+    }
+
     void defeatedPadAndKeysTakeNoTouch() {
         recording::setStored("ADV_AUDIO_SETTINGS", 1);
         General g;

@@ -48,6 +48,44 @@ for (var i = 0; i < tabs.length; ++i) {
     shot(tabs[i][1] + ".png", tabs[i][2]);
 }
 
+use("key_crossover");
+for (i = 0; i < 6; ++i) {
+    use("key_freq_plus");
+}
+use("key_slope_plus");
+use("key_rear");
+use("key_freq_plus");
+use("key_freq_plus");
+use("key_level_minus");
+use("key_level_minus");
+use("key_sub");
+for (i = 0; i < 4; ++i) {
+    use("key_freq_plus");
+    use("key_level_minus");
+}
+use("key_slope_minus");
+press("key_preset_1");
+wait(1600);
+release();
+settle();
+shot("crossover_set.png", "Crossover, three filters, kept as preset 1");
+use("Key_update");
+use("key_timing");
+press("key_fl_plus");
+wait(4000);
+release();
+use("key_rr_plus");
+press("key_preset_2");
+wait(1600);
+release();
+settle();
+shot("timing_set.png", "Timing, kept as preset 2");
+use("key_inches");
+settle();
+shot("timing_inches.png", "Timing in inches");
+use("key_msec");
+use("Key_update");
+
 press("key_hiphop");
 shot("factoryeq_pressed.png", "Factory EQ, Hip Hop pressed");
 release();

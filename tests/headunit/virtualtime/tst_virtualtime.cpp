@@ -284,6 +284,25 @@ private slots:
         other.join();
     }
 
+    void endComesThroughWheneverItIsAsked() {
+        // The other thread asks at any moment once the loop runs, also when it is only about to wait.
+        for (int i = 0; i < 2000; ++i) {
+            QEventLoop loop;
+            std::atomic<bool> runs{false};
+            Receiver receiver;
+            receiver.onEvent = [&] { runs = true; };
+            QCoreApplication::postEvent(&receiver, new QEvent(QEvent::User));
+            std::thread other([&] {
+                while (!runs) {
+                }
+                loop.exit(i);
+            });
+            const int code = loop.exec();
+            other.join();
+            QCOMPARE(code, i);
+        }
+    }
+
     void otherThreadsKeepTheirOwnTime() {
         QThread thread;
         thread.start();
