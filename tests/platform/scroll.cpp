@@ -81,7 +81,10 @@ ScrollManage::~ScrollManage() {
 }
 
 bool ScrollManage::eventFilter(QObject *watched, QEvent *event) {
-    if (!d->area || isSlider(watched)) {
+    const bool touch = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove ||
+                       event->type() == QEvent::MouseButtonRelease;
+    // Other events also come while the area is being destroyed.
+    if (!touch || !d->area || isSlider(watched)) {
         return false;
     }
     QScrollBar *const down = d->area->verticalScrollBar();
