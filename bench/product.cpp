@@ -3,11 +3,13 @@
 //   product count PAGE               prints how many widgets the page shows
 //   product switch STEPS PAGE PAGE   the two pages shown in turn
 //   product drag STEPS pad           a finger that draws over the balance/fader pad
+//   product drag STEPS eq            a finger on a slider of the EQ page
 //   product drag STEPS slider        a finger on a slider of Volume Settings
 //   product drag STEPS scroll        a finger that scrolls Volume Settings
+//   product repeat STEPS             the plus keys of the Timing page, each held for a while
 //   product reset STEPS              whole resets: the dialog, the reset, the settings root again
 //
-// Pages: general, root, volume, gain, reset.
+// Pages: general, eq, crossover, timing, factoryeq, root, volume, gain, reset.
 
 #include "appplugin.h"
 #include "benchtools.h"
@@ -21,6 +23,7 @@
 #include <QLoggingCategory>
 #include <QPluginLoader>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -29,12 +32,17 @@ namespace {
 
 struct Page {
     const char *name;
-    const char *slot;  ///< of the container, that shows the page
+    const char *slot;  ///< of the container, that shows the page; with a tab, it takes the tab's number
     const char *area;  ///< the widget that holds what it shows
+    int tab = -1;
 };
 
 const Page pages[] = {
-    {"general", "onBackClicked", "right_widget"},
+    {"general", "onPageChanged", "right_widget", 0},
+    {"eq", "onPageChanged", "right_widget", 1},
+    {"crossover", "onPageChanged", "right_widget", 2},
+    {"timing", "onPageChanged", "right_widget", 3},
+    {"factoryeq", "onPageChanged", "right_widget", 4},
     {"root", "onAdvancedChanged", "right_widget"},
     {"volume", "onShowAudioSettings", "Audiovolumsettings"},
     {"gain", "onShowSourceGain", "Audiosourcegainsettings"},
@@ -68,7 +76,12 @@ public:
     }
 
     void show(const QString &page) {
-        QMetaObject::invokeMethod(m_container, pageOf(page).slot);
+        const Page &row = pageOf(page);
+        if (row.tab >= 0) {
+            QMetaObject::invokeMethod(m_container, row.slot, Q_ARG(int, row.tab));
+        } else {
+            QMetaObject::invokeMethod(m_container, row.slot);
+        }
         bench::settle();
     }
 
@@ -101,6 +114,18 @@ public:
         }
     }
 
+    /// The first band of the EQ page, from the top to the bottom; every eighth step sends the curve.
+    void dragEq(int steps) {
+        show(QStringLiteral("eq"));
+        QWidget *first = nullptr;
+        for (QWidget *child : m_widget->findChildren<QWidget *>()) {
+            if (!first && child->inherits("cm::SliderBarWidget")) {
+                first = child;
+            }
+        }
+        bench::drag(first, first->rect(), steps, Qt::Vertical, [this] { m_app.time().advance(bench::touchInterval); });
+    }
+
     /// The first slider of Volume Settings, over the way of its knob.
     void dragSlider(int steps) {
         show(QStringLiteral("volume"));
@@ -111,8 +136,29 @@ public:
     void scroll(int steps) {
         show(QStringLiteral("volume"));
         // The viewport stays where it is while the rows move under the finger.
-        auto *viewport = m_widget->findChild<QScrollArea *>()->viewport();
+        auto *area = m_widget->findChild<QScrollArea *>();
+        area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
+        auto *viewport = area->viewport();
         bench::drag(viewport, QRect(40, 20, 200, 400), steps, Qt::Vertical);
+    }
+
+    /// A key is left before it reaches the end of its range.
+    void repeat(int steps) {
+        show(QStringLiteral("timing"));
+        const char *const keys[] = {"key_fl_plus", "key_fr_plus", "key_rl_plus", "key_rr_plus"};
+        QWidget *key = nullptr;
+        for (int i = 0; i < steps; ++i) {
+            if (i % stepsOfAKey == 0) {
+                if (key) {
+                    bench::sendMouse(key, QEvent::MouseButtonRelease, key->rect().center());
+                }
+                key = m_widget->findChild<QWidget *>(QLatin1String(keys[i / stepsOfAKey % 4]));
+                bench::sendMouse(key, QEvent::MouseButtonPress, key->rect().center());
+                m_app.time().advance(repeatDelay - repeatInterval);
+            }
+            m_app.time().advance(repeatInterval);
+            bench::settle();
+        }
     }
 
     void reset(int steps) {
@@ -127,7 +173,10 @@ public:
     }
 
 private:
-    static constexpr int resetTime = 2500;  // ms
+    static constexpr int resetTime = 2500;      // ms
+    static constexpr int repeatDelay = 1000;    // ms
+    static constexpr int repeatInterval = 200;  // ms
+    static constexpr int stepsOfAKey = 60;
 
     bench::Application &m_app;
     QPluginLoader m_loader;
@@ -146,6 +195,8 @@ int main(int argc, char **argv) {
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     headunit::openSettings();
     headunit::setUpUnitApplication();
+    // As in the host, which writes debug lines only when it is asked to.
+    QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);
     const QStringList args = app.arguments().mid(1);
 
     Product product(app);
@@ -155,15 +206,20 @@ int main(int argc, char **argv) {
         product.switchPages(args.value(1).toInt(), args.value(2), args.value(3));
     } else if (args.value(0) == QLatin1String("drag") && args.value(2) == QLatin1String("pad")) {
         product.dragPad(args.value(1).toInt());
+    } else if (args.value(0) == QLatin1String("drag") && args.value(2) == QLatin1String("eq")) {
+        product.dragEq(args.value(1).toInt());
     } else if (args.value(0) == QLatin1String("drag") && args.value(2) == QLatin1String("slider")) {
         product.dragSlider(args.value(1).toInt());
     } else if (args.value(0) == QLatin1String("drag") && args.value(2) == QLatin1String("scroll")) {
         product.scroll(args.value(1).toInt());
+    } else if (args.value(0) == QLatin1String("repeat")) {
+        product.repeat(args.value(1).toInt());
     } else if (args.value(0) == QLatin1String("reset")) {
         product.reset(args.value(1).toInt());
     } else {
         qCritical(
-            "product count PAGE | product switch STEPS PAGE PAGE | product drag STEPS pad|slider|scroll | "
+            "product count PAGE | product switch STEPS PAGE PAGE | product drag STEPS pad|eq|slider|scroll | product "
+            "repeat STEPS | "
             "product reset STEPS");
         return 2;
     }

@@ -6,6 +6,8 @@ function(audiosetting_plugin_begin)
     set_target_properties(audiosetting_objects PROPERTIES
         CXX_STANDARD 11 AUTOMOC ON
         CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+    # Written for Qt 5.3: what later releases call deprecated is all that it has.
+    target_compile_definitions(audiosetting_objects PRIVATE QT_NO_DEPRECATED_WARNINGS)
     target_include_directories(audiosetting_objects PUBLIC ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/forms)
     target_link_libraries(audiosetting_objects PUBLIC headunit_contract Qt5::Core Qt5::Gui Qt5::Widgets)
 

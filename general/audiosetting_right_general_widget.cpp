@@ -48,6 +48,9 @@ void Audiosetting_right_general_widget::initUi() {
 
     m_pad = new settings::balanceFaderControl(m_ui->balancefader_bg->parentWidget(), m_ui->balancefader_bg->geometry());
     connect(m_pad, SIGNAL(balanceFaderChanged(int, int)), this, SLOT(onUpdate(int, int)));
+    // They only mark where the pad goes.
+    m_ui->frame->hide();
+    m_ui->balancefader_bg->hide();
 
     // The key spans the row, its caption lies over it.
     m_ui->text_Advanced->setAttribute(Qt::WA_TransparentForMouseEvents);

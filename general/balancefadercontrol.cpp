@@ -1,6 +1,7 @@
 #include "balancefadercontrol.h"
 
 #include "audioservice.h"
+#include "plugin/ground.h"
 #include "resources/picture.h"
 
 #include <QMouseEvent>
@@ -115,7 +116,7 @@ void balanceFaderControl::setHlineY(int y) {
 void balanceFaderControl::moveMarker(const QPoint &topLeft) {
     const QRect before = markerRect();
     m_markerPos = topLeft;
-    update(QRegion(before) | markerRect());
+    update(before | markerRect());
 }
 
 QRect balanceFaderControl::markerRect() const {
@@ -125,11 +126,16 @@ QRect balanceFaderControl::markerRect() const {
 const QPixmap &balanceFaderControl::still() {
     const qreal ratio = devicePixelRatio();
     if (m_still.size() != size() * ratio) {
-        m_still = QPixmap(size() * ratio);
-        m_still.setDevicePixelRatio(ratio);
-        m_still.fill(Qt::transparent);
+        m_still = audiosetting::groundBehind(this);
+        if (m_still.isNull()) {
+            m_still = QPixmap(size() * ratio);
+            m_still.setDevicePixelRatio(ratio);
+            m_still.fill(Qt::transparent);
+        }
+        setAttribute(Qt::WA_OpaquePaintEvent, !m_still.hasAlphaChannel());
         QPainter painter(&m_still);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setOpacity(opacity());
         painter.drawPixmap(rect(), m_background);
         painter.drawPixmap(m_horizontalLinePos, m_horizontalLine);
         painter.drawPixmap(m_verticalLinePos, m_verticalLine);
@@ -137,11 +143,22 @@ const QPixmap &balanceFaderControl::still() {
     return m_still;
 }
 
+qreal balanceFaderControl::opacity() const {
+    return isEnabled() ? 1 : disabledOpacity;
+}
+
 void balanceFaderControl::updateLabel() {
     QPainter painter(this);
-    painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
     painter.drawPixmap(0, 0, still());
+    painter.setOpacity(opacity());
     painter.drawPixmap(m_markerPos, m_marker);
+}
+
+void balanceFaderControl::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::EnabledChange) {
+        m_still = QPixmap();
+    }
+    QLabel::changeEvent(event);
 }
 
 void balanceFaderControl::paintEvent(QPaintEvent *) {

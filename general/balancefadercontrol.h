@@ -44,6 +44,7 @@ public Q_SLOTS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -53,6 +54,7 @@ private:
     void moveMarker(const QPoint &topLeft);
     QRect markerRect() const;
     const QPixmap &still();
+    qreal opacity() const;
 
     QPixmap m_background;
     QPixmap m_verticalLine;
@@ -66,7 +68,7 @@ private:
     QPoint m_horizontalLinePos;
     QPoint m_markerPos;
     QTimer m_dragTimer;
-    QPixmap m_still;  ///< background and lines, composed once: a drag then costs one marker
+    QPixmap m_still;  ///< ground, background and lines, composed once: a drag then costs one marker
 };
 
 }  // namespace settings

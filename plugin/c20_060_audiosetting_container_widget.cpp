@@ -30,17 +30,24 @@ c20_060_audiosetting_container_widget::c20_060_audiosetting_container_widget(QWi
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+void c20_060_audiosetting_container_widget::paintGround(QPainter *painter, const QRect &rect) const {
+    const qreal ratio = m_ground.devicePixelRatio();
+    const int height = qMin(int(m_ground.height() / ratio), rect.bottom() + 1) - rect.top();
+    for (int x = rect.left(); x <= rect.right();) {
+        const int column = x % groundColumns;
+        const int width = qMin(groundColumns - column, rect.right() + 1 - x);
+        const QRectF source(QPointF(column, rect.top()) * ratio, QSizeF(width, height) * ratio);
+        painter->drawPixmap(QRectF(x, rect.top(), width, height), m_ground, source);
+        x += width;
+    }
+}
+
 void c20_060_audiosetting_container_widget::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
-    const QRect dirty = event->rect();
-    const int height = qMin(int(m_ground.height() / m_ground.devicePixelRatio()), dirty.bottom() + 1) - dirty.top();
-    for (int x = dirty.left(); x <= dirty.right();) {
-        const int column = x % groundColumns;
-        const int width = qMin(groundColumns - column, dirty.right() + 1 - x);
-        painter.drawPixmap(QRect(x, dirty.top(), width, height), m_ground,
-                           QRectF(QPointF(column, dirty.top()) * m_ground.devicePixelRatio(),
-                                  QSizeF(width, height) * m_ground.devicePixelRatio())
-                               .toRect());
-        x += width;
+    // Piece by piece, each within a plain rectangle: Qt then copies whole lines instead of testing spans of them.
+    const QVector<QRect> pieces = event->region().rects();
+    for (const QRect &piece : pieces) {
+        painter.setClipRect(piece);
+        paintGround(&painter, piece);
     }
 }

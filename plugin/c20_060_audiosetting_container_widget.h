@@ -15,6 +15,9 @@ public:
     /// \a form stays the caller's and must live as long as this widget.
     c20_060_audiosetting_container_widget(QWidget *parent, Ui::c20_060_setup_container *form);
 
+    /// Paints the ground of \a rect, in this widget's coordinates.
+    void paintGround(QPainter *painter, const QRect &rect) const;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 

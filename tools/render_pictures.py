@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Renders one picture family: an SVG source in several states and sizes, at 1:1 and at 2:1.
 
-The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: stored (large ones deflated),
-unfiltered, without colour chunks, RGB where nothing is transparent. The same sources give the same bytes on every run.
+The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: unfiltered, stored but for those
+that shrink to almost nothing, without colour chunks, RGB where nothing is transparent. The same sources give the same
+bytes on every run.
 """
 
 import argparse
@@ -15,8 +16,8 @@ import sys
 import zlib
 
 DENSITIES = ((1, ""), (2, "@2x"))
-# Pictures above this are deflated: few are so large, all are mostly empty, and together they would be most of the file.
-STORED_AT_MOST = 1 << 20  # bytes
+# Pictures that shrink at least so much are deflated: inflating long runs costs less than summing every stored byte.
+WORTH_DEFLATING = 16
 
 
 class Failure(Exception):
@@ -91,6 +92,9 @@ class Renderer:
             raise Failure(error.contents.message.decode().strip() if error else "the renderer failed without a reason")
 
 
+TRANSLUCENT = re.compile(rb"[^\x00\xff]+")  # alpha values between nothing and opaque
+
+
 @functools.lru_cache(maxsize=None)
 def straight(alpha):
     """Table from premultiplied to straight colour bytes."""
@@ -101,9 +105,9 @@ def channels(bgra):
     """Straight red, green, blue and alpha planes of premultiplied BGRA."""
     planes = [bytearray(bgra[offset::4]) for offset in (2, 1, 0, 3)]
     red, green, blue, alpha = planes
-    for i, a in enumerate(alpha):
-        if 0 < a < 255:
-            table = straight(a)
+    for run in TRANSLUCENT.finditer(alpha):
+        for i in range(*run.span()):
+            table = straight(alpha[i])
             red[i], green[i], blue[i] = table[red[i]], table[green[i]], table[blue[i]]
     return planes
 
@@ -122,7 +126,9 @@ def png(bgra, width, height):
         return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
 
     header = struct.pack(">IIBBBBB", width, height, 8, 2 if opaque else 6, 0, 0, 0)
-    data = zlib.compress(raw, 0 if len(raw) <= STORED_AT_MOST else 9)
+    data = zlib.compress(raw, 1)
+    if len(data) * WORTH_DEFLATING > len(raw):
+        data = zlib.compress(raw, 0)
     return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", data) + chunk(b"IEND", b"")
 
 

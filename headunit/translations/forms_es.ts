@@ -70,23 +70,23 @@
     </message>
     <message>
         <source>Preset1</source>
-        <translation>Preajuste 1</translation>
+        <translation>Ajuste 1</translation>
     </message>
     <message>
         <source>Preset2</source>
-        <translation>Preajuste 2</translation>
+        <translation>Ajuste 2</translation>
     </message>
     <message>
         <source>Preset3</source>
-        <translation>Preajuste 3</translation>
+        <translation>Ajuste 3</translation>
     </message>
     <message>
         <source>Preset4</source>
-        <translation>Preajuste 4</translation>
+        <translation>Ajuste 4</translation>
     </message>
     <message>
         <source>Preset5</source>
-        <translation>Preajuste 5</translation>
+        <translation>Ajuste 5</translation>
     </message>
 </context>
 <context>

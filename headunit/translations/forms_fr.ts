@@ -70,23 +70,23 @@
     </message>
     <message>
         <source>Preset1</source>
-        <translation>Préréglage 1</translation>
+        <translation>Perso 1</translation>
     </message>
     <message>
         <source>Preset2</source>
-        <translation>Préréglage 2</translation>
+        <translation>Perso 2</translation>
     </message>
     <message>
         <source>Preset3</source>
-        <translation>Préréglage 3</translation>
+        <translation>Perso 3</translation>
     </message>
     <message>
         <source>Preset4</source>
-        <translation>Préréglage 4</translation>
+        <translation>Perso 4</translation>
     </message>
     <message>
         <source>Preset5</source>
-        <translation>Préréglage 5</translation>
+        <translation>Perso 5</translation>
     </message>
 </context>
 <context>

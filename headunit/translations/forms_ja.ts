@@ -70,23 +70,23 @@
     </message>
     <message>
         <source>Preset1</source>
-        <translation>プリセット1</translation>
+        <translation>ユーザー1</translation>
     </message>
     <message>
         <source>Preset2</source>
-        <translation>プリセット2</translation>
+        <translation>ユーザー2</translation>
     </message>
     <message>
         <source>Preset3</source>
-        <translation>プリセット3</translation>
+        <translation>ユーザー3</translation>
     </message>
     <message>
         <source>Preset4</source>
-        <translation>プリセット4</translation>
+        <translation>ユーザー4</translation>
     </message>
     <message>
         <source>Preset5</source>
-        <translation>プリセット5</translation>
+        <translation>ユーザー5</translation>
     </message>
 </context>
 <context>

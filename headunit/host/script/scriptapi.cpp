@@ -14,28 +14,12 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
-
-QT_BEGIN_NAMESPACE
-// Delivers a mouse event to a window the way the window system does, so that it takes the road of a real one.
-Q_GUI_EXPORT void qt_handleMouseEvent(QWindow *window, const QPointF &local, const QPointF &global,
-                                      Qt::MouseButtons state, Qt::MouseButton button, QEvent::Type type,
-                                      Qt::KeyboardModifiers mods, int timestamp);
-QT_END_NAMESPACE
 
 namespace headunit {
 
-namespace {
-
-// A finger as a touch screen reports it: a position each 16 ms, at most so far from the one before.
-constexpr int moveInterval = 16;
-constexpr double moveStep = 8;
-
-}  // namespace
-
 ScriptApi::ScriptApi(ScriptTarget &target, QJSEngine *engine, const QString &folder)
-    : QObject(engine), m_target(target), m_engine(engine), m_folder(folder) {}
+    : QObject(engine), m_target(target), m_engine(engine), m_folder(folder), m_finger(target) {}
 
 void ScriptApi::install() {
     const QJSValue self = m_engine->newQObject(this);
@@ -100,56 +84,36 @@ bool ScriptApi::locate(const QJSValue &place, const QJSValue &y, QPoint *positio
     return true;
 }
 
-void ScriptApi::send(QEvent::Type type, QPoint position) {
-    QWidget *const window = m_target.window();
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    qt_handleMouseEvent(window->windowHandle(), position, window->mapToGlobal(position),
-                        m_down ? Qt::LeftButton : Qt::NoButton, button, type, Qt::NoModifier, m_timestamp);
-    m_target.wait(0);
-}
-
 void ScriptApi::tap(const QJSValue &place, const QJSValue &y) {
     press(place, y);
-    if (m_down) {
+    if (m_finger.isDown()) {
         release();
     }
 }
 
 void ScriptApi::press(const QJSValue &place, const QJSValue &y) {
-    if (m_down) {
+    QPoint position;
+    if (m_finger.isDown()) {
         fail(QStringLiteral("the finger is down already"));
-    } else if (locate(place, y, &m_finger)) {
-        m_down = true;
-        send(QEvent::MouseButtonPress, m_finger);
+    } else if (locate(place, y, &position)) {
+        m_finger.press(position);
     }
 }
 
 void ScriptApi::move(int x, int y) {
-    if (!m_down) {
+    if (m_finger.isDown()) {
+        m_finger.moveTo(QPoint(x, y));
+    } else {
         fail(QStringLiteral("the finger is not down"));
-        return;
-    }
-    moveTo(QPoint(x, y));
-}
-
-void ScriptApi::moveTo(QPoint position) {
-    const QPoint start = m_finger;
-    const QPoint way = position - start;
-    const int steps = qMax(1, int(std::ceil(std::hypot(way.x(), way.y()) / moveStep)));
-    for (int i = 1; i <= steps; ++i) {
-        m_finger = start + way * (double(i) / steps);
-        wait(moveInterval);
-        send(QEvent::MouseMove, m_finger);
     }
 }
 
 void ScriptApi::release() {
-    if (!m_down) {
+    if (m_finger.isDown()) {
+        m_finger.release();
+    } else {
         fail(QStringLiteral("the finger is not down"));
-        return;
     }
-    m_down = false;
-    send(QEvent::MouseButtonRelease, m_finger);
 }
 
 void ScriptApi::drag(const QString &name, const QJSValue &from, const QJSValue &y1, const QJSValue &x2,
@@ -175,18 +139,17 @@ void ScriptApi::drag(const QString &name, const QJSValue &from, const QJSValue &
     const QPoint start = origin + points.takeFirst();
     press(start.x(), start.y());
     for (const QPoint &point : qAsConst(points)) {
-        if (m_down) {
-            moveTo(origin + point);
+        if (m_finger.isDown()) {
+            m_finger.moveTo(origin + point);
         }
     }
-    if (m_down) {
+    if (m_finger.isDown()) {
         release();
     }
 }
 
 void ScriptApi::wait(int ms) {
-    m_timestamp += ms;
-    m_target.wait(ms);
+    m_finger.wait(ms);
 }
 
 void ScriptApi::shot(const QString &file, const QString &description) {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QEvent>
+#include "headunit/host/script/finger.h"
+
 #include <QJSValue>
 #include <QObject>
-#include <QPoint>
 
 class QJSEngine;
 
@@ -66,15 +66,11 @@ private:
     bool read(const QString &name, const QString &property, QJSValue *value);
     /// The position in the window; false with a script error if there is none.
     bool locate(const QJSValue &place, const QJSValue &y, QPoint *position);
-    void send(QEvent::Type type, QPoint position);
-    void moveTo(QPoint position);
 
     ScriptTarget &m_target;
     QJSEngine *const m_engine;
     const QString m_folder;
-    QPoint m_finger;
-    bool m_down = false;
-    int m_timestamp = 0;
+    Finger m_finger;
 };
 
 }  // namespace headunit

@@ -48,6 +48,44 @@ for (var i = 0; i < tabs.length; ++i) {
     shot(tabs[i][1] + ".png", tabs[i][2]);
 }
 
+use("key_crossover");
+for (i = 0; i < 6; ++i) {
+    use("key_freq_plus");
+}
+use("key_slope_plus");
+use("key_rear");
+use("key_freq_plus");
+use("key_freq_plus");
+use("key_level_minus");
+use("key_level_minus");
+use("key_sub");
+for (i = 0; i < 4; ++i) {
+    use("key_freq_plus");
+    use("key_level_minus");
+}
+use("key_slope_minus");
+press("key_preset_1");
+wait(1600);
+release();
+settle();
+shot("crossover_set.png", "Crossover, three filters, kept as preset 1");
+use("Key_update");
+use("key_timing");
+press("key_fl_plus");
+wait(4000);
+release();
+use("key_rr_plus");
+press("key_preset_2");
+wait(1600);
+release();
+settle();
+shot("timing_set.png", "Timing, kept as preset 2");
+use("key_inches");
+settle();
+shot("timing_inches.png", "Timing in inches");
+use("key_msec");
+use("Key_update");
+
 press("key_hiphop");
 shot("factoryeq_pressed.png", "Factory EQ, Hip Hop pressed");
 release();
@@ -60,6 +98,31 @@ shot("eq_store.png", "EQ, the curve stored by a long press");
 release();
 settle();
 shot("eq_preset.png", "EQ, a curve of the driver's own");
+
+use("key_crossover");
+for (var step = 0; step < 6; ++step) {
+    use("key_freq_plus");
+}
+use("key_slope_plus");
+use("key_sub");
+for (step = 0; step < 3; ++step) {
+    use("key_freq_plus");
+}
+use("key_slope_plus");
+use("key_slope_plus");
+use("key_level_minus");
+use("key_level_minus");
+settle();
+shot("crossover_filters.png", "Crossover, front high-pass and subwoofer low-pass");
+
+use("key_timing");
+for (step = 0; step < 12; ++step) {
+    use("key_fl_plus");
+    use("key_rl_plus");
+}
+use("key_inches");
+settle();
+shot("timing_inches.png", "Timing, in inches");
 
 use("key_general");
 use("key_advanced");
@@ -77,6 +140,11 @@ shot("volume.png", "Volume settings");
 tap("hardkey_volume_up");
 shot("volume_overlay.png", "Volume settings, level shown while the hard key turns it");
 settle();
+press(120, 560);
+move(120, 300);
+release();
+settle();
+shot("volume_scrolled.png", "Volume settings, scrolled");
 use("key_return");
 use("Key_005_res_audio");
 settle();
@@ -127,3 +195,13 @@ for (var l = 0; l < languages.length; ++l) {
     use("key_return");
     home();
 }
+
+language("en");
+open("audiosetting");
+use("key_general");
+use("key_advanced");
+use("Key_005_res_audio");
+tap("Key_accept");
+wait(pause);
+shot("reset_done.png", "Reset audio settings, done");
+settle();

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QEvent>
+#include <QPoint>
+
+namespace headunit {
+
+class ScriptTarget;
+
+/// The one finger of a script. What it does reaches the window the way real touches do. Positions are the window's.
+class Finger {
+public:
+    explicit Finger(ScriptTarget &target) : m_target(target) {}
+
+    bool isDown() const { return m_down; }
+    void press(QPoint position);
+    /// Passes every position on the way, at the pace of a touch screen.
+    void moveTo(QPoint position);
+    void release();
+    /// Lets \a ms milliseconds pass.
+    void wait(int ms);
+
+private:
+    void send(QEvent::Type type);
+
+    ScriptTarget &m_target;
+    QPoint m_position;
+    bool m_down = false;
+    int m_timestamp = 0;
+};
+
+}  // namespace headunit

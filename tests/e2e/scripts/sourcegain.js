@@ -1,0 +1,23 @@
+// Gains of the sources, and that they are the sound's again after the page was left.
+var guard = 200;
+
+function use(place) {
+    tap(place);
+    wait(guard);
+}
+
+open("audiosetting");
+wait(guard);
+use("key_advanced");
+use("Key_003_source_gain");
+use("key_radio_plus");
+use("key_radio_plus");
+expect(sound().sourceGain[0] === 12);
+expect(store("audioinputgain0") === 2);
+use("key_androidauto_minus");
+expect(sound().sourceGain[4] === 9);
+use("key_return");
+use("Key_003_source_gain");
+use("key_radio_minus");
+expect(sound().sourceGain[0] === 11);
+expect(store("audioinputgain0") === 1);
