@@ -124,14 +124,18 @@ public:
     ScrollFloor() : m_label(new QLabel(this)) {
         setFixedSize(980, 440);
         m_label->setPixmap(readyPixmap(955, 885));
-        m_label->resize(955, 885);
+        m_label->setGeometry(0, lowest, 955, 885);
     }
 
 protected:
     void mousePressEvent(QMouseEvent *event) override { m_grip = event->y(); }
-    void mouseMoveEvent(QMouseEvent *event) override { m_label->move(0, qBound(-445, event->y() - m_grip, 0)); }
+    void mouseMoveEvent(QMouseEvent *event) override {
+        m_label->move(0, qBound(lowest, lowest + event->y() - m_grip, 0));
+    }
 
 private:
+    static constexpr int lowest = 440 - 885;
+
     QLabel *m_label;
     int m_grip = 0;
 };
