@@ -1,0 +1,133 @@
+#include "engine.h"
+
+#include "flushtozero.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace headunit::engine {
+
+namespace {
+
+/// Far above what any file holds; beyond it lie only damaged samples.
+constexpr float largestSample = 16;
+
+/// What an input may do at worst: a sample that is no number is silence.
+double tamed(float sample) {
+    return std::isnan(sample) ? 0 : std::clamp(sample, -largestSample, largestSample);
+}
+
+}  // namespace
+
+Engine::Engine(Start start, const Kernel &kernel) : m_chain(kernel), m_nextChain(kernel) {
+    if (start == Start::FadedIn) {
+        m_powerUp.restart();
+    }
+}
+
+void Engine::takeParameters() {
+    const Parameters *const parameters = m_parameters.take();
+    if (!parameters) {
+        return;
+    }
+    m_nextInputGain = parameters->inputGain;
+    if (!m_started) {
+        m_started = true;
+        m_inputGain = m_nextInputGain;
+        m_chain.load(parameters->chain);
+        return;
+    }
+    m_chainFades = !(m_chain.parameters() == parameters->chain);
+    if (m_chainFades) {
+        m_nextChain = m_chain;
+        m_nextChain.load(parameters->chain);
+    }
+    m_fade.restart();
+}
+
+void Engine::mix(const Inputs &inputs, size_t offset, double *mixed, size_t frames) const {
+    std::fill_n(mixed, frames * stereo, 0.0);
+    for (size_t input = 0; input < inputCount; ++input) {
+        const double from = m_inputGain[input];
+        const double way = m_nextInputGain[input] - from;
+        if (!inputs[input] || (from == 0 && way == 0)) {
+            continue;
+        }
+        const float *const samples = inputs[input] + offset * stereo;
+        for (size_t frame = 0; frame < frames; ++frame) {
+            const double gain = way == 0 ? from : from + way * m_fade.weights()[frame];
+            for (size_t side = 0; side < stereo; ++side) {
+                mixed[frame * stereo + side] += tamed(samples[frame * stereo + side]) * gain;
+            }
+        }
+    }
+}
+
+void Engine::fadeInAtStart(double *out, size_t frames) {
+    const size_t fading = std::min(frames, m_powerUp.remaining());
+    for (size_t frame = 0; frame < fading; ++frame) {
+        for (size_t output = 0; output < outputCount; ++output) {
+            out[frame * outputCount + output] *= m_powerUp.weights()[frame];
+        }
+    }
+    m_powerUp.advance(fading);
+}
+
+void Engine::meter(const float *out, size_t frames) {
+    for (size_t frame = 0; frame < frames; ++frame) {
+        for (size_t output = 0; output < outputCount; ++output) {
+            m_reading.peak[output] = std::max(m_reading.peak[output], std::abs(out[frame * outputCount + output]));
+        }
+    }
+    m_metered += frames;
+    if (m_metered >= meterSamples) {
+        m_reading.limiterGain = static_cast<float>(m_limiter.takeLowestGain());
+        m_meters.write(m_reading);
+        m_reading = Meters();
+        m_metered = 0;
+    }
+}
+
+size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, size_t frames) {
+    if (m_fade.isOver()) {
+        takeParameters();
+    }
+    const bool fading = !m_fade.isOver();
+    const size_t count = std::min({frames, Chain::largestBlock, fading ? m_fade.remaining() : frames});
+    std::array<double, Chain::largestBlock * stereo> mixed;
+    std::array<double, Chain::largestBlock * outputCount> sound;
+    mix(inputs, offset, mixed.data(), count);
+    if (fading && m_chainFades) {
+        std::array<double, Chain::largestBlock *stereo> copy = mixed;
+        std::array<double, Chain::largestBlock * outputCount> next;
+        m_nextChain.process(copy.data(), next.data(), count);
+        m_chain.process(mixed.data(), sound.data(), count);
+        for (size_t i = 0; i < count * outputCount; ++i) {
+            sound[i] += (next[i] - sound[i]) * m_fade.weights()[i / outputCount];
+        }
+    } else {
+        m_chain.process(mixed.data(), sound.data(), count);
+    }
+    if (fading) {
+        m_fade.advance(count);
+        if (m_fade.isOver()) {
+            m_inputGain = m_nextInputGain;
+            if (m_chainFades) {
+                m_chain = m_nextChain;
+            }
+        }
+    }
+    fadeInAtStart(sound.data(), count);
+    m_limiter.process(sound.data(), out, count);
+    meter(out, count);
+    return count;
+}
+
+void Engine::process(const Inputs &inputs, float *out, size_t frames) {
+    const FlushToZero flush;
+    for (size_t done = 0; done < frames;) {
+        done += processBlock(inputs, done, out + done * outputCount, frames - done);
+    }
+}
+
+}  // namespace headunit::engine

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstddef>
+
+namespace headunit::engine {
+
+constexpr double sampleRate = 48000;  ///< in Hz, everywhere in the engine
+
+/// The order of a frame's samples, as in SoundState::delay.
+enum Output : size_t { FrontLeft, FrontRight, RearLeft, RearRight, SubLeft, SubRight };
+constexpr size_t outputCount = 6;
+
+/// What is mixed. The source that plays is the main channel; a number is that of the channel's level, but for the beep.
+enum Input : size_t { MainInput, RingtoneInput, PhoneInput, NavigationInput, VoiceInput, AnnouncementInput, BeepInput };
+constexpr size_t inputCount = 7;
+
+}  // namespace headunit::engine

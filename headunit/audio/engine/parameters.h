@@ -1,0 +1,41 @@
+#pragma once
+
+#include "biquad.h"
+#include "equaliser.h"
+#include "filterdesign.h"
+#include "format.h"
+#include "loudness.h"
+
+#include "headunit/audio/soundstate.h"
+
+#include <array>
+
+namespace headunit::engine {
+
+/// The equaliser's sections, the loudness's, and one to spare that rounds up to whole groups (kernel.h).
+constexpr size_t toneSections = 20;
+static_assert(bandCount + loudnessSections <= toneSections, "the sections do not fit");
+
+/// The filters and gains behind the mix.
+struct ChainParameters {
+    std::array<Biquad, toneSections> tone;
+    std::array<CrossoverSections, outputCount> crossover;
+    std::array<double, outputCount> gain{};  ///< balance, fader and level; negative where the phase is turned
+    std::array<int, outputCount> delay{};    ///< in samples
+
+    bool operator==(const ChainParameters &o) const {
+        return tone == o.tone && crossover == o.crossover && gain == o.gain && delay == o.delay;
+    }
+};
+
+/// Everything that the audio thread needs to know, ready to use.
+struct Parameters {
+    std::array<double, inputCount> inputGain{};
+    ChainParameters chain;
+};
+
+/// Works out what \a state means for the samples. Values beyond their ranges are clamped, what does not exist is off.
+/// Takes tens of microseconds: not for the audio thread.
+Parameters designParameters(const SoundState &state);
+
+}  // namespace headunit::engine

@@ -1,0 +1,225 @@
+#include "headunit/audio/engine/engine.h"
+
+#include "rendering.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+
+using namespace headunit;
+using namespace headunit::engine;
+using namespace rendering;
+
+namespace {
+
+SoundState busy() {
+    SoundState state = neutral();
+    state.eqType = 8;
+    state.loudness = true;
+    state.channelLevel[0] = 35;
+    state.balance = 3;
+    state.front = {5, 3, 10};
+    state.rear = {4, 2, 12};
+    state.subwoofer = {3, 1, 11};
+    state.delay = {1, 22, 13, 44, 5, 76};
+    return state;
+}
+
+std::vector<float> process(Engine &engine, const Stereo &signal, Input input = MainInput) {
+    std::vector<float> out(signal.size() / stereo * outputCount);
+    Inputs inputs{};
+    inputs[input] = signal.data();
+    engine.process(inputs, out.data(), signal.size() / stereo);
+    return out;
+}
+
+bool isWithinFullScale(const std::vector<float> &samples) {
+    return std::all_of(samples.begin(), samples.end(), [](float sample) { return std::abs(sample) <= 1; });
+}
+
+}  // namespace
+
+class TestEngine : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void silentWithoutParameters();
+    void firstParametersHoldAtOnce();
+    void anyBlockSizeGivesTheSame();
+    void everyInputIsHeard();
+    void inputsAdd();
+    void changeIsOverIn50Milliseconds();
+    void changesDuringAFadeAreTakenAfterIt();
+    void fadesInAtPowerUp();
+    void meters();
+    void damagedSamples();
+    void neverBeyondFullScale();
+};
+
+void TestEngine::silentWithoutParameters() {
+    Engine engine;
+    for (const float sample : process(engine, noise(1000))) {
+        QCOMPARE(sample, 0.0F);
+    }
+}
+
+void TestEngine::firstParametersHoldAtOnce() {
+    const Stereo signal = noise(100);
+    QCOMPARE(render(neutral(), signal)[0][0], signal[0]);
+}
+
+void TestEngine::anyBlockSizeGivesTheSame() {
+    const Stereo signal = noise(20000, 0.9F);
+    SoundState other = busy();
+    other.eqType = 3;
+    other.front.slope = 1;
+    other.channelLevel[0] = 40;
+    const std::vector<Change> changes = {{3000, other}, {9000, busy()}};
+    const Sound whole = render(busy(), signal, changes);
+    const std::vector<std::vector<size_t>> divisions = {{1}, {64}, {480}, {7, 1, 300, 65, 63}, {1024}};
+    for (const auto &blocks : divisions) {
+        QVERIFY(render(busy(), signal, changes, blocks) == whole);
+    }
+    QVERIFY(render(busy(), signal, changes) == whole);  // and again
+}
+
+void TestEngine::everyInputIsHeard() {
+    for (size_t input = 0; input < inputCount; ++input) {
+        SoundState state = neutral();
+        state.channelLevel = {40, 38, 36, 34, 32, 40, 30, 40};
+        constexpr double decibels[inputCount] = {0, -3, -6, -9, -12, -15, 0};
+        Engine engine;
+        engine.setParameters(designParameters(state));
+        const Stereo signal = noise(500);
+        const std::vector<float> out = process(engine, signal, static_cast<Input>(input));
+        const double expected = signal[0] * std::pow(10, decibels[input] / 20);
+        QVERIFY(std::abs(out[Engine::latency * outputCount] - expected) < 1e-6);
+    }
+}
+
+void TestEngine::inputsAdd() {
+    Engine engine;
+    engine.setParameters(designParameters(neutral()));
+    const Stereo music(200 * stereo, 0.25F);
+    const Stereo voice(200 * stereo, 0.125F);
+    Inputs inputs{};
+    inputs[MainInput] = music.data();
+    inputs[VoiceInput] = voice.data();
+    std::vector<float> out(200 * outputCount);
+    engine.process(inputs, out.data(), 200);
+    QCOMPARE(out.back(), 0.375F);
+}
+
+void TestEngine::changeIsOverIn50Milliseconds() {
+    SoundState quiet = neutral();
+    quiet.channelLevel[0] = 20;
+    quiet.balance = 7;
+    const Stereo signal(9600 * stereo, 0.5F);
+    // The second change comes while the first one fades in, at the worst moment.
+    SoundState between = neutral();
+    between.balance = -7;
+    const Sound sound = render(neutral(), signal, {{4800, between}, {4801, quiet}});
+    const Sound expected = render(quiet, signal);
+    constexpr size_t transition = 2400;
+    for (size_t output = 0; output < outputCount; ++output) {
+        QCOMPARE(sound[output][4800 - Engine::latency - 1], 0.5F);
+        QCOMPARE(sound[output][4801 + transition], expected[output][4801 + transition]);
+    }
+}
+
+void TestEngine::changesDuringAFadeAreTakenAfterIt() {
+    Engine engine;
+    engine.setParameters(designParameters(neutral()));
+    SoundState state = neutral();
+    const Stereo signal(100 * stereo, 0.5F);
+    float lowest = 1;
+    for (int level = 39; level >= 20; --level) {
+        state.channelLevel[0] = level;
+        engine.setParameters(designParameters(state));
+        const std::vector<float> out = process(engine, signal);
+        const float before = lowest;
+        lowest = std::min(lowest, out.back());
+        QVERIFY(level > 38 || (lowest <= before && before - lowest < 0.1F));
+    }
+    process(engine, Stereo(4800 * stereo, 0.5F));
+    QCOMPARE(process(engine, signal).back(), static_cast<float>(0.5 * fromDecibels(-30)));
+}
+
+void TestEngine::fadesInAtPowerUp() {
+    Engine engine(Engine::Start::FadedIn);
+    engine.setParameters(designParameters(neutral()));
+    const std::vector<float> out = process(engine, Stereo(24000 * stereo, 0.5F));
+    float before = 0;
+    size_t half = 0;
+    size_t whole = 0;
+    for (size_t i = Engine::latency * outputCount; i < out.size(); i += outputCount) {
+        QVERIFY(out[i] >= before);
+        before = out[i];
+        half = half == 0 && before >= 0.25F ? i / outputCount : half;
+        whole = whole == 0 && before == 0.5F ? i / outputCount : whole;
+    }
+    QVERIFY(half > 9000 && half < 10000);
+    QVERIFY(whole > 18000 && whole <= 19200 + Engine::latency);
+}
+
+void TestEngine::meters() {
+    Engine engine;
+    SoundState state = neutral();
+    state.balance = 15;
+    state.channelLevel[0] = 40;
+    state.sourceGain[0] = 20;
+    engine.setParameters(designParameters(state));
+    QVERIFY(!engine.takeMeters());
+    process(engine, tone(440, 4800, 0.2));
+    const Meters *const meters = engine.takeMeters();
+    QVERIFY(meters);
+    QCOMPARE(meters->peak[FrontLeft], 0.0F);
+    QVERIFY(std::abs(meters->peak[RearRight] - 0.2 * fromDecibels(10)) < 0.001);
+    QCOMPARE(meters->limiterGain, 1.0F);
+    QVERIFY(!engine.takeMeters());
+    process(engine, tone(440, 4800, 0.9));
+    const Meters *const loud = engine.takeMeters();
+    QVERIFY(loud);
+    QVERIFY(std::abs(loud->limiterGain - fromDecibels(-10) / 0.9) < 0.01);
+    QVERIFY(loud->peak[FrontRight] <= 1);
+}
+
+void TestEngine::damagedSamples() {
+    Engine engine;
+    engine.setParameters(designParameters(busy()));
+    Stereo signal = noise(20000, 0.1F);
+    const float damage[] = {std::numeric_limits<float>::quiet_NaN(),
+                            std::numeric_limits<float>::infinity(),
+                            -std::numeric_limits<float>::infinity(),
+                            std::numeric_limits<float>::max(),
+                            1e30F,
+                            -1e30F};
+    for (size_t i = 0; i < 1000; ++i) {
+        signal[i * 3] = damage[i % std::size(damage)];
+    }
+    const std::vector<float> out = process(engine, signal);
+    QVERIFY(isWithinFullScale(out));  // which no NaN is
+    QVERIFY(std::any_of(out.end() - 1000, out.end(), [](float sample) { return sample != 0; }));
+}
+
+void TestEngine::neverBeyondFullScale() {
+    std::mt19937 random(5);
+    Engine engine;
+    for (int i = 0; i < 100; ++i) {
+        SoundState state = busy();
+        for (int &band : state.customEq) {
+            band = static_cast<int>(random() % 25);
+        }
+        state.eqType = 16;
+        state.sourceGain.fill(20);
+        state.channelLevel[0] = 30 + static_cast<int>(random() % 11);
+        state.subwooferPhase = static_cast<int>(random() % 2);
+        engine.setParameters(designParameters(state));
+        QVERIFY(isWithinFullScale(process(engine, noise(1000, 1))));
+    }
+}
+
+QTEST_APPLESS_MAIN(TestEngine)
+#include "tst_engine.moc"
