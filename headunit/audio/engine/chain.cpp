@@ -6,81 +6,58 @@ namespace headunit::engine {
 
 namespace {
 
-std::array<double, coefficientCount> coefficients(const Biquad &section) {
-    return {section.b0, section.b1, section.b2, section.a1, section.a2};
-}
-
-/// As kernels do it, where there is nothing to filter.
-void spreadOnly(const double *mix, double *spread, size_t frames) {
+void crossFade(double *from, const double *to, const double *weights, size_t frames) {
     for (size_t frame = 0; frame < frames; ++frame) {
-        for (size_t output = 0; output < outputCount; ++output) {
-            spread[frame * lanes + output] = mix[frame * stereo + output % stereo];
+        for (size_t i = frame * outputCount; i < (frame + 1) * outputCount; ++i) {
+            from[i] += (to[i] - from[i]) * weights[frame];
         }
     }
 }
 
 }  // namespace
 
-Chain::Chain(const Kernel &kernel) : m_kernel(&kernel) {
-    load(ChainParameters());
-}
+Chain::Chain(const Kernel &kernel) : m_filters(kernel), m_nextFilters(kernel) {}
 
 void Chain::load(const ChainParameters &parameters) {
     m_parameters = parameters;
-    loadTone();
-    loadCrossover();
+    m_filters.load(parameters);
 }
 
-void Chain::loadTone() {
-    for (size_t group = 0; group < groupCount; ++group) {
-        m_toneActive[group] = false;
-        for (size_t i = 0; i < groupSections; ++i) {
-            const Biquad &section = m_parameters.tone[group * groupSections + i];
-            const auto values = coefficients(section);
-            std::copy(values.begin(), values.end(), m_tone[group].coefficients[i]);
-            if (section.isIdentity()) {
-                // What it heard must not come out of a section that passes samples on as they are.
-                std::fill_n(&m_tone[group].states[i][0][0], stateCount * stereo, 0.0);
-            } else {
-                m_toneActive[group] = true;
-            }
-        }
+void Chain::fadeTo(const ChainParameters &parameters) {
+    m_fading = !(parameters == m_parameters);
+    if (m_fading) {
+        m_next = parameters;
+        m_nextFilters = m_filters;
+        m_nextFilters.load(parameters);
     }
 }
 
-void Chain::loadCrossover() {
-    m_bankActive = false;
-    for (size_t stage = 0; stage < crossoverStages; ++stage) {
-        for (size_t output = 0; output < outputCount; ++output) {
-            const Biquad &section = m_parameters.crossover[output][stage];
-            const auto values = coefficients(section);
-            for (size_t i = 0; i < coefficientCount; ++i) {
-                m_bank.coefficients[stage][i][output] = values[i];
-            }
-            if (section.isIdentity()) {
-                for (auto &state : m_bank.states[stage]) {
-                    state[output] = 0;
-                }
-            } else {
-                m_bankActive = true;
-            }
-        }
+void Chain::endFade() {
+    if (m_fading) {
+        m_fading = false;
+        m_parameters = m_next;
+        m_filters = m_nextFilters;
     }
 }
 
-void Chain::process(double *mix, double *out, size_t frames) {
-    for (size_t group = 0; group < groupCount; ++group) {
-        if (m_toneActive[group]) {
-            m_kernel->tone(&m_tone[group], mix, frames);
-        }
+void Chain::process(double *mix, double *out, size_t frames, const double *weights) {
+    std::array<double, largestBlock * outputCount> spread;
+    if (!m_fading) {
+        m_filters.process(mix, spread.data(), frames);
+        m_delay.write(spread.data(), frames);
+        m_delay.read(out, frames, m_parameters.delay, m_parameters.gain);
+        return;
     }
-    std::array<double, largestBlock * lanes> spread;
-    if (m_bankActive) {
-        m_kernel->outputs(&m_bank, mix, spread.data(), frames);
-    } else {
-        spreadOnly(mix, spread.data(), frames);
-    }
-    m_delay.process(spread.data(), out, frames, m_parameters.delay, m_parameters.gain);
+    std::array<double, largestBlock * outputCount> next;
+    std::array<double, largestBlock * stereo> copy;
+    std::copy_n(mix, frames * stereo, copy.begin());
+    m_filters.process(mix, spread.data(), frames);
+    m_nextFilters.process(copy.data(), next.data(), frames);
+    crossFade(spread.data(), next.data(), weights, frames);
+    m_delay.write(spread.data(), frames);
+    m_delay.read(out, frames, m_parameters.delay, m_parameters.gain);
+    m_delay.read(next.data(), frames, m_next.delay, m_next.gain);
+    crossFade(out, next.data(), weights, frames);
 }
 
 }  // namespace headunit::engine

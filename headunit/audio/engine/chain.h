@@ -1,41 +1,37 @@
 #pragma once
 
 #include "delayline.h"
-#include "kernel.h"
+#include "filters.h"
 #include "parameters.h"
-
-#include <array>
 
 namespace headunit::engine {
 
-/// The filters, gains and delays from the mix to the outputs, under parameters that stand still. Copying one copies
-/// what its filters have heard, so that the copy goes on without a gap under other parameters.
+/// From the mix to the outputs, under parameters that can be faded over to others. Filters that change run twice during
+/// the fade, from what they had heard before it; the delays lie behind the fade, so that its seams come out in order.
 class Chain {
 public:
     static constexpr size_t largestBlock = 64;  ///< in frames
 
     explicit Chain(const Kernel &kernel);
 
-    /// Takes other parameters; the filters keep what they have heard.
+    /// Takes other parameters at once; the filters keep what they have heard.
     void load(const ChainParameters &parameters);
-    const ChainParameters &parameters() const { return m_parameters; }
+
+    /// Begins to fade over to \a parameters.
+    void fadeTo(const ChainParameters &parameters);
+    /// Ends the fade: the parameters that it went to hold alone.
+    void endFade();
 
     /// Takes up to largestBlock \a frames of the mix, which it overwrites; gives as many of outputCount samples.
-    void process(double *mix, double *out, size_t frames);
+    /// \a weights are those of the parameters that a fade goes to, a weight for each frame; unused without a fade.
+    void process(double *mix, double *out, size_t frames, const double *weights);
 
 private:
-    static constexpr size_t groupCount = toneSections / groupSections;
-    static_assert(groupCount * groupSections == toneSections, "tone sections come in whole groups");
-
-    void loadTone();
-    void loadCrossover();
-
-    const Kernel *m_kernel;
+    bool m_fading = false;
     ChainParameters m_parameters;
-    std::array<ToneGroup, groupCount> m_tone{};
-    std::array<bool, groupCount> m_toneActive{};
-    OutputBank m_bank{};
-    bool m_bankActive = false;
+    ChainParameters m_next;
+    Filters m_filters;
+    Filters m_nextFilters;
     DelayLine m_delay;
 };
 

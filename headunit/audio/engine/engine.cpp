@@ -19,7 +19,7 @@ double tamed(float sample) {
 
 }  // namespace
 
-Engine::Engine(Start start, const Kernel &kernel) : m_chain(kernel), m_nextChain(kernel) {
+Engine::Engine(Start start, const Kernel &kernel) : m_chain(kernel) {
     if (start == Start::FadedIn) {
         m_powerUp.restart();
     }
@@ -37,11 +37,7 @@ void Engine::takeParameters() {
         m_chain.load(parameters->chain);
         return;
     }
-    m_chainFades = !(m_chain.parameters() == parameters->chain);
-    if (m_chainFades) {
-        m_nextChain = m_chain;
-        m_nextChain.load(parameters->chain);
-    }
+    m_chain.fadeTo(parameters->chain);
     m_fade.restart();
 }
 
@@ -97,24 +93,12 @@ size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, siz
     std::array<double, Chain::largestBlock * stereo> mixed;
     std::array<double, Chain::largestBlock * outputCount> sound;
     mix(inputs, offset, mixed.data(), count);
-    if (fading && m_chainFades) {
-        std::array<double, Chain::largestBlock *stereo> copy = mixed;
-        std::array<double, Chain::largestBlock * outputCount> next;
-        m_nextChain.process(copy.data(), next.data(), count);
-        m_chain.process(mixed.data(), sound.data(), count);
-        for (size_t i = 0; i < count * outputCount; ++i) {
-            sound[i] += (next[i] - sound[i]) * m_fade.weights()[i / outputCount];
-        }
-    } else {
-        m_chain.process(mixed.data(), sound.data(), count);
-    }
+    m_chain.process(mixed.data(), sound.data(), count, m_fade.weights());
     if (fading) {
         m_fade.advance(count);
         if (m_fade.isOver()) {
             m_inputGain = m_nextInputGain;
-            if (m_chainFades) {
-                m_chain = m_nextChain;
-            }
+            m_chain.endFade();
         }
     }
     fadeInAtStart(sound.data(), count);

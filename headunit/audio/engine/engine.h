@@ -57,8 +57,6 @@ private:
     std::array<double, inputCount> m_inputGain{};
     std::array<double, inputCount> m_nextInputGain{};
     Chain m_chain;
-    Chain m_nextChain;
-    bool m_chainFades = false;
     Fade m_fade{fadeSamples};
     Fade m_powerUp{powerUpSamples};
     Limiter m_limiter;

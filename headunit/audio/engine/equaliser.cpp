@@ -48,11 +48,16 @@ double squaredWidth(size_t section, double gain) {
     return layout().neighbour[section] * ratio;
 }
 
-double sectionDecibels(size_t section, double gain, size_t point) {
-    const double square = layout().squares[section][point];
+/// What a section of \a gain dB does at the bands' centres.
+BandGains sectionDecibels(size_t section, double gain) {
     const double width = squaredWidth(section, gain);
     const double power = std::pow(10, gain / 10);
-    return 10 * std::log10((square + power * width) / (square + width));
+    BandGains decibels;
+    for (size_t point = 0; point < bandCount; ++point) {
+        const double square = layout().squares[section][point];
+        decibels[point] = 10 * std::log10((square + power * width) / (square + width));
+    }
+    return decibels;
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ std::array<double, N> solveLinear(std::array<std::array<double, N>, N> matrix, s
 }
 
 /// Gains in dB of N filters in a row that together reach the \a wanted decibels at N points, by Newton's method.
-/// \a decibels(filter, gain, point) is what one filter of that gain does at a point.
+/// \a decibels(filter, gain) is what one filter of that gain does at each of the points.
 template <size_t N, typename Decibels>
 std::array<double, N> solveGains(const std::array<double, N> &wanted, Decibels decibels) {
     constexpr int steps = 6;  // the fourth leaves less than 0.005 dB
@@ -46,12 +46,13 @@ std::array<double, N> solveGains(const std::array<double, N> &wanted, Decibels d
     for (int step = 0; step < steps; ++step) {
         std::array<std::array<double, N>, N> slopes;
         std::array<double, N> missing = wanted;
-        for (size_t point = 0; point < N; ++point) {
-            for (size_t filter = 0; filter < N; ++filter) {
-                const double low = decibels(filter, gains[filter] - difference, point);
-                const double high = decibels(filter, gains[filter] + difference, point);
-                slopes[point][filter] = (high - low) / (2 * difference);
-                missing[point] -= decibels(filter, gains[filter], point);
+        for (size_t filter = 0; filter < N; ++filter) {
+            const std::array<double, N> low = decibels(filter, gains[filter] - difference);
+            const std::array<double, N> high = decibels(filter, gains[filter] + difference);
+            const std::array<double, N> there = decibels(filter, gains[filter]);
+            for (size_t point = 0; point < N; ++point) {
+                slopes[point][filter] = (high[point] - low[point]) / (2 * difference);
+                missing[point] -= there[point];
             }
         }
         const std::array<double, N> correction = solveLinear(slopes, missing);

@@ -9,7 +9,6 @@ namespace headunit::engine {
 constexpr size_t coefficientCount = 5;  ///< b0 b1 b2 a1 a2
 constexpr size_t stateCount = 2;
 constexpr size_t stereo = 2;
-constexpr size_t lanes = 8;  ///< samples of a frame of all outputs, two of them to spare
 constexpr size_t crossoverStages = 2;
 
 /// Tone sections are run in groups: long enough that the processor overlaps their waiting for one another, short
@@ -24,8 +23,8 @@ struct alignas(32) ToneGroup {
 
 /// Two sections for each output.
 struct alignas(32) OutputBank {
-    double coefficients[crossoverStages][coefficientCount][lanes];
-    double states[crossoverStages][stateCount][lanes];
+    double coefficients[crossoverStages][coefficientCount][outputCount];
+    double states[crossoverStages][stateCount][outputCount];
 };
 
 /// The loops that take the time, once for each instruction set. All of them give the same samples, bit for bit.
@@ -33,7 +32,7 @@ struct Kernel {
     const char *name;
     /// Filters \a frames of left and right in place.
     void (*tone)(ToneGroup *group, double *samples, size_t frames);
-    /// Spreads \a frames of left and right over the outputs and filters them: lanes samples a frame.
+    /// Spreads \a frames of left and right over the outputs and filters them: outputCount samples a frame.
     void (*outputs)(OutputBank *bank, const double *samples, double *spread, size_t frames);
 };
 

@@ -76,7 +76,7 @@ template <typename Vector> inline __attribute__((always_inline)) void outputLane
         for (size_t stage = 0; stage < crossoverStages; ++stage) {
             step(sample, s[stage][0], s[stage][1], c[stage][0], c[stage][1], c[stage][2], c[stage][3], c[stage][4]);
         }
-        __builtin_memcpy(spread + frame * lanes + first, &sample, sizeof(Vector));
+        __builtin_memcpy(spread + frame * outputCount + first, &sample, sizeof(Vector));
     }
     for (size_t stage = 0; stage < crossoverStages; ++stage) {
         for (size_t i = 0; i < stateCount; ++i) {

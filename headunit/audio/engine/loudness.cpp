@@ -82,8 +82,13 @@ std::array<Biquad, loudnessSections> designLoudness(double attenuation) {
     for (size_t i = 0; i < loudnessSections; ++i) {
         wanted[i] = equalLoudnessBoost(places[i].point, heard);
     }
-    const auto gains = solveGains(wanted, [](size_t filter, double gain, size_t point) {
-        return toDecibels(std::abs(response(section(places[filter], gain), loudnessFrequencies[places[point].point])));
+    const auto gains = solveGains(wanted, [](size_t filter, double gain) {
+        const Biquad shaped = section(places[filter], gain);
+        std::array<double, loudnessSections> decibels;
+        for (size_t i = 0; i < loudnessSections; ++i) {
+            decibels[i] = toDecibels(std::abs(response(shaped, loudnessFrequencies[places[i].point])));
+        }
+        return decibels;
     });
     for (size_t i = 0; i < loudnessSections; ++i) {
         sections[i] = section(places[i], gains[i]);

@@ -38,7 +38,8 @@ std::complex<double> component(const std::vector<float> &samples, double hz, siz
 /// Gain in dB from a tone on the main input to an output.
 double gainDecibels(const SoundState &state, double hz, size_t output);
 
-/// How many random cases a sweep takes: \a usual, times the environment's ENGINE_SWEEP if that is set.
+/// How many cases a sweep takes: \a usual (with the sanitizers a twentieth), or that times the environment's
+/// ENGINE_SWEEP.
 int sweep(int usual);
 
 }  // namespace rendering
