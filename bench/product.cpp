@@ -9,7 +9,7 @@
 //   product repeat STEPS             the plus keys of the Timing page, each held for a while
 //   product reset STEPS              whole resets: the dialog, the reset, the settings root again
 //
-// Pages: general, eq, factoryeq, root, volume, gain, reset.
+// Pages: general, eq, crossover, timing, factoryeq, root, volume, gain, reset.
 
 #include "appplugin.h"
 #include "benchtools.h"

@@ -5,8 +5,8 @@
 #include "eqtable.h"
 #include "labelbutton.h"
 #include "plugin/debuglog.h"
+#include "resources/picture.h"
 #include "sliderbarwidget.h"
-#include "sliderknob.h"
 #include "translator.h"
 #include "ui_Audiosetting_right_eq_widget.h"
 
@@ -36,14 +36,14 @@ const QRect stepKeyRect(-2, 0, 40, 40);
 const int downKeyY = 260;
 
 // The irregular last steps are required.
-const int centerPoints[] = {0,  5,  11, 16, 22, 28, 33,  39,  44,  50,  56,  61, 67,
+const int centerPoints[] = {0,  5,  11, 16, 22, 28,  33,  39,  44,  50,  56,  61, 67,
                             72, 78, 83, 89, 95, 100, 106, 111, 117, 123, 128, 137};
-const int borderPoints[] = {5,  11, 16, 22, 28, 33,  39,  44,  50,  56,  61,  67, 72,
+const int borderPoints[] = {5,  11, 16, 22, 28,  33,  39,  44,  50,  56,  61,  67, 72,
                             78, 83, 89, 95, 100, 106, 111, 117, 123, 128, 135, 137};
 const unsigned int pointCount = sizeof(centerPoints) / sizeof(centerPoints[0]);
 
-const char *const bandCaptions[eqBandCount] = {"63", "100",  "160",  "250", "400",  "630", "1k",
-                                               "1.6k", "2.5k", "4k", "6.3k", "10k", "16k"};
+const char *const bandCaptions[eqBandCount] = {"63",   "100",  "160", "250",  "400", "630", "1k",
+                                               "1.6k", "2.5k", "4k",  "6.3k", "10k", "16k"};
 
 qvaudio::AudioService *audio() {
     return qvaudio::AudioService::instance();
@@ -65,7 +65,7 @@ void Audiosetting_right_eq_widget::initUi() {
     m_commitTimer.setTimerType(Qt::PreciseTimer);
     connect(&m_commitTimer, SIGNAL(timeout()), this, SLOT(onCustomEqValueDelay()));
 
-    m_knob = loadKnob(QStringLiteral(":/corvina_icon/audiosetting_slider_point.png"));
+    m_knob = picture("audiosetting_slider_point").toImage();
     m_sliders.clear();
 
     QPushButton *const slotKeys[] = {m_ui->key_custom1, m_ui->key_custom2, m_ui->key_custom3, m_ui->key_custom4,
@@ -83,10 +83,13 @@ void Audiosetting_right_eq_widget::initUi() {
         createBand(band);
     }
 
-    m_captions << m_ui->Txt_custom1 << m_ui->Txt_custom2 << m_ui->Txt_custom3 << m_ui->Txt_custom4
-               << m_ui->Txt_custom5;
+    m_captions << m_ui->Txt_custom1 << m_ui->Txt_custom2 << m_ui->Txt_custom3 << m_ui->Txt_custom4 << m_ui->Txt_custom5;
     m_emptyIcons << m_ui->Icn_preset_1 << m_ui->Icn_preset_2 << m_ui->Icn_preset_3 << m_ui->Icn_preset_4
                  << m_ui->Icn_preset_5;
+    const QPixmap emptyPicture = picture("eq_preset_icon");
+    for (QLabel *icon : m_emptyIcons) {
+        icon->setPixmap(emptyPicture);  // the form's own is not that of a dense display
+    }
     // Captions and pictures lie over their keys: touches go through.
     const QList<QLabel *> overlays = m_captions + m_emptyIcons + (QList<QLabel *>() << m_ui->Txt_flat);
     for (QLabel *overlay : overlays) {
@@ -99,7 +102,7 @@ void Audiosetting_right_eq_widget::createBand(int band) {
 
     QLabel *track = new QLabel(m_ui->widget);
     track->setGeometry(trackRect.translated(x, 0));
-    track->setPixmap(QPixmap(QStringLiteral(":/corvina_icon/audiosetting_eq_slider_n.png")));
+    track->setPixmap(picture("audiosetting_eq_slider_n"));
 
     cm::SliderBarWidget *slider = new cm::SliderBarWidget(m_ui->widget);
     slider->setId(band);

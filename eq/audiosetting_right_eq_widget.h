@@ -17,7 +17,7 @@ class Audiosetting_right_eq_widget;
 namespace cm {
 class LabelButton;
 class SliderBarWidget;
-}
+}  // namespace cm
 
 /// The EQ page: thirteen bands with a slider and two step keys each, Flat, and five curves of the driver's own.
 ///

@@ -4,14 +4,15 @@
 #include "eqtable.h"
 #include "navigation/posttouch.h"
 #include "plugin/debuglog.h"
+#include "resources/picture.h"
 #include "sliderbarwidget.h"
-#include "sliderknob.h"
 #include "translator.h"
 #include "ui_eq_adjust_fragment.h"
 
 #include <QEvent>
 #include <QImage>
 #include <QPixmapCache>
+#include <QRegularExpression>
 
 #include <limits>
 
@@ -37,14 +38,10 @@ const unsigned int pointCount = sizeof(centerPoints) / sizeof(centerPoints[0]);
 // The panel's own curves; the id is that of the name's text, and the last three bands are always 0 dB.
 const QList<tagAudioEQItem_T> &panelPresets() {
     static const QList<tagAudioEQItem_T> table = {
-        {0, 3, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
-        {1, 232, {1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 0, 0}},
-        {3, 234, {0, 4, 4, 0, -1, -1, 0, 3, 6, 4, 0, 0, 0}},
-        {2, 233, {-1, 3, 3, 2, 0, -1, -1, 0, 2, 1, 0, 0, 0}},
-        {8, 235, {0, 4, 5, 2, 0, -1, -2, -1, 0, -1, 0, 0, 0}},
-        {7, 241, {1, 3, 2, 1, 0, 0, 1, 2, 1, 0, 0, 0, 0}},
-        {21, 229, {1, 2, 2, 1, 0, -1, 0, 1, 2, 2, 0, 0, 0}},
-        {16, 681, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
+        {0, 3, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},       {1, 232, {1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 0, 0}},
+        {3, 234, {0, 4, 4, 0, -1, -1, 0, 3, 6, 4, 0, 0, 0}},   {2, 233, {-1, 3, 3, 2, 0, -1, -1, 0, 2, 1, 0, 0, 0}},
+        {8, 235, {0, 4, 5, 2, 0, -1, -2, -1, 0, -1, 0, 0, 0}}, {7, 241, {1, 3, 2, 1, 0, 0, 1, 2, 1, 0, 0, 0, 0}},
+        {21, 229, {1, 2, 2, 1, 0, -1, 0, 1, 2, 2, 0, 0, 0}},   {16, 681, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
     };
     return table;
 }
@@ -77,10 +74,18 @@ void EQWidget::init() {
     for (QLabel *overlay : overlays) {
         overlay->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
+    // The form's own pictures are not those of a dense display.
+    m_ui->bg_base->setPixmap(pictureAt(QStringLiteral(":/halverv2_icon/eq_bg_popup_base_n")));
+    m_ui->bg_txt->setPixmap(pictureAt(QStringLiteral(":/halverv2_icon/eq_txt")));
+    const QPixmap track = pictureAt(QStringLiteral(":/halverv2_icon/eq_sdlik_p"));
+    const QList<QLabel *> tracks = findChildren<QLabel *>(QRegularExpression(QStringLiteral("^track_")));
+    for (QLabel *label : tracks) {
+        label->setPixmap(track);
+    }
     connect(m_ui->key_reset, SIGNAL(clicked()), this, SLOT(onResetEqValue()));
     connect(m_ui->key_back, SIGNAL(clicked()), this, SLOT(onBackKeyClicked()));
 
-    m_knob = new QImage(loadKnob(QStringLiteral(":/halverv2_icon/setup_bg_sliding_point.png")));
+    m_knob = new QImage(pictureAt(QStringLiteral(":/halverv2_icon/setup_bg_sliding_point")).toImage());
     for (int band = 0; band < eqBandCount; ++band) {
         m_gains.append(0);
         createSlider(band);

@@ -44,9 +44,10 @@ void c20_060_audiosetting_container_widget::paintGround(QPainter *painter, const
 
 void c20_060_audiosetting_container_widget::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
-    // Piece by piece: a picture that lies whole within the region is laid without testing each line of it.
+    // Piece by piece, each within a plain rectangle: Qt then copies whole lines instead of testing spans of them.
     const QVector<QRect> pieces = event->region().rects();
     for (const QRect &piece : pieces) {
+        painter.setClipRect(piece);
         paintGround(&painter, piece);
     }
 }

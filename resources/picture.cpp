@@ -5,7 +5,10 @@
 namespace audiosetting {
 
 QPixmap picture(const char *name) {
-    const QString path = QStringLiteral(":/corvina_icon/") + QLatin1String(name);
+    return pictureAt(QStringLiteral(":/corvina_icon/") + QLatin1String(name));
+}
+
+QPixmap pictureAt(const QString &path) {
     if (qGuiApp->devicePixelRatio() > 1) {
         const QPixmap dense(path + QStringLiteral("@2x.png"));
         if (!dense.isNull()) {

@@ -82,7 +82,7 @@ private:
     int m_source = 0;
 
     // Made when they are first shown.
-    QWidget *m_shown = nullptr;      ///< the host's own screen that is in front
+    QWidget *m_shown = nullptr;       ///< the host's own screen that is in front
     QWidget *m_bandAdjust = nullptr;  ///< only while it is in front: it shows what it found when it was made
     HomeScreen *m_home = nullptr;
     CarScreen *m_car = nullptr;

@@ -29,16 +29,15 @@ class tst_EqPage : public PageTest {
     Q_OBJECT
 private slots:
     void declaresItsSlotsInOrder() {
-        QCOMPARE(methods(Audiosetting_right_eq_widget::staticMetaObject),
-                 QStringList({"slot update_eq_section_drag(int,int)", "slot save_eq_section_drag(int,int)",
-                              "slot onEqTypeChanged(int)", "slot onSaveCustomEqValue()", "slot onUpdateCustomEqData()",
-                              "slot onResetEqValue()", "slot onButtonCustomPressed(int)",
-                              "slot onbuttonCustomClicked(int)", "slot onCustomEqValueDelay()",
-                              "slot onCustom1LongRelease()", "slot onCustom2LongRelease()",
-                              "slot onCustom3LongRelease()", "slot onCustom4LongRelease()",
-                              "slot onCustom5LongRelease()", "slot on_key_flat_clicked()",
-                              "slot onSliderBarWidgetCompeted()", "slot onBarPrevClicked(int)",
-                              "slot onBarNextClicked(int)"}));
+        QCOMPARE(
+            methods(Audiosetting_right_eq_widget::staticMetaObject),
+            QStringList({"slot update_eq_section_drag(int,int)", "slot save_eq_section_drag(int,int)",
+                         "slot onEqTypeChanged(int)", "slot onSaveCustomEqValue()", "slot onUpdateCustomEqData()",
+                         "slot onResetEqValue()", "slot onButtonCustomPressed(int)", "slot onbuttonCustomClicked(int)",
+                         "slot onCustomEqValueDelay()", "slot onCustom1LongRelease()", "slot onCustom2LongRelease()",
+                         "slot onCustom3LongRelease()", "slot onCustom4LongRelease()", "slot onCustom5LongRelease()",
+                         "slot on_key_flat_clicked()", "slot onSliderBarWidgetCompeted()", "slot onBarPrevClicked(int)",
+                         "slot onBarNextClicked(int)"}));
     }
 
     // Showing ---------------------------------------------------------------------------------------------------
@@ -85,7 +84,8 @@ private slots:
             for (const QLabel *label : area->findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly)) {
                 if (label->geometry() == QRect(x + 10, 68, 16, 164)) {
                     track = label->pixmap(Qt::ReturnByValue).size() == QSize(16, 164);
-                } else if (label->y() == 330 && label->geometry().center().x() == sliders[band]->geometry().center().x()) {
+                } else if (label->y() == 330 &&
+                           label->geometry().center().x() == sliders[band]->geometry().center().x()) {
                     QCOMPARE(label->height(), 22);
                     QCOMPARE(label->font().pointSize(), 16);
                     texts << label->text();

@@ -42,7 +42,8 @@ QString checkedKeys(const QWidget &page) {
 }
 
 QStringList choiceOf(int type) {
-    return {"doBeep(0)", "setValue(\"HIGHLIGHT_PRESET_ID\", -1, -1, true)", QStringLiteral("setEQType(%1, true)").arg(type)};
+    return {"doBeep(0)", "setValue(\"HIGHLIGHT_PRESET_ID\", -1, -1, true)",
+            QStringLiteral("setEQType(%1, true)").arg(type)};
 }
 
 class OtherLanguage : public QTranslator {
@@ -59,10 +60,10 @@ class tst_FactoryEq : public PageTest {
     Q_OBJECT
 private slots:
     void declaresItsSlotsInOrder() {
-        QCOMPARE(methods(Audiosetting_right_factoryeq_widget::staticMetaObject),
-                 QStringList({"slot onButtoneEqClicked(int)", "slot onSetRockEq()", "slot onSetHipHopEq()",
-                              "slot onSetElectronicEq()", "slot onSetJazzEq()", "slot onSetPopEq()",
-                              "slot onSetFlatEq()"}));
+        QCOMPARE(
+            methods(Audiosetting_right_factoryeq_widget::staticMetaObject),
+            QStringList({"slot onButtoneEqClicked(int)", "slot onSetRockEq()", "slot onSetHipHopEq()",
+                         "slot onSetElectronicEq()", "slot onSetJazzEq()", "slot onSetPopEq()", "slot onSetFlatEq()"}));
     }
 
     void constructionAndShowWriteAndSendNothing() {

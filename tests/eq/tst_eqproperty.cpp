@@ -142,9 +142,8 @@ class tst_EqProperty : public PageTest {
 
     QString brokenSelection(const QList<int> &levels) const {
         int expected = -1;
-        const int highlighted = recording::stored("HIGHLIGHT_PRESET_ID").isValid()
-                                    ? recording::stored("HIGHLIGHT_PRESET_ID").toInt()
-                                    : -1;
+        const int highlighted =
+            recording::stored("HIGHLIGHT_PRESET_ID").isValid() ? recording::stored("HIGHLIGHT_PRESET_ID").toInt() : -1;
         for (int slot = 4; slot >= 0; --slot) {
             bool equal = recording::stored(storedKey(slot)).toBool();
             for (int band = 0; equal && highlighted == -1 && band < 13; ++band) {
@@ -177,10 +176,10 @@ private slots:
             if (m_page && m_page->isVisible() && random(2)) {
                 advance(settleTime);
                 const QString what = broken();
-                QVERIFY2(what.isEmpty(), qPrintable(QStringLiteral("EQ_SEED=%1, step %2, after %3: %4")
-                                                        .arg(m_seed)
-                                                        .arg(step)
-                                                        .arg(action, what)));
+                QVERIFY2(
+                    what.isEmpty(),
+                    qPrintable(
+                        QStringLiteral("EQ_SEED=%1, step %2, after %3: %4").arg(m_seed).arg(step).arg(action, what)));
             }
             recording::clear();
         }

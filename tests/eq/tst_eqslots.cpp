@@ -63,9 +63,8 @@ private slots:
         show(&page);
         const QList<int> rock = reference::levels(reference::presets()[3]);
         finger::hold(customKey(page, 1), longPress);
-        QCOMPARE(recording::take(),
-                 QStringList{"doBeep(0)"} + storing(1, rock) + QStringList{type(16)} + sendAll(rock) +
-                     QStringList{highlight(1)});
+        QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + storing(1, rock) + QStringList{type(16)} +
+                                        sendAll(rock) + QStringList{highlight(1)});
         QCOMPARE(reference::levels(page), rock);
         QCOMPARE(selected(page), 1);
     }

@@ -81,9 +81,7 @@ private slots:
         }
     }
 
-    void anItemIsFifteenNumbersOf32Bits() {
-        QCOMPARE(sizeof(tagAudioEQItem_T), size_t(15 * 4));
-    }
+    void anItemIsFifteenNumbersOf32Bits() { QCOMPARE(sizeof(tagAudioEQItem_T), size_t(15 * 4)); }
 };
 
 PAGE_TEST_MAIN(tst_EqTable)

@@ -147,8 +147,7 @@ private slots:
         EQWidget panel;
         show(&panel);
         QCOMPARE(reference::levels(panel), QList<int>({24, 23, 13, 12, 11, 7, 1, 0, 9, 15, 10, 5, 21}));
-        QCOMPARE(gainTexts(panel),
-                 QStringList({"-12", "-11", "-1", "0", "+1", "+5", "+11", "+12", "+3", "-3"}));
+        QCOMPARE(gainTexts(panel), QStringList({"-12", "-11", "-1", "0", "+1", "+5", "+11", "+12", "+3", "-3"}));
         QCOMPARE(nameShown(panel), QStringLiteral("#681"));
     }
 
@@ -190,7 +189,7 @@ private slots:
             QCOMPARE(reference::levels(panel)[4], level);
             QCOMPARE(gainTexts(panel)[4], QStringLiteral("+%1").arg(12 - level));
         }
-        advance(5);  // 50 ms after the press
+        advance(5);                                  // 50 ms after the press
         QCOMPARE(recording::take(), QStringList());  // there is no trailing edge
         finger::move(slider, at(6));
         QCOMPARE(recording::take(), QStringList{send(6, 4)});

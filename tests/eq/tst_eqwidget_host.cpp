@@ -125,8 +125,9 @@ private slots:
         QVERIFY(qRegisterMetaType<SettingPageType>("SettingPageType") > 0);
         EQWidget panel;
         int page = -1;
-        connect(&panel, &EQWidget::eqSignalShowPage, this, [&page](SettingPageType shown) { page = shown; },
-                Qt::QueuedConnection);
+        connect(
+            &panel, &EQWidget::eqSignalShowPage, this, [&page](SettingPageType shown) { page = shown; },
+            Qt::QueuedConnection);
         Q_EMIT panel.eqSignalShowPage(SettingPageFactoryEq);
         s_time->advance(0);
         QCOMPARE(page, 4);

@@ -34,7 +34,7 @@ release();
 use("key_Subwoofer");
 use("key_subvol_next");
 use("key_Phase_180");
-drag("balancefader_bg", [[130, 130], [180, 60], [200, 70]]);
+drag("settings::balanceFaderControl", [[130, 130], [180, 60], [200, 70]]);
 settle();
 shot("general_subwoofer.png", "General, subwoofer on, reversed, sound placed front right");
 use("key_defeat");
@@ -47,6 +47,19 @@ for (var i = 0; i < tabs.length; ++i) {
     settle();
     shot(tabs[i][1] + ".png", tabs[i][2]);
 }
+
+press("key_hiphop");
+shot("factoryeq_pressed.png", "Factory EQ, Hip Hop pressed");
+release();
+settle();
+shot("factoryeq_hiphop.png", "Factory EQ, Hip Hop");
+use("key_eq");
+press("key_custom1");
+wait(1500);
+shot("eq_store.png", "EQ, the curve stored by a long press");
+release();
+settle();
+shot("eq_preset.png", "EQ, a curve of the driver's own");
 
 use("key_crossover");
 for (i = 0; i < 6; ++i) {
@@ -85,44 +98,6 @@ settle();
 shot("timing_inches.png", "Timing in inches");
 use("key_msec");
 use("Key_update");
-
-press("key_hiphop");
-shot("factoryeq_pressed.png", "Factory EQ, Hip Hop pressed");
-release();
-settle();
-shot("factoryeq_hiphop.png", "Factory EQ, Hip Hop");
-use("key_eq");
-press("key_custom1");
-wait(1500);
-shot("eq_store.png", "EQ, the curve stored by a long press");
-release();
-settle();
-shot("eq_preset.png", "EQ, a curve of the driver's own");
-
-use("key_crossover");
-for (var step = 0; step < 6; ++step) {
-    use("key_freq_plus");
-}
-use("key_slope_plus");
-use("key_sub");
-for (step = 0; step < 3; ++step) {
-    use("key_freq_plus");
-}
-use("key_slope_plus");
-use("key_slope_plus");
-use("key_level_minus");
-use("key_level_minus");
-settle();
-shot("crossover_filters.png", "Crossover, front high-pass and subwoofer low-pass");
-
-use("key_timing");
-for (step = 0; step < 12; ++step) {
-    use("key_fl_plus");
-    use("key_rl_plus");
-}
-use("key_inches");
-settle();
-shot("timing_inches.png", "Timing, in inches");
 
 use("key_general");
 use("key_advanced");

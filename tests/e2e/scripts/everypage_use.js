@@ -17,7 +17,7 @@ wait(blink);
 use("key_Subwoofer");
 use("key_subvol_next");
 use("key_Phase_180");
-drag("balancefader_bg", 132, 130, 132 + 30, 130 - 42);
+drag("settings::balanceFaderControl", 132, 130, 132 + 30, 130 - 42);
 wait(blink);
 expect(sound().balance === 5);
 expect(sound().fader === -7);
