@@ -5,6 +5,7 @@
 //   floor first LABELS                a page of that many labels, built and shown; -1: no page
 //   floor switch STEPS LABELS LABELS  two pages of that many labels, shown in turn
 //   floor drag STEPS                  one cached pixmap, moved by mouse events
+//   floor text STEPS                  one label with another number at each step
 //   floor scroll STEPS                one ready pixmap of a page's height, moved by mouse events in a window of 980 x
 //   440
 
@@ -101,20 +102,40 @@ void drag(int steps) {
     bench::drag(&window, QRect(300, 200, 180, 180), steps, Qt::Horizontal | Qt::Vertical);
 }
 
+void text(int steps) {
+    QWidget window;
+    window.setFixedSize(bench::screen);
+    QLabel label(&window);
+    label.setGeometry(80, 80, 96, 56);
+    label.setAlignment(Qt::AlignCenter);
+    QFont font = label.font();
+    font.setPointSize(24);
+    label.setFont(font);
+    bench::showAndPaint(&window);
+    for (int i = 1; i <= steps; ++i) {
+        label.setText(QString::number(i / 10.0));
+        bench::settle();
+    }
+}
+
 /// Moves its one label up and down with the finger.
 class ScrollFloor : public QWidget {
 public:
     ScrollFloor() : m_label(new QLabel(this)) {
         setFixedSize(980, 440);
         m_label->setPixmap(readyPixmap(955, 885));
-        m_label->resize(955, 885);
+        m_label->setGeometry(0, lowest, 955, 885);
     }
 
 protected:
     void mousePressEvent(QMouseEvent *event) override { m_grip = event->y(); }
-    void mouseMoveEvent(QMouseEvent *event) override { m_label->move(0, qBound(-445, event->y() - m_grip, 0)); }
+    void mouseMoveEvent(QMouseEvent *event) override {
+        m_label->move(0, qBound(lowest, lowest + event->y() - m_grip, 0));
+    }
 
 private:
+    static constexpr int lowest = 440 - 885;
+
     QLabel *m_label;
     int m_grip = 0;
 };
@@ -140,12 +161,14 @@ int main(int argc, char **argv) {
         switchPages(number(1), number(2), number(3));
     } else if (what == QLatin1String("drag")) {
         drag(number(1));
+    } else if (what == QLatin1String("text")) {
+        text(number(1));
     } else if (what == QLatin1String("scroll")) {
         scroll(number(1));
     } else {
         qCritical(
             "floor start | floor first LABELS | floor switch STEPS LABELS LABELS | floor drag STEPS | "
-            "floor scroll STEPS");
+            "floor text STEPS | floor scroll STEPS");
         return 2;
     }
     return 0;

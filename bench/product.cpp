@@ -6,9 +6,10 @@
 //   product drag STEPS eq            a finger on a slider of the EQ page
 //   product drag STEPS slider        a finger on a slider of Volume Settings
 //   product drag STEPS scroll        a finger that scrolls Volume Settings
+//   product repeat STEPS             the plus keys of the Timing page, each held for a while
 //   product reset STEPS              whole resets: the dialog, the reset, the settings root again
 //
-// Pages: general, eq, factoryeq, root, volume, gain, reset.
+// Pages: general, eq, crossover, timing, factoryeq, root, volume, gain, reset.
 
 #include "appplugin.h"
 #include "benchtools.h"
@@ -22,6 +23,7 @@
 #include <QLoggingCategory>
 #include <QPluginLoader>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 
 #include <cstdio>
@@ -38,6 +40,8 @@ struct Page {
 const Page pages[] = {
     {"general", "onPageChanged", "right_widget", 0},
     {"eq", "onPageChanged", "right_widget", 1},
+    {"crossover", "onPageChanged", "right_widget", 2},
+    {"timing", "onPageChanged", "right_widget", 3},
     {"factoryeq", "onPageChanged", "right_widget", 4},
     {"root", "onAdvancedChanged", "right_widget"},
     {"volume", "onShowAudioSettings", "Audiovolumsettings"},
@@ -132,8 +136,29 @@ public:
     void scroll(int steps) {
         show(QStringLiteral("volume"));
         // The viewport stays where it is while the rows move under the finger.
-        auto *viewport = m_widget->findChild<QScrollArea *>()->viewport();
+        auto *area = m_widget->findChild<QScrollArea *>();
+        area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
+        auto *viewport = area->viewport();
         bench::drag(viewport, QRect(40, 20, 200, 400), steps, Qt::Vertical);
+    }
+
+    /// A key is left before it reaches the end of its range.
+    void repeat(int steps) {
+        show(QStringLiteral("timing"));
+        const char *const keys[] = {"key_fl_plus", "key_fr_plus", "key_rl_plus", "key_rr_plus"};
+        QWidget *key = nullptr;
+        for (int i = 0; i < steps; ++i) {
+            if (i % stepsOfAKey == 0) {
+                if (key) {
+                    bench::sendMouse(key, QEvent::MouseButtonRelease, key->rect().center());
+                }
+                key = m_widget->findChild<QWidget *>(QLatin1String(keys[i / stepsOfAKey % 4]));
+                bench::sendMouse(key, QEvent::MouseButtonPress, key->rect().center());
+                m_app.time().advance(repeatDelay - repeatInterval);
+            }
+            m_app.time().advance(repeatInterval);
+            bench::settle();
+        }
     }
 
     void reset(int steps) {
@@ -148,7 +173,10 @@ public:
     }
 
 private:
-    static constexpr int resetTime = 2500;  // ms
+    static constexpr int resetTime = 2500;      // ms
+    static constexpr int repeatDelay = 1000;    // ms
+    static constexpr int repeatInterval = 200;  // ms
+    static constexpr int stepsOfAKey = 60;
 
     bench::Application &m_app;
     QPluginLoader m_loader;
@@ -184,11 +212,14 @@ int main(int argc, char **argv) {
         product.dragSlider(args.value(1).toInt());
     } else if (args.value(0) == QLatin1String("drag") && args.value(2) == QLatin1String("scroll")) {
         product.scroll(args.value(1).toInt());
+    } else if (args.value(0) == QLatin1String("repeat")) {
+        product.repeat(args.value(1).toInt());
     } else if (args.value(0) == QLatin1String("reset")) {
         product.reset(args.value(1).toInt());
     } else {
         qCritical(
-            "product count PAGE | product switch STEPS PAGE PAGE | product drag STEPS pad|eq|slider|scroll | "
+            "product count PAGE | product switch STEPS PAGE PAGE | product drag STEPS pad|eq|slider|scroll | product "
+            "repeat STEPS | "
             "product reset STEPS");
         return 2;
     }

@@ -7,6 +7,7 @@
 #include "plugin/debuglog.h"
 #include "plugin/presetkey.h"
 #include "pushbutton.h"
+#include "resources/picture.h"
 #include "translator.h"
 #include "ui_Audiosetting_right_crossover_widget.h"
 
@@ -61,12 +62,16 @@ Audiosetting_right_crossover_widget::~Audiosetting_right_crossover_widget() {}
 
 void Audiosetting_right_crossover_widget::initUi() {
     for (int channel = 0; channel < channelCount; ++channel) {
-        m_curves[channel]->setCurve(QLatin1String(slopeRow(minSlope).curves[channel]));
+        m_curves[channel]->setCurve(slopeRow(minSlope).curves[channel]);
         const int x = channel == Subwoofer ? 0 : frequency(channel, 0).place;
         m_curves[channel]->setGeometry(x, wrappedTopY, curveWidth, wrappedHeigh);
     }
     showFrequency(Front);
     m_ui->txt_slope_value->setText(QLatin1String(slopeRow(minSlope).label));
+
+    // Its picture is opaque: nothing behind it needs painting.
+    m_ui->label_bg->setAttribute(Qt::WA_OpaquePaintEvent);
+    m_ui->frame_3->setGround(picture("crossover_graph"));
 
     // They lie over the channel keys.
     QLabel *const captions[] = {m_ui->txt_front1, m_ui->txt_rear, m_ui->txt_sub};
@@ -207,7 +212,7 @@ void Audiosetting_right_crossover_widget::showSlope(int channel) {
     if (slope >= minSlope && slope <= maxSlope) {
         const SlopeRow &row = slopeRow(slope);
         m_ui->txt_slope_value->setText(QLatin1String(row.label));
-        m_curves[channel]->setCurve(QLatin1String(row.curves[channel]));
+        m_curves[channel]->setCurve(row.curves[channel]);
     }
     m_filters.store(channel, Slope);
     m_filters.send(channel);
@@ -414,7 +419,7 @@ void Audiosetting_right_crossover_widget::updatePresetButton(int iIdx) {
 }
 
 void Audiosetting_right_crossover_widget::updatePresetBtnIcon(int iIdx) {
-    presetKey(iIdx)->setIcon(presetIcon(iIdx, presetSaved(iIdx).flag()));
+    showPreset(presetKey(iIdx), iIdx, presetSaved(iIdx).flag());
 }
 
 // Helpers ---------------------------------------------------------------------------------------------------------

@@ -29,14 +29,9 @@ const Frequency subwooferFrequencies[] = {
 };
 
 const SlopeRow slopes[maxSlope - minSlope + 1] = {
-    {"6 db",
-     {":/corvina_icon/left_yellow_6db.png", ":/corvina_icon/left_green_6db.png", ":/corvina_icon/right_red_6db.png"}},
-    {"12 db",
-     {":/corvina_icon/left_yellow_12db.png", ":/corvina_icon/left_green_12db.png",
-      ":/corvina_icon/right_red_12db.png"}},
-    {"18 db",
-     {":/corvina_icon/left_yellow_18db.png", ":/corvina_icon/left_green_18db.png",
-      ":/corvina_icon/right_red_18db.png"}},
+    {"6 db", {"left_yellow_6db", "left_green_6db", "right_red_6db"}},
+    {"12 db", {"left_yellow_12db", "left_green_12db", "right_red_12db"}},
+    {"18 db", {"left_yellow_18db", "left_green_18db", "right_red_18db"}},
 };
 
 struct FrequencyTable {

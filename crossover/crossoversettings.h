@@ -55,7 +55,7 @@ const Frequency &frequency(int channel, int index);
 const int minSlope = 1;
 const int maxSlope = 3;
 
-/// One slope, with the curve picture of each channel.
+/// One slope, with the name of each channel's curve picture.
 struct SlopeRow {
     const char *label;
     const char *curves[channelCount];

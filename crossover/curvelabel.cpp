@@ -1,20 +1,26 @@
 #include "curvelabel.h"
 
+#include "resources/picture.h"
+
 #include <QPainter>
 
 CurveLabel::CurveLabel(QWidget *parent) : QLabel(parent) {}
 
-void CurveLabel::setCurve(const QString &file) {
-    if (m_file == file) {
+void CurveLabel::setCurve(const char *name) {
+    if (m_name == name) {
         return;
     }
-    m_file = file;
-    m_curve = QPixmap(file);
+    m_name = name;
+    m_curve = audiosetting::picture(name);
     m_stretched = QPixmap();
     setPixmap(m_curve);
 }
 
 void CurveLabel::paintEvent(QPaintEvent *) {
+    // The graph has painted it.
+}
+
+void CurveLabel::paintCurve(QPainter &painter) {
     const QRect visible = rect() & parentWidget()->rect().translated(-pos());
     if (m_curve.isNull() || visible.isEmpty()) {
         return;
@@ -22,7 +28,7 @@ void CurveLabel::paintEvent(QPaintEvent *) {
     if (m_stretched.isNull() || m_stretchedSize != size() || !m_stretchedPart.contains(visible)) {
         stretch(visible);
     }
-    QPainter(this).drawPixmap(m_stretchedPart.topLeft(), m_stretched);
+    painter.drawPixmap(pos() + m_stretchedPart.topLeft(), m_stretched);
 }
 
 void CurveLabel::stretch(const QRect &visible) {

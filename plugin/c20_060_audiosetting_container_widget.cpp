@@ -44,5 +44,10 @@ void c20_060_audiosetting_container_widget::paintGround(QPainter *painter, const
 
 void c20_060_audiosetting_container_widget::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
-    paintGround(&painter, event->rect());
+    // Piece by piece, each within a plain rectangle: Qt then copies whole lines instead of testing spans of them.
+    const QVector<QRect> pieces = event->region().rects();
+    for (const QRect &piece : pieces) {
+        painter.setClipRect(piece);
+        paintGround(&painter, piece);
+    }
 }

@@ -1,6 +1,7 @@
 #include "presetkey.h"
 
 #include <QAbstractButton>
+#include <QIcon>
 #include <QVariant>
 
 namespace audiosetting {
@@ -8,8 +9,7 @@ namespace audiosetting {
 namespace {
 
 const char longClickProperty[] = "long_click";
-
-}  // namespace
+const char savedProperty[] = "preset_saved";  // whether the key's pictures are those of a saved preset
 
 QIcon presetIcon(int preset, bool saved) {
     QIcon icon;
@@ -26,6 +26,16 @@ QIcon presetIcon(int preset, bool saved) {
     icon.addFile(file.arg(QStringLiteral("p")), QSize(), QIcon::Selected, QIcon::Off);
     icon.addFile(file.arg(QStringLiteral("s")), QSize(), QIcon::Selected, QIcon::On);
     return icon;
+}
+
+}  // namespace
+
+void showPreset(QAbstractButton *key, int preset, bool saved) {
+    const QVariant shown = key->property(savedProperty);
+    if (!shown.isValid() || shown.toBool() != saved) {
+        key->setProperty(savedProperty, saved);
+        key->setIcon(presetIcon(preset, saved));
+    }
 }
 
 void setLongClick(QAbstractButton *key, bool on) {

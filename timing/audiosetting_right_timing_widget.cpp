@@ -367,7 +367,7 @@ void Audiosetting_right_timing_widget::updatePresetButton(int preset) {
 }
 
 void Audiosetting_right_timing_widget::updatePresetBtnIcon(int preset) {
-    presetKey(preset)->setIcon(presetIcon(preset, presetSaved(preset).flag()));
+    showPreset(presetKey(preset), preset, presetSaved(preset).flag());
 }
 
 // Helpers ---------------------------------------------------------------------------------------------------------

@@ -14,7 +14,7 @@ const double stepsPerMillisecond = 24.0;
 const double centimetresPerInch = 2.54;
 const double centimetresPerMillisecond = 34.0;
 
-// Single precision is required: it decides some of the roundings.
+// Single precision is required: it decides which way some delays are rounded.
 float milliseconds(int delay) {
     return static_cast<float>(delay / delaysPerMillisecond);
 }

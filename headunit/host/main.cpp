@@ -20,6 +20,9 @@
 #include <cstdio>
 #include <memory>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace headunit;
 
 namespace {
@@ -67,6 +70,16 @@ void fallBackToTour(Options *options) {
     options->tour = QDir::temp().filePath(QStringLiteral("headunit-tour"));
     std::fprintf(stderr, "headunit: there is no display; a picture of every screen goes to %s\n",
                  qUtf8Printable(options->tour));
+}
+
+/// Qt wants a folder for the running session and prints a warning where nobody set one, as in a container.
+void provideRuntimeFolder() {
+    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
+        const QByteArray folder =
+            QFile::encodeName(QDir::tempPath()) + "/headunit-runtime-" + QByteArray::number(getuid());
+        mkdir(folder.constData(), S_IRWXU);
+        qputenv("XDG_RUNTIME_DIR", folder);
+    }
 }
 
 /// Why the files that the options name cannot be used, or an empty text.
@@ -159,6 +172,7 @@ int main(int argc, char **argv) {
     if (options.scale != 1) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
     }
+    provideRuntimeFolder();
     prepareUnitApplication();
     const bool virtualTime = options.scripted() && qgetenv("QT_QPA_PLATFORM") == "offscreen";
     VirtualTime *const time = virtualTime ? new VirtualTime : nullptr;

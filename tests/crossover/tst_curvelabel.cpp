@@ -1,3 +1,4 @@
+#include "crossover/curvegraph.h"
 #include "crossover/curvelabel.h"
 
 #include "tests/platform/pagetest.h"
@@ -8,17 +9,21 @@
 
 namespace {
 
-const QString picture = QStringLiteral(":/corvina_icon/left_yellow_6db.png");
-const QString otherPicture = QStringLiteral(":/corvina_icon/right_red_18db.png");
+const char picture[] = "left_yellow_6db";
+const char otherPicture[] = "right_red_18db";
 const QSize graph(688, 257);
 
+QString fileOf(const char *name) {
+    return QStringLiteral(":/corvina_icon/%1.png").arg(QLatin1String(name));
+}
+
 /// What is seen of a picture that fills \a place, by a plain scaling of the whole.
-QImage expected(const QString &file, const QRect &place) {
+QImage expected(const char *name, const QRect &place) {
     QImage image(graph, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::black);
     QPainter painter(&image);
     painter.drawImage(place.topLeft(),
-                      QImage(file).scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+                      QImage(fileOf(name)).scaled(place.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     return image;
 }
 
@@ -41,12 +46,13 @@ class tst_CurveLabel : public PageTest {
     Q_OBJECT
 
     struct Graph {
-        QWidget frame;
+        CurveGraph frame{nullptr};
         CurveLabel label{&frame};
 
         Graph() {
-            frame.setAutoFillBackground(true);
-            frame.setPalette(QPalette(Qt::black));
+            QPixmap ground(graph);
+            ground.fill(Qt::black);
+            frame.setGround(ground);
             frame.setFixedSize(graph);
             show(&frame);
         }
@@ -70,7 +76,7 @@ private slots:
     void wholePictureFillsTheLabel() {
         QFETCH(QRect, place);
         Graph graph;
-        for (const QString &file : {picture, otherPicture}) {
+        for (const char *file : {picture, otherPicture}) {
             graph.label.setCurve(file);
             graph.label.setGeometry(place);
             const double found = difference(graph.seen(), expected(file, place));
@@ -81,7 +87,7 @@ private slots:
     void isTheLabelsPixmapToo() {
         Graph graph;
         graph.label.setCurve(picture);
-        QCOMPARE(graph.label.pixmap(Qt::ReturnByValue).toImage(), QPixmap(picture).toImage());
+        QCOMPARE(graph.label.pixmap(Qt::ReturnByValue).toImage(), QPixmap(fileOf(picture)).toImage());
     }
 
     void followsItsGeometryAndPicture() {
@@ -128,7 +134,7 @@ private slots:
         const QImage seen = graph.seen();
         // Each pixel seen is that of the picture at its share of the label, or what lies between two of them.
         const QImage whole = expected(picture, QRect(0, 0, 1050, 256));
-        const QImage source = QImage(picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        const QImage source = QImage(fileOf(picture)).convertToFormat(QImage::Format_ARGB32_Premultiplied);
         for (int x : {10, 344, 600}) {
             const double sourceX = (x - place.x() + 0.5) / place.width() * source.width() - 0.5;
             const double sourceY = (128.5 - place.y()) / place.height() * source.height() - 0.5;
@@ -146,6 +152,40 @@ private slots:
             QVERIFY2(qAbs(red - mixed) <= 3,
                      qPrintable(QStringLiteral("%1, not %2, at %3").arg(red).arg(mixed).arg(x)));
         }
+    }
+
+    void uppermostIsPaintedLast() {
+        Graph graph;
+        CurveLabel other(&graph.frame);
+        const QRect place(-360, 0, 1050, 256);
+        graph.label.setCurve(picture);
+        graph.label.setGeometry(place);
+        other.setCurve("left_green_6db");
+        other.setGeometry(place);
+        other.show();
+        // On the line, which is not transparent.
+        const QPoint line(600, 4);
+        const auto greenest = [&] {
+            const QRgb seen = graph.seen().pixel(line);
+            return qGreen(seen) > qRed(seen);
+        };
+        QVERIFY(greenest());
+        graph.label.raise();
+        QVERIFY(!greenest());
+        other.raise();
+        QVERIFY(greenest());
+    }
+
+    void groundIsSeenThroughTheCurves() {
+        Graph graph;
+        graph.label.setCurve(picture);
+        graph.label.setGeometry(-360, 0, 1050, 506);
+        const QImage onBlack = graph.seen();
+        QPixmap white(::graph);
+        white.fill(Qt::white);
+        graph.frame.setGround(white);
+        const QImage onWhite = graph.seen();
+        QVERIFY(qBlue(onWhite.pixel(344, 250)) > qBlue(onBlack.pixel(344, 250)) + 100);
     }
 
     void furthestPlaces() {

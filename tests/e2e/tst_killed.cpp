@@ -57,7 +57,7 @@ QString TestKilled::write(const QString &name, const QByteArray &content) {
 void TestKilled::start(QProcess *process, const QString &script) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
-    environment.insert("XDG_RUNTIME_DIR", m_folder.path());
+    environment.remove("XDG_RUNTIME_DIR");
     process->setProcessEnvironment(environment);
     process->start(HEADUNIT, {"--root", m_folder.filePath("root"), "--script", script});
 }

@@ -58,13 +58,12 @@ QString TestHeadunit::write(const QString &name, const QByteArray &content) {
 TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStringList &unset) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
-    environment.insert("XDG_RUNTIME_DIR", m_folder->path());
+    environment.remove("XDG_RUNTIME_DIR");
     environment.insert("XDG_DATA_HOME", m_folder->filePath("data"));
     environment.insert("TMPDIR", m_folder->path());
     for (const QString &name : unset) {
         environment.remove(name);
     }
-    QFile::setPermissions(m_folder->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(m_folder->path());
@@ -152,8 +151,9 @@ void TestHeadunit::exitWhenShown() {
 
 void TestHeadunit::scale() {
     // Places are the unit's pixels, whatever the desk's are.
-    const QString script = write("s.js", "tap(816, 320); expect('car', 'visible', true); shot('car.png');"
-                                         "tap('hardkey_home'); expect('home', 'visible', true);");
+    const QString script = write("s.js",
+                                 "tap(816, 320); expect('car', 'visible', true); shot('car.png');"
+                                 "tap('hardkey_home'); expect('home', 'visible', true);");
     for (const char *scale : {"1", "1.5", "2"}) {
         const Result result = run({"--scale", scale, "--script", script});
         QVERIFY2(result.code == 0, qPrintable(result.err));

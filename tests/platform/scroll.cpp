@@ -81,12 +81,16 @@ ScrollManage::~ScrollManage() {
 }
 
 bool ScrollManage::eventFilter(QObject *watched, QEvent *event) {
-    if (!d->area || isSlider(watched)) {
+    const QEvent::Type type = event->type();
+    // Anything else may come from a scroll area that is being destroyed.
+    const bool touch =
+        type == QEvent::MouseButtonPress || type == QEvent::MouseMove || type == QEvent::MouseButtonRelease;
+    if (!touch || !d->area || isSlider(watched)) {
         return false;
     }
     QScrollBar *const down = d->area->verticalScrollBar();
     QScrollBar *const across = d->area->horizontalScrollBar();
-    switch (event->type()) {
+    switch (type) {
         case QEvent::MouseButtonPress:
             d->pressed = true;
             d->scrolling = false;

@@ -128,7 +128,7 @@ void PicturesTest::initTestCase() {
     QVERIFY2(table.open(QIODevice::ReadOnly | QIODevice::Text), PICTURE_TABLE);
     while (!table.atEnd()) {
         const QString line = QString::fromUtf8(table.readLine()).trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#'))) {
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#')) || line.startsWith(QLatin1Char('['))) {
             continue;
         }
         const QStringList cells = line.split(QRegularExpression(QStringLiteral(" +")));

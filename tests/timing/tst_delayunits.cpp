@@ -48,6 +48,9 @@ private slots:
         QTest::newRow("most") << 99 << "9.9" << 133;
         QTest::newRow("negative") << -5 << "-0.5" << -7;
         QTest::newRow("minus one step") << -1 << "-0.1" << -1;
+        QTest::newRow("one half") << 500 << "50" << 670;
+        QTest::newRow("one half, away from zero") << -500 << "-50" << -670;
+        QTest::newRow("single precision decides") << 21441 << "2144.1" << 28710;
         QTest::newRow("beyond") << 100 << "10" << 134;
         QTest::newRow("six digits") << 12345678 << "1.23457e+06" << 16530863;
         QTest::newRow("highest") << highest << "2.14748e+08" << highest;

@@ -191,8 +191,8 @@ private slots:
             QVERIFY(page.findChild<QLabel *>(QLatin1String(row.placeholder))->text().isEmpty());
         }
         QCOMPARE(QPixmap(QStringLiteral(":/corvina_icon/audiosetting_txt_line.png")).size(), QSize(864, 72));
-        QCOMPARE(QPixmap(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n.png")).size(), QSize(638, 72));
-        QCOMPARE(QPixmap(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_p_3.png")).size(), QSize(638, 72));
+        QCOMPARE(QPixmap(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n.png")).size(), QSize(638, 52));
+        QCOMPARE(QPixmap(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_p_3.png")).size(), QSize(638, 52));
         QVERIFY(!QPixmap(QStringLiteral(":/corvina_volume_slider/key_volume_slider.png")).isNull());
     }
 

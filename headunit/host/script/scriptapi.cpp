@@ -38,7 +38,11 @@ QList<QWidget *> ScriptApi::all(const QString &name) {
     for (const QString &part : name.split(QLatin1Char('/'))) {
         QList<QWidget *> next;
         for (const QWidget *parent : qAsConst(found)) {
-            next << parent->findChildren<QWidget *>(part);
+            for (QWidget *child : parent->findChildren<QWidget *>()) {
+                if (child->objectName() == part || part == QLatin1String(child->metaObject()->className())) {
+                    next << child;
+                }
+            }
         }
         found = next;
     }

@@ -34,7 +34,7 @@ release();
 use("key_Subwoofer");
 use("key_subvol_next");
 use("key_Phase_180");
-drag("balancefader_bg", [[130, 130], [180, 60], [200, 70]]);
+drag("settings::balanceFaderControl", [[130, 130], [180, 60], [200, 70]]);
 settle();
 shot("general_subwoofer.png", "General, subwoofer on, reversed, sound placed front right");
 use("key_defeat");
@@ -62,29 +62,42 @@ settle();
 shot("eq_preset.png", "EQ, a curve of the driver's own");
 
 use("key_crossover");
-for (var step = 0; step < 6; ++step) {
+for (i = 0; i < 6; ++i) {
     use("key_freq_plus");
 }
 use("key_slope_plus");
+use("key_rear");
+use("key_freq_plus");
+use("key_freq_plus");
+use("key_level_minus");
+use("key_level_minus");
 use("key_sub");
-for (step = 0; step < 3; ++step) {
+for (i = 0; i < 4; ++i) {
     use("key_freq_plus");
+    use("key_level_minus");
 }
-use("key_slope_plus");
-use("key_slope_plus");
-use("key_level_minus");
-use("key_level_minus");
+use("key_slope_minus");
+press("key_preset_1");
+wait(1600);
+release();
 settle();
-shot("crossover_filters.png", "Crossover, front high-pass and subwoofer low-pass");
-
+shot("crossover_set.png", "Crossover, three filters, kept as preset 1");
+use("Key_update");
 use("key_timing");
-for (step = 0; step < 12; ++step) {
-    use("key_fl_plus");
-    use("key_rl_plus");
-}
+press("key_fl_plus");
+wait(4000);
+release();
+use("key_rr_plus");
+press("key_preset_2");
+wait(1600);
+release();
+settle();
+shot("timing_set.png", "Timing, kept as preset 2");
 use("key_inches");
 settle();
-shot("timing_inches.png", "Timing, in inches");
+shot("timing_inches.png", "Timing in inches");
+use("key_msec");
+use("Key_update");
 
 use("key_general");
 use("key_advanced");

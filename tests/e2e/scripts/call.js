@@ -20,7 +20,7 @@ expect(sound().subwooferLevel === 4);
 // The same on the pad: what was reached is sent, and the next touch starts anew.
 press("key_subvol_next");
 release();
-drag("balancefader_bg", 132, 130, 132 + 60, 130);
+drag("settings::balanceFaderControl", 132, 130, 132 + 60, 130);
 call(true);
 wait(500);
 expect(sound().balance === 10);

@@ -44,7 +44,7 @@ expect(sound().subwooferPhase === 1);
 // The pad: a touch counts from the middle in steps of 6 pixels, and reaches the sound 100 ms later.
 var middleX = 132;
 var middleY = 130;
-drag("balancefader_bg", middleX, middleY, middleX - 36, middleY - 24);
+drag("settings::balanceFaderControl", middleX, middleY, middleX - 36, middleY - 24);
 expect("txt_bal_val", "text", "-6");
 expect("txt_fad_val", "text", "4");
 wait(100);

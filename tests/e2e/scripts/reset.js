@@ -11,7 +11,7 @@ wait(guard);
 use("key_Subwoofer");
 use("key_subvol_next");
 use("key_Phase_180");
-drag("balancefader_bg", 132, 130, 192, 70);
+drag("settings::balanceFaderControl", 132, 130, 192, 70);
 wait(guard);
 use("key_advanced");
 use("Key_001_loudness");

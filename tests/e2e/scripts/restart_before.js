@@ -14,7 +14,7 @@ use("key_Subwoofer");
 use("key_subvol_next");
 use("key_subvol_next");
 use("key_Phase_180");
-drag("balancefader_bg", 132, 130, 132 + 42, 130 + 30);
+drag("settings::balanceFaderControl", 132, 130, 132 + 42, 130 + 30);
 wait(guard);
 use("key_advanced");
 use("Key_001_loudness");
