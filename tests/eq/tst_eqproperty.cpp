@@ -10,7 +10,7 @@ using namespace eqpage;
 
 namespace {
 
-const int steps = 10000;
+const int steps = 5000;
 const int settleTime = 200;  // ms; longer than the guard of the tabs and the commit timer
 
 QList<int> presetLevels(int type) {
