@@ -13,6 +13,7 @@ set(PICTURES_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/pictures.cpp.in)
 # neighbours'.
 # The pictures for dense displays (name@2x.png) go to the file DENSE, which the target maps at start when the display
 # needs them; it must stand in the same folder as the program or library.
+# The target TARGET_pictures makes all these files and lists them in its property PICTURE_FILES.
 function(headunit_pictures target)
     cmake_parse_arguments(ARG "" "TABLE;DENSE" "" ${ARGN})
     get_filename_component(table ${ARG_TABLE} ABSOLUTE)
@@ -81,6 +82,7 @@ function(headunit_pictures target)
     target_sources(${target} PRIVATE ${out}/${target}_pictures.cpp)
     target_link_libraries(${target} PRIVATE ${CMAKE_DL_LIBS})
     add_custom_target(${target}_pictures DEPENDS ${pack_files} ${ARG_DENSE})
+    set_target_properties(${target}_pictures PROPERTIES PICTURE_FILES "${pack_files};${ARG_DENSE}")
     add_dependencies(${target} ${target}_pictures)
 endfunction()
 
