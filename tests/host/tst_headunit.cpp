@@ -24,6 +24,7 @@ private Q_SLOTS:
     void scriptsAreInstant();
     void trace();
     void debugLines();
+    void tourWithoutADisplay_data();
     void tourWithoutADisplay();
     void damagedSettings();
 
@@ -34,7 +35,7 @@ private:
         QString err;
         QStringList errLines() const { return err.split(QLatin1Char('\n'), Qt::SkipEmptyParts); }
     };
-    Result run(const QStringList &arguments, const QStringList &unset = {});
+    Result run(const QStringList &arguments, const QStringList &unset = {}, const QString &display = {});
     /// Writes a file into the test's folder.
     QString write(const QString &name, const QByteArray &content);
 
@@ -55,7 +56,7 @@ QString TestHeadunit::write(const QString &name, const QByteArray &content) {
     return path;
 }
 
-TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStringList &unset) {
+TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStringList &unset, const QString &display) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.remove("XDG_RUNTIME_DIR");
@@ -63,6 +64,9 @@ TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStri
     environment.insert("TMPDIR", m_folder->path());
     for (const QString &name : unset) {
         environment.remove(name);
+    }
+    if (!display.isEmpty()) {
+        environment.insert("DISPLAY", display);
     }
     QProcess process;
     process.setProcessEnvironment(environment);
@@ -237,12 +241,21 @@ void TestHeadunit::debugLines() {
     QVERIFY2(verbose.err.contains("[DBG]") && verbose.err.contains("audioSettingsPage: "), qPrintable(verbose.err));
 }
 
+void TestHeadunit::tourWithoutADisplay_data() {
+    QTest::addColumn<QString>("display");
+    QTest::newRow("none") << QString();
+    QTest::newRow("one that does not answer") << QStringLiteral("no-such-host.invalid:0");
+}
+
 void TestHeadunit::tourWithoutADisplay() {
-    const Result result = run({}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"});
+    QFETCH(QString, display);
+    const Result result = run({}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}, display);
     QVERIFY2(result.code == 0, qPrintable(result.err));
-    QCOMPARE(result.errLines().size(), 1);
+    // What Qt says about the display may come before.
+    QVERIFY(display.isEmpty() ? result.errLines().size() == 1 : !result.errLines().isEmpty());
     const QString folder = m_folder->filePath("headunit-tour");
-    QVERIFY2(result.err.contains("no display") && result.err.contains(folder), qPrintable(result.err));
+    QVERIFY2(result.errLines().last().contains("no display") && result.errLines().last().contains(folder),
+             qPrintable(result.err));
     // One line of the index for each picture, and each picture is of the screen's size.
     const QStringList pictures = QDir(folder).entryList({"*.png"}, QDir::Files);
     const QStringList index = result.out.split('\n', Qt::SkipEmptyParts);
