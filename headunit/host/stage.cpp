@@ -3,21 +3,9 @@
 #include "keyevent.h"
 #include "windowinterface.h"
 
-#include <QAbstractButton>
 #include <QWidget>
 
 namespace headunit {
-
-namespace {
-
-/// A key that is held when the screen is taken away, by a call for example, must not act when the finger goes up.
-void releaseKeys(QWidget *widget) {
-    for (QAbstractButton *key : widget->findChildren<QAbstractButton *>()) {
-        key->setDown(false);
-    }
-}
-
-}  // namespace
 
 Stage::Stage(QWidget *stage, QObject *parent) : QObject(parent), m_stage(stage) {}
 
@@ -61,7 +49,6 @@ void Stage::leave() {
     left->onExit();
     if (QWidget *widget = left->mainWidget()) {
         widget->hide();
-        releaseKeys(widget);
     }
     left->onHide();
     Q_EMIT frontChanged();
