@@ -1,5 +1,6 @@
 #include "headunit/host/hostapplication.h"
 
+#include "headunit/settings/trace.h"
 #include "touchevent.h"
 
 #include <QAbstractButton>
@@ -14,6 +15,17 @@ void takeFingerOff(QAbstractButton *key) {
     key->setDown(false);
     QMouseEvent up(QEvent::MouseButtonRelease, QPointF(), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
     static_cast<QObject *>(key)->event(&up);
+}
+
+QString touchText(int code) {
+    switch (code) {
+        case Qx::TouchBack:
+            return QStringLiteral("leave by Back");
+        case Qx::TouchClose:
+            return QStringLiteral("close, to the home screen");
+        default:
+            return QStringLiteral("touch code %1 (has no meaning here)").arg(code);
+    }
 }
 
 }  // namespace
@@ -33,7 +45,9 @@ bool HostApplication::notify(QObject *receiver, QEvent *event) {
 
 bool HostApplication::event(QEvent *event) {
     if (event->type() == TouchEvent::eventType()) {
-        Q_EMIT touched(static_cast<TouchEvent *>(event)->code());
+        const auto touch = static_cast<TouchEvent *>(event);
+        HEADUNIT_TRACE(traceCall("TouchEvent", {int(touch->code()), touch->x(), touch->y()}), touchText(touch->code()));
+        Q_EMIT touched(touch->code());
         return true;
     }
     return QApplication::event(event);

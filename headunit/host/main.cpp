@@ -121,6 +121,7 @@ QString fileProblem(const Options &options) {
 }
 
 void printTrace() {
+    setTraceReads(true);
     setTraceSink([](const TraceEntry &entry) {
         std::printf("%s -> %s\n", qUtf8Printable(entry.call), qUtf8Printable(entry.meaning));
     });

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void scriptResults();
     void scriptsAreInstant();
     void trace();
+    void traceOfAVisit();
     void debugLines();
     void tourWithoutADisplay_data();
     void tourWithoutADisplay();
@@ -231,6 +232,22 @@ void TestHeadunit::trace() {
     QVERIFY2(calls.at(2).startsWith("setVolumeLevel(7, 2) -> "), qPrintable(calls.at(2)));
     QVERIFY(calls.at(0).size() > int(qstrlen("setVolumeLevel(21, 0) -> ")));
     QCOMPARE(run({"--script", script}).out, QStringLiteral("between\n"));
+}
+
+void TestHeadunit::traceOfAVisit() {
+    // Calls in both directions, readers included, in their order.
+    const QString script =
+        write("s.js", "open('audiosetting'); wait(200); tap('key_Subwoofer'); tap('key_return'); wait(0);");
+    const QStringList lines = run({"--trace", "--script", script}).out.split('\n', Qt::SkipEmptyParts);
+    int at = -1;
+    for (const char *call :
+         {"onCreate() -> ", "SettingsFunc::getValue(\"SettingTouchPageType\", 0) -> ", "onShow() -> ",
+          "getValue(\"subwooferLevel\", 3) -> ", "onEnter() -> ", "doBeep(0) -> key click", "setSubwooferValue(3) -> ",
+          "TouchEvent(15, -1, -1) -> leave by Back", "onExit() -> ", "onHide() -> ", "onDestroy() -> "}) {
+        const int next = lines.indexOf(QRegularExpression('^' + QRegularExpression::escape(call) + ".*"), at + 1);
+        QVERIFY2(next > at, qPrintable(QLatin1String(call) + QLatin1Char('\n') + lines.join('\n')));
+        at = next;
+    }
 }
 
 void TestHeadunit::debugLines() {
