@@ -81,6 +81,7 @@ function(headunit_pictures target)
     target_sources(${target} PRIVATE ${out}/${target}_pictures.cpp)
     target_link_libraries(${target} PRIVATE ${CMAKE_DL_LIBS})
     add_custom_target(${target}_pictures DEPENDS ${pack_files} ${ARG_DENSE})
+    set_target_properties(${target}_pictures PROPERTIES PICTURE_PACKS "${pack_files}")
     add_dependencies(${target} ${target}_pictures)
 endfunction()
 
