@@ -234,6 +234,21 @@ private slots:
         QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("90 270 450 630 810 990"));
     }
 
+    void onlyMainsSliderOutlivesAnotherInitialisation() {
+        Audiovolumsettings page(nullptr);
+        const auto slidersAt = [&](const Row &row) {
+            const QRect place = page.findChild<QLabel *>(QLatin1String(row.placeholder))->geometry();
+            const auto sliders = page.findChildren<HorizontalSlider *>();
+            return std::count_if(sliders.begin(), sliders.end(),
+                                 [&](const HorizontalSlider *slider) { return slider->geometry() == place; });
+        };
+        page.initUi();
+        for (const Row &row : rows) {
+            QCOMPARE(int(slidersAt(row)), &row == &mainRow ? 1 : 2);
+        }
+        QCOMPARE(page.findChildren<cm::ScrollBar *>().size(), 1);
+    }
+
     void scrollBarStandsOnThePage() {
         Audiovolumsettings page(nullptr);
         show(&page);
