@@ -209,6 +209,7 @@ private slots:
             QCOMPARE(label->font().bold(), text.bold);
             QCOMPARE(label->styleSheet(), QLatin1String(text.style));
         }
+        QVERIFY(page.findChild<QLabel *>(QStringLiteral("txt_reset_success"))->isHidden());
         QCOMPARE(recording::take(), QStringList());
     }
 

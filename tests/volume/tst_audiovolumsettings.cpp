@@ -249,6 +249,15 @@ private slots:
         QCOMPARE(page.findChildren<cm::ScrollBar *>().size(), 1);
     }
 
+    void theScreensGroundShinesThrough() {
+        QWidget screen;
+        screen.resize(1024, 600);
+        Audiovolumsettings page(&screen);
+        page.show();
+        show(&screen);
+        QCOMPARE(colourBetweenRows(&page, Qt::green, Qt::red), QColor(Qt::red));
+    }
+
     void scrollBarStandsOnThePage() {
         Audiovolumsettings page(nullptr);
         show(&page);
