@@ -19,7 +19,8 @@ function oneOf(list) {
 var screenWidth = 1024;
 var screenHeight = 600;
 var farthest = 2147483647;
-var keys = ["SettingTouchPageType", "Setup_Loudness", "ADV_AUDIO_SETTINGS", "EQ_DEFEAT_TYPE", "Setup_Sub",
+// But "SettingTouchPageType": Volume Settings clears it when the unit goes off.
+var keys = ["Setup_Loudness", "ADV_AUDIO_SETTINGS", "EQ_DEFEAT_TYPE", "Setup_Sub",
             "subwooferLevel", "subwooferphase", "SoundFieldBalance", "SoundFieldFader", "HIGHLIGHT_PRESET_ID",
             "custom_eq_type_id", "crossover/type", "crossover/frontfreq", "crossover/frontlevel",
             "crossover/frontslope", "crossover/fronty", "crossover/frontheigh", "crossover/rearfreq",
@@ -125,7 +126,7 @@ function openAgain() {
     open("audiosetting");
 }
 function spoilStore() {
-    setStore(oneOf(keys.slice(1)), oneOf([-1, 0, 1, 7, 41, 100, -farthest - 1, farthest]));
+    setStore(oneOf(keys), oneOf([-1, 0, 1, 7, 41, 100, -farthest - 1, farthest]));
 }
 function pause() {
     wait(oneOf([1, 16, 149, 151, 400, 2500, 4000]));

@@ -193,7 +193,7 @@ private slots:
                 }
             }
         }
-        QCOMPARE(QPixmap(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n_2.png")).size(), QSize(638, 72));
+        QCOMPARE(QPixmap(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n_2.png")).size(), QSize(638, 52));
     }
 
     void buildTheirPartsInOrder() {
@@ -223,6 +223,18 @@ private slots:
                 order << QString::number(slider->y());
             }
             QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("90 270 450 630 810 990"));
+        }
+    }
+
+    void theScreensGroundShinesThrough() {
+        QWidget screen;
+        screen.resize(1024, 600);
+        for (const Region &region : regions) {
+            const auto page = region.create();
+            page->setParent(&screen);
+            page->show();
+            show(&screen);
+            QCOMPARE(colourBetweenRows(page.get(), Qt::green, Qt::red), QColor(Qt::red));
         }
     }
 
