@@ -4,6 +4,7 @@
 #include "headunit/host/hostapplication.h"
 #include "headunit/host/options.h"
 #include "headunit/host/plugincatalog.h"
+#include "headunit/host/soundlibrary.h"
 #include "headunit/host/unit.h"
 #include "headunit/settings/trace.h"
 #include "headunit/settings/unitroot.h"
@@ -127,6 +128,11 @@ void printTrace() {
     });
 }
 
+int runSoundJob(const SoundJob &job) {
+    const QString reason = doSoundJob(job);
+    return reason.isEmpty() ? exitGood : refuse(reason);
+}
+
 int runUnit(const Options &options, HostApplication &application, VirtualTime *time) {
     PluginCatalog catalog;
     const QStringList files =
@@ -183,7 +189,11 @@ int main(int argc, char **argv) {
     if (options.help || options.version) {
         return printHelpOrVersion(options, argc, argv);
     }
-    fallBackToTour(&options);
+    if (options.soundJob.isEmpty()) {
+        fallBackToTour(&options);
+    } else {
+        qputenv("QT_QPA_PLATFORM", offscreen);
+    }
     const QString problem = fileProblem(options);
     if (!problem.isEmpty()) {
         return refuse(problem);
@@ -216,7 +226,7 @@ int main(int argc, char **argv) {
     if (options.trace) {
         printTrace();
     }
-    const int result = runUnit(options, application, time);
+    const int result = options.soundJob.isEmpty() ? runUnit(options, application, time) : runSoundJob(options.soundJob);
     setTraceSink({});
     closeSettings();
     return result;

@@ -24,6 +24,8 @@ constexpr OptionRow optionRows[] = {
     {"open", "NAME", "Open an application at once, for example audiosetting."},
     {"script", "FILE.js", "Run a script (JavaScript) and end with its result."},
     {"tour", "DIR", "Visit every screen, leave a picture of each in a folder, and end."},
+    {"render", "IN", "Play a sound file under the current settings into another, --render IN.wav OUT.wav, and end."},
+    {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
     {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
     {"verbose", nullptr, "Print debug lines."},
     {"exit-when-shown", nullptr, "End once the first screen is painted; for measuring the start."},
@@ -68,8 +70,17 @@ QString problem(const QCommandLineParser &parser) {
                 .arg(largestScale);
         }
     }
-    if (parser.isSet(QStringLiteral("script")) && parser.isSet(QStringLiteral("tour"))) {
-        return QStringLiteral("--script and --tour do not go together");
+    QStringList given;
+    for (const char *name : {"script", "tour", "render", "measure"}) {
+        if (parser.isSet(QString::fromLatin1(name))) {
+            given << QStringLiteral("--") + QString::fromLatin1(name);
+        }
+    }
+    if (given.size() > 1) {
+        return QStringLiteral("%1 do not go together").arg(given.join(QStringLiteral(" and ")));
+    }
+    if (parser.isSet(QStringLiteral("render")) && parser.positionalArguments().size() != 1) {
+        return QStringLiteral("--render needs two files: the one to play, and the one to write");
     }
     return QString();
 }
@@ -85,6 +96,9 @@ ParsedOptions parseOptions(const QStringList &arguments) {
         return parsed;
     }
     parsed.error = problem(parser);
+    if (!parsed.error.isEmpty()) {
+        return parsed;
+    }
     Options &options = parsed.options;
     options.plugins = parser.positionalArguments();
     options.root = parser.value(QStringLiteral("root"));
@@ -95,6 +109,11 @@ ParsedOptions parseOptions(const QStringList &arguments) {
     options.open = parser.value(QStringLiteral("open"));
     options.script = parser.value(QStringLiteral("script"));
     options.tour = parser.value(QStringLiteral("tour"));
+    options.soundJob.renderFrom = parser.value(QStringLiteral("render"));
+    if (!options.soundJob.renderFrom.isEmpty()) {
+        options.soundJob.renderTo = options.plugins.takeFirst();
+    }
+    options.soundJob.measureTo = parser.value(QStringLiteral("measure"));
     options.trace = parser.isSet(QStringLiteral("trace"));
     options.verbose = parser.isSet(QStringLiteral("verbose"));
     options.exitWhenShown = parser.isSet(QStringLiteral("exit-when-shown"));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "headunit/host/soundlibrary.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -14,6 +16,7 @@ struct Options {
     QString open;                ///< application to open at once; empty: the home screen
     QString script;              ///< script to run
     QString tour;                ///< folder that the tour's pictures go to; empty: no tour
+    SoundJob soundJob;           ///< what to do with the sound instead of showing the unit
     bool trace = false;          ///< print each call across the contract
     bool verbose = false;        ///< print debug lines
     bool exitWhenShown = false;  ///< end once the first screen is painted

@@ -9,6 +9,7 @@ class TestOptions : public QObject {
 private Q_SLOTS:
     void defaults();
     void values();
+    void soundJobs();
     void refuses_data();
     void refuses();
     void helpNamesEveryOption();
@@ -49,6 +50,21 @@ void TestOptions::values() {
     QVERIFY(parsed.options.exitWhenShown);
 }
 
+void TestOptions::soundJobs() {
+    QVERIFY(parseOptions({QStringLiteral("headunit")}).options.soundJob.isEmpty());
+    headunit::ParsedOptions parsed = parseOptions(
+        {QStringLiteral("headunit"), QStringLiteral("--render"), QStringLiteral("in.wav"), QStringLiteral("out.wav")});
+    QCOMPARE(parsed.error, QString());
+    QVERIFY(!parsed.options.soundJob.isEmpty());
+    QCOMPARE(parsed.options.soundJob.renderFrom, QStringLiteral("in.wav"));
+    QCOMPARE(parsed.options.soundJob.renderTo, QStringLiteral("out.wav"));
+    QCOMPARE(parsed.options.plugins, QStringList());
+    parsed = parseOptions({QStringLiteral("headunit"), QStringLiteral("--measure=a.csv")});
+    QCOMPARE(parsed.error, QString());
+    QVERIFY(!parsed.options.soundJob.isEmpty());
+    QCOMPARE(parsed.options.soundJob.measureTo, QStringLiteral("a.csv"));
+}
+
 void TestOptions::refuses_data() {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("named");
@@ -67,6 +83,9 @@ void TestOptions::refuses_data() {
     row("scale too large", "--scale 9", "--scale 9");
     row("scale nan", "--scale nan", "--scale nan");
     row("script and tour", "--script a --tour b", "--tour");
+    row("render and measure", "--render a --measure b c", "--render and --measure");
+    row("render without a second file", "--render a", "--render");
+    row("render with a third file", "--render a b c", "--render");
 }
 
 void TestOptions::refuses() {

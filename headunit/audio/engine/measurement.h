@@ -1,0 +1,28 @@
+#pragma once
+
+#include "format.h"
+
+#include "headunit/audio/soundstate.h"
+
+#include <array>
+#include <complex>
+#include <vector>
+
+namespace headunit::engine {
+
+/// What becomes of a tone that is alike on left and right of the main input, once the engine's latency is taken off.
+struct MeasuredPoint {
+    double hz;
+    std::array<std::complex<double>, outputCount> outputs;
+
+    /// As if all loudspeakers stood in one place.
+    std::complex<double> sum() const;
+};
+
+/// Measures the engine's samples under \a state at \a frequencies in Hz, below half the sample rate.
+std::vector<MeasuredPoint> measure(const SoundState &state, const std::vector<double> &frequencies);
+
+/// From 20 Hz to 20 kHz, 24 an octave.
+std::vector<double> audibleFrequencies();
+
+}  // namespace headunit::engine

@@ -1,0 +1,94 @@
+#include "headunit/audio/files/render.h"
+
+#include "soundfiletest.h"
+#include "tests/headunit/engine/rendering.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace headunit;
+using soundfiletest::SoundFile;
+
+class TestRender : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void sameAsTheEngine_data();
+    void sameAsTheEngine();
+    void sameFileEveryTime();
+    void whatCannotBePlayedLeavesNothing();
+
+private:
+    std::string path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)).toStdString(); }
+    QByteArray contents(const char *name) const {
+        QFile file(m_folder.filePath(QString::fromLatin1(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir m_folder;
+    std::string m_error;
+};
+
+namespace {
+
+SoundState busy() {
+    SoundState state = rendering::neutral();
+    state.eqType = 3;
+    state.loudness = true;
+    state.channelLevel[0] = 36;
+    state.front = {5, 3, 10};
+    state.delay = {0, 10, 20, 30, 40, 99};
+    return state;
+}
+
+SoundFile noise(size_t frames) {
+    SoundFile file;
+    file.sampleRate = 48000;
+    file.channels = 2;
+    file.samples = rendering::noise(frames);
+    return file;
+}
+
+}  // namespace
+
+void TestRender::sameAsTheEngine_data() {
+    QTest::addColumn<int>("frames");
+    // Around the latency and around the size of a block.
+    for (const int frames : {1, 62, 63, 64, 4095, 4096, 4097, 20000}) {
+        QTest::newRow(qPrintable(QString::number(frames))) << frames;
+    }
+}
+
+void TestRender::sameAsTheEngine() {
+    QFETCH(int, frames);
+    const SoundFile in = noise(static_cast<size_t>(frames));
+    soundfiletest::write(path("in.wav"), in);
+    QVERIFY(renderFile(path("in.wav"), path("out.wav"), busy(), &m_error));
+    const SoundFile out = soundfiletest::read(path("out.wav"));
+    const rendering::Sound expected = rendering::render(busy(), in.samples);
+    QCOMPARE(out.channels, 6);
+    QCOMPARE(out.samples.size(), static_cast<size_t>(frames) * 6);
+    for (size_t i = 0; i < out.samples.size(); ++i) {
+        QCOMPARE(out.samples[i], expected[i % 6][i / 6]);
+    }
+}
+
+void TestRender::sameFileEveryTime() {
+    soundfiletest::write(path("in.wav"), noise(10000));
+    QVERIFY(renderFile(path("in.wav"), path("one.wav"), busy(), &m_error));
+    QVERIFY(renderFile(path("in.wav"), path("two.wav"), busy(), &m_error));
+    QVERIFY(contents("one.wav") == contents("two.wav"));
+    QVERIFY(!contents("one.wav").isEmpty());
+}
+
+void TestRender::whatCannotBePlayedLeavesNothing() {
+    QTemporaryDir folder;
+    const std::string out = folder.filePath("out.wav").toStdString();
+    QVERIFY(!renderFile(path("missing.wav"), out, busy(), &m_error));
+    QVERIFY(m_error.find(path("missing.wav")) == 0);
+    QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+QTEST_APPLESS_MAIN(TestRender)
+#include "tst_render.moc"

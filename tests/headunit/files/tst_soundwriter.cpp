@@ -1,0 +1,134 @@
+#include "headunit/audio/files/soundwriter.h"
+
+#include "soundfiletest.h"
+#include "tests/headunit/engine/rendering.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+#include <sndfile.h>
+#include <sys/resource.h>
+
+using headunit::SoundWriter;
+
+class TestSoundWriter : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void sixNamedChannels();
+    void nothingStandsThereBeforeTheEnd();
+    void unfinishedLeavesNothing();
+    void replaces();
+    void noSuchFolder();
+    void diskFull_data();
+    void diskFull();
+
+private:
+    QString file() const { return m_folder->filePath("out.wav"); }
+    QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files); }
+
+    std::vector<float> m_samples = rendering::noise(30000);  // six channels of 10000 frames
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::string m_error;
+};
+
+void TestSoundWriter::init() {
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_error.clear();
+}
+
+void TestSoundWriter::sixNamedChannels() {
+    SoundWriter writer;
+    QVERIFY(writer.open(file().toStdString(), &m_error));
+    QVERIFY(writer.write(m_samples.data(), 4000, &m_error));
+    QVERIFY(writer.write(m_samples.data() + 4000 * 6, 6000, &m_error));
+    QVERIFY(writer.finish(&m_error));
+    const soundfiletest::SoundFile read = soundfiletest::read(file().toStdString());
+    QCOMPARE(read.sampleRate, 48000);
+    QVERIFY(read.samples == m_samples);
+    const std::vector<int> map = {SF_CHANNEL_MAP_LEFT,       SF_CHANNEL_MAP_RIGHT,     SF_CHANNEL_MAP_REAR_LEFT,
+                                  SF_CHANNEL_MAP_REAR_RIGHT, SF_CHANNEL_MAP_SIDE_LEFT, SF_CHANNEL_MAP_SIDE_RIGHT};
+    QVERIFY(read.channelMap == map);
+    QFile raw(file());
+    QVERIFY(raw.open(QIODevice::ReadOnly));
+    const QByteArray head = raw.read(300);
+    QVERIFY(head.startsWith("RIFF"));  // what every player knows, as long as it fits
+    const int peak = head.indexOf("PEAK");
+    QVERIFY(peak < 0 || head.mid(peak + 12, 4) == QByteArray(4, '\0'));  // no time of day
+}
+
+void TestSoundWriter::nothingStandsThereBeforeTheEnd() {
+    SoundWriter writer;
+    QVERIFY(writer.open(file().toStdString(), &m_error));
+    QVERIFY(writer.write(m_samples.data(), 10000, &m_error));
+    QVERIFY(!QFile::exists(file()));
+    QVERIFY(writer.finish(&m_error));
+    QCOMPARE(files(), QStringList{"out.wav"});
+}
+
+void TestSoundWriter::unfinishedLeavesNothing() {
+    {
+        SoundWriter writer;
+        QVERIFY(writer.open(file().toStdString(), &m_error));
+        QVERIFY(writer.write(m_samples.data(), 10000, &m_error));
+    }
+    QCOMPARE(files(), QStringList());
+}
+
+void TestSoundWriter::replaces() {
+    for (const size_t frames : {5000, 10000, 100}) {
+        SoundWriter writer;
+        QVERIFY(writer.open(file().toStdString(), &m_error));
+        QVERIFY(writer.write(m_samples.data(), frames, &m_error));
+        QVERIFY(writer.finish(&m_error));
+        QCOMPARE(soundfiletest::read(file().toStdString()).samples.size(), frames * 6);
+    }
+}
+
+void TestSoundWriter::noSuchFolder() {
+    SoundWriter writer;
+    const std::string path = file().toStdString() + "/below/a/file.wav";
+    QVERIFY(!writer.open(path, &m_error));
+    QVERIFY(m_error.find(path + ": ") == 0);
+}
+
+void TestSoundWriter::diskFull_data() {
+    QTest::addColumn<int>("bytes");
+    QTest::newRow("at once") << 0;
+    QTest::newRow("in the header") << 40;
+    QTest::newRow("in the samples") << 100000;
+    QTest::newRow("a byte before the end") << 240000;
+}
+
+void TestSoundWriter::diskFull() {
+    QFETCH(int, bytes);
+    QFile before(file());
+    QVERIFY(before.open(QIODevice::WriteOnly));
+    before.write("what was there");
+    before.close();
+    // A limit on the size of files stands for the full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit small = {static_cast<rlim_t>(bytes), usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    bool good = false;
+    {
+        SoundWriter writer;
+        good = writer.open(file().toStdString(), &m_error) && writer.write(m_samples.data(), 10000, &m_error) &&
+               writer.finish(&m_error);
+    }
+    setrlimit(RLIMIT_FSIZE, &usual);
+    QVERIFY(!good);
+    QVERIFY(m_error.find(file().toStdString() + ": ") == 0);
+    QCOMPARE(files(), QStringList{"out.wav"});
+    QVERIFY(before.open(QIODevice::ReadOnly));
+    QCOMPARE(before.readAll(), QByteArray("what was there"));
+}
+
+QTEST_APPLESS_MAIN(TestSoundWriter)
+#include "tst_soundwriter.moc"
