@@ -15,14 +15,14 @@ constexpr size_t impulseFrames = static_cast<size_t>(sampleRate);  ///< by then 
 constexpr float impulseHeight = 1.0F / 256;                        ///< too low for the limiter, whatever is set
 
 /// The answer of all outputs to one sample on both sides.
-std::vector<float> impulseResponse(const SoundState &state) {
+std::vector<float> impulseResponse(const SoundState &state, Input input) {
     const auto sound = std::make_unique<Engine>();
     sound->setParameters(designParameters(state));
     std::vector<float> signal((impulseFrames + Engine::latency) * stereo);
     signal[0] = signal[1] = impulseHeight;
     std::vector<float> answer((impulseFrames + Engine::latency) * outputCount);
     Inputs inputs{};
-    inputs[MainInput] = signal.data();
+    inputs[input] = signal.data();
     sound->process(inputs, answer.data(), impulseFrames + Engine::latency);
     answer.erase(answer.begin(), answer.begin() + Engine::latency * outputCount);
     return answer;
@@ -47,13 +47,26 @@ std::complex<double> MeasuredPoint::sum() const {
     return std::accumulate(outputs.begin(), outputs.end(), std::complex<double>());
 }
 
-std::vector<MeasuredPoint> measure(const SoundState &state, const std::vector<double> &frequencies) {
-    const std::vector<float> answer = impulseResponse(state);
+std::vector<MeasuredPoint> measure(const SoundState &state, const std::vector<double> &frequencies, Input input) {
+    const std::vector<float> answer = impulseResponse(state, input);
     std::vector<MeasuredPoint> points;
     for (const double hz : frequencies) {
         points.push_back(component(answer, hz));
     }
     return points;
+}
+
+std::array<int, outputCount> measureArrival(const SoundState &state) {
+    const std::vector<float> answer = impulseResponse(state, MainInput);
+    std::array<int, outputCount> arrival;
+    for (size_t output = 0; output < outputCount; ++output) {
+        size_t frame = 0;
+        while (frame < impulseFrames && answer[frame * outputCount + output] == 0) {
+            ++frame;
+        }
+        arrival[output] = frame < impulseFrames ? static_cast<int>(frame) : -1;
+    }
+    return arrival;
 }
 
 std::vector<double> audibleFrequencies() {

@@ -10,7 +10,7 @@
 
 namespace headunit::engine {
 
-/// What becomes of a tone that is alike on left and right of the main input, once the engine's latency is taken off.
+/// What becomes of a tone that is alike on left and right of an input, once the engine's latency is taken off.
 struct MeasuredPoint {
     double hz;
     std::array<std::complex<double>, outputCount> outputs;
@@ -19,8 +19,13 @@ struct MeasuredPoint {
     std::complex<double> sum() const;
 };
 
-/// Measures the engine's samples under \a state at \a frequencies in Hz, below half the sample rate.
-std::vector<MeasuredPoint> measure(const SoundState &state, const std::vector<double> &frequencies);
+/// Measures the engine's samples under \a state at \a frequencies in Hz, below half the sample rate. Another \a input
+/// than the main one takes its place.
+std::vector<MeasuredPoint> measure(const SoundState &state, const std::vector<double> &frequencies,
+                                   Input input = MainInput);
+
+/// After how many samples each output begins to answer to the main input; -1 if it stays silent.
+std::array<int, outputCount> measureArrival(const SoundState &state);
 
 /// From 20 Hz to 20 kHz, 24 an octave.
 std::vector<double> audibleFrequencies();

@@ -1,6 +1,7 @@
 #include "headunit/host/script/scriptapi.h"
 
 #include "audioservice.h"
+#include "headunit/audio/engine/format.h"
 #include "headunit/host/script/soundobject.h"
 #include "headunit/host/scripttarget.h"
 #include "headunit/settings/unitsettings.h"
@@ -227,6 +228,18 @@ void ScriptApi::setStore(const QString &key, const QJSValue &value) {
 
 QJSValue ScriptApi::sound() {
     return soundObject(*m_engine);
+}
+
+QJSValue ScriptApi::heard(double hz, int input) {
+    if (!(hz > 0 && hz < engine::sampleRate / 2) || input < 0 || input >= static_cast<int>(engine::inputCount)) {
+        fail(QStringLiteral("there is no tone of %1 Hz on input %2").arg(hz).arg(input));
+        return QJSValue();
+    }
+    return heardObject(*m_engine, hz, input);
+}
+
+QJSValue ScriptApi::arrival() {
+    return arrivalArray(*m_engine);
 }
 
 void ScriptApi::language(const QString &code) {

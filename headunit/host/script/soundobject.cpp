@@ -1,8 +1,11 @@
 #include "headunit/host/script/soundobject.h"
 
+#include "headunit/audio/engine/measurement.h"
 #include "headunit/audio/soundmodel.h"
 
 #include <QJSEngine>
+
+#include <cmath>
 
 namespace headunit {
 
@@ -49,6 +52,26 @@ QJSValue soundObject(QJSEngine &engine) {
     set("subwoofer", filter(engine, state.subwoofer));
     set("delay", array(engine, state.delay));
     return result;
+}
+
+QJSValue heardObject(QJSEngine &scripts, double hz, int input) {
+    constexpr double degreesPerRadian = 180 / 3.14159265358979323846;
+    const engine::MeasuredPoint point =
+        engine::measure(SoundModel::instance().state(), {hz}, static_cast<engine::Input>(input)).front();
+    QJSValue decibels = scripts.newArray(engine::outputCount);
+    QJSValue degrees = scripts.newArray(engine::outputCount);
+    for (size_t output = 0; output < engine::outputCount; ++output) {
+        decibels.setProperty(quint32(output), 10 * std::log10(std::norm(point.outputs[output])));
+        degrees.setProperty(quint32(output), std::arg(point.outputs[output]) * degreesPerRadian);
+    }
+    QJSValue result = scripts.newObject();
+    result.setProperty(QStringLiteral("db"), decibels);
+    result.setProperty(QStringLiteral("deg"), degrees);
+    return result;
+}
+
+QJSValue arrivalArray(QJSEngine &scripts) {
+    return array(scripts, engine::measureArrival(SoundModel::instance().state()));
 }
 
 }  // namespace headunit

@@ -1,0 +1,113 @@
+// Every step of crossovers and delays, and Flat, by finger, heard at the loudspeakers.
+var guard = 200;
+
+function use(place, y) {
+    tap(place, y);
+    wait(guard);
+}
+
+// What each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
+function hears(what, hz, expected, input) {
+    var is = heard(hz, input || 0).db;
+    for (var i = 0; i < 6; ++i) {
+        var same = is[i] === expected[i] || Math.abs(is[i] - expected[i]) < 0.05;
+        expect(same, what + ": loudspeaker " + i + " gives " + is[i] + " dB at " + hz + " Hz, not " + expected[i]);
+    }
+}
+
+var main = -36;
+var sub = main + (3 - 10) * 1.5; // a new unit's subwoofer level, once it is on
+var flat = [main, main, main, main, sub, sub];
+
+// The analogue Butterworth, its axis bent as the digital one's is.
+function filtered(hz, cutOff, slope, highPass) {
+    var ratio = Math.tan(Math.PI * hz / 48000) / Math.tan(Math.PI * cutOff / 48000);
+    return -10 * Math.log10(1 + Math.pow(highPass ? 1 / ratio : ratio, 2 * slope));
+}
+
+function withPair(first, by) {
+    return flat.map(function (db, i) {
+        return i === first || i === first + 1 ? db + by : db;
+    });
+}
+
+open("audiosetting");
+wait(guard);
+use("key_Subwoofer");
+hears("flat", 100, flat);
+
+use("key_crossover");
+[["key_front", 0, true, [25, 40, 63, 80, 100, 160, 250, 500, 1000, 3500, 5000]],
+ ["key_rear", 2, true, [25, 40, 63, 100, 250]],
+ ["key_sub", 4, false, [25, 40, 63, 100, 250]]].forEach(function (row) {
+    use(row[0]);
+    row[3].forEach(function (cutOff) {
+        use("key_freq_plus");
+        [cutOff, row[2] ? cutOff / 2 : cutOff * 2].forEach(function (hz) {
+            hears(row[0] + " " + cutOff + " Hz", hz, withPair(row[1], filtered(hz, cutOff, 1, row[2])));
+        });
+    });
+    var last = row[3][row[3].length - 1];
+    [2, 3].forEach(function (slope) {
+        use("key_slope_plus");
+        var hz = row[2] ? last / 2 : last * 2;
+        hears(row[0] + " slope " + slope, hz, withPair(row[1], filtered(hz, last, slope, row[2])));
+    });
+    for (var level = -1; level >= -12; --level) {
+        use("key_level_minus");
+        hears(row[0] + " level " + level, last, withPair(row[1], level + filtered(last, last, 3, row[2])));
+    }
+    use("Key_update");
+    hears(row[0] + " after Flat", last, flat);
+});
+
+// A preset
+use("key_front");
+use("key_freq_plus");
+use("key_freq_plus");
+press("key_preset_1");
+wait(1600);
+release();
+use("Key_update");
+hears("Flat", 40, flat);
+use("key_preset_1");
+hears("preset", 40, withPair(0, filtered(40, 40, 1, true)));
+use("Key_update");
+
+// Delays: 48 samples a millisecond, each loudspeaker on its own.
+use("key_timing");
+var steps = [0, 0, 0, 0, 0, 0];
+
+function arrives(what) {
+    arrival().forEach(function (samples, i) {
+        expect(samples === Math.round(steps[i] * 4.8), what + ": loudspeaker " + i + " after " + samples + " samples");
+    });
+}
+
+arrives("no delay");
+["fl", "fr", "rl", "rr", "sl", "sr"].forEach(function (name, i) {
+    for (var step = 1; step <= i + 2; ++step) {
+        use("key_" + name + "_plus");
+        steps[i] = step;
+        arrives(name);
+    }
+    use("key_" + name + "_minus");
+    --steps[i];
+    arrives(name);
+});
+press("key_fr_plus");
+wait(25000);
+release();
+steps[1] = 99;
+arrives("the longest");
+hears("delayed", 100, flat);
+press("key_preset_2");
+wait(1600);
+release();
+var kept = steps;
+use("Key_update");
+steps = [0, 0, 0, 0, 0, 0];
+arrives("Flat");
+use("key_preset_2");
+steps = kept;
+arrives("preset");

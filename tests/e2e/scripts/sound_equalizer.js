@@ -1,0 +1,83 @@
+// Every band of the equaliser, every factory curve, a slot and Flat, by finger, heard at the loudspeakers.
+var guard = 200;
+
+function use(place, y) {
+    tap(place, y);
+    wait(guard);
+}
+
+// What each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
+function hears(what, hz, expected, input) {
+    var is = heard(hz, input || 0).db;
+    for (var i = 0; i < 6; ++i) {
+        var same = is[i] === expected[i] || Math.abs(is[i] - expected[i]) < 0.05;
+        expect(same, what + ": loudspeaker " + i + " gives " + is[i] + " dB at " + hz + " Hz, not " + expected[i]);
+    }
+}
+
+var main = -36;
+var bands = [63, 100, 160, 250, 400, 630, 1000, 1600, 2500, 4000, 6300, 10000, 16000];
+var curves = {
+    key_Rock: [5, 2, 2, 2, -2, -4, -3, -3, 0, 2, 4, 2, 4],
+    key_hiphop: [10, 6, 0, 0, 6, 2, -2, -1, -4, 2, 6, 2, 4],
+    key_electronic: [6, 4, 6, 0, 2, 0, 0, 1, 2, 4, 6, 2, 4],
+    key_jazz: [6, 2, 6, 0, -4, -1, 0, -1, 4, 0, -2, -2, 4],
+    key_pop: [2, 4, 6, 4, 0, 0, 1, 1, 0, 0, 2, 3, 4]
+};
+
+function hearsCurve(what, gains) {
+    bands.forEach(function (hz, band) {
+        var there = main + gains[band];
+        hears(what, hz, [there, there, there, there, -Infinity, -Infinity]);
+    });
+}
+
+var flat = bands.map(function () {
+    return 0;
+});
+
+open("audiosetting");
+wait(guard);
+use("key_factoryeq");
+Object.keys(curves).forEach(function (key) {
+    use(key);
+    hearsCurve(key, curves[key]);
+});
+use("Audiosetting_right_factoryeq_widget/key_flat");
+hearsCurve("factory Flat", flat);
+
+// The keys above and below each band's slider: columns of 68 pixels.
+use("key_eq");
+var gains = flat.slice();
+bands.forEach(function (hz, band) {
+    var steps = 1 + band % 3;
+    for (var i = 0; i < steps; ++i) {
+        use(177 + 68 * band, band % 2 ? 416 : 156);
+    }
+    gains[band] = band % 2 ? -steps : steps;
+    wait(400);
+    var there = main + gains[band];
+    hears("band of " + hz + " Hz", hz, [there, there, there, there, -Infinity, -Infinity]);
+});
+hearsCurve("all bands", gains);
+
+// By its slider to the lowest and to the highest level
+press(177, 345);
+wait(guard);
+hearsCurve("slider down", [-12].concat(gains.slice(1)));
+move(177, 205);
+release();
+wait(400);
+gains[0] = 12;
+hearsCurve("slider up", gains);
+
+// A slot keeps the curve; Flat and back.
+press("key_custom3");
+wait(1500);
+release();
+use("Audiosetting_right_eq_widget/key_flat");
+wait(400);
+hearsCurve("Flat", flat);
+use("key_custom3");
+wait(400);
+hearsCurve("slot", gains);

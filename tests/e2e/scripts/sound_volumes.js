@@ -1,0 +1,135 @@
+// Every volume, every source gain and the reset, by finger, heard at the loudspeakers.
+var guard = 200;
+
+function use(place, y) {
+    tap(place, y);
+    wait(guard);
+}
+
+// What each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
+function hears(what, hz, expected, input) {
+    var is = heard(hz, input || 0).db;
+    for (var i = 0; i < 6; ++i) {
+        var same = is[i] === expected[i] || Math.abs(is[i] - expected[i]) < 0.05;
+        expect(same, what + ": loudspeaker " + i + " gives " + is[i] + " dB at " + hz + " Hz, not " + expected[i]);
+    }
+}
+
+function everywhere(db) {
+    return [db, db, db, db, -Infinity, -Infinity];
+}
+
+function levelDb(level) {
+    return level === 0 ? -Infinity : (level - 40) * 1.5;
+}
+
+// Inputs as heard() counts them; the beep follows the main volume.
+var levels = [16, 16, 16, 16, 16, 16];
+
+function hearsLevels(what) {
+    levels.forEach(function (level, input) {
+        hears(what + ", input " + input, 1000, everywhere(levelDb(level)), input);
+    });
+    hears(what + ", beep", 1000, everywhere(levelDb(levels[0])), 6);
+}
+
+open("audiosetting");
+wait(guard);
+hearsLevels("a new unit");
+
+use("key_advanced");
+use("Key_004_vol_settings");
+// A finger between the keys and the sliders moves the page on by a row, and stops before it lets go; the last rows are
+// there together.
+function scroll() {
+    press(446, 370);
+    move(446, 190);
+    wait(500);
+    release();
+    wait(1000);
+}
+
+// The rows in the order of the page, with their inputs
+[["main", 0], ["phone_volume", 2], ["voice_volume", 4], ["navig_volume", 3],
+ ["ringtone_volume", 1]].forEach(function (row, number) {
+    var name = row[0];
+    var input = row[1];
+    if (number > 0 && number < 4) {
+        scroll();
+    }
+    use("key_" + name + "_plus");
+    levels[input] = 17;
+    hearsLevels(name + " up");
+    for (var i = 0; i <= number + 1; ++i) {
+        use("key_" + name + "_minus");
+    }
+    levels[input] = 15 - number;
+    hearsLevels(name + " down");
+});
+// The row for traffic announcements is not on this unit's page; its level comes from elsewhere.
+volume(6, 30);
+levels[5] = 30;
+hearsLevels("announcements");
+use("hardkey_volume_up");
+levels[0] = 16;
+hearsLevels("hard key");
+volume(0, 0);
+levels[0] = 0;
+hearsLevels("main volume 0");
+volume(0, 40);
+levels[0] = 40;
+hearsLevels("main volume 40");
+use("key_return");
+
+// Source gains: heard only while that source plays.
+use("Key_003_source_gain");
+var gains = [0, 0, 0, 0, 0, 0, 0];
+
+function hearsGains(what) {
+    gains.forEach(function (gain, number) {
+        source(number);
+        hears(what + ", source " + number, 1000, everywhere(gain));
+    });
+    source(0);
+}
+
+hearsGains("neutral");
+[["radio", 0], ["androidauto", 4], ["applecarplay", 3], ["siriusxm", 5], ["btmusic", 2],
+ ["usb", 1]].forEach(function (row, place) {
+    var name = row[0];
+    var number = row[1];
+    if (place > 0 && place < 5) {
+        scroll();
+    }
+    use("key_" + name + "_plus");
+    use("key_" + name + "_plus");
+    gains[number] = 2;
+    hearsGains(name + " up");
+    for (var i = 0; i < 3 + place; ++i) {
+        use("key_" + name + "_minus");
+    }
+    gains[number] = -1 - place;
+    hearsGains(name + " down");
+});
+use("key_return");
+
+// The reset sets its own volumes, and sends the stored gains without their offset, which is required of it,
+// as is the curve Pop: 1 dB more at 1 kHz, on all inputs.
+var pop = 1;
+
+function afterReset(db) {
+    // The subwoofer is sent its stored level although its switch is off: required, too.
+    var sub = db + pop + (3 - 10) * 1.5;
+    return [db + pop, db + pop, db + pop, db + pop, sub, sub];
+}
+
+use("Key_005_res_audio");
+tap("Key_accept");
+wait(2600);
+for (var number = 0; number < 6; ++number) {
+    source(number);
+    hears("reset, source " + number, 1000, afterReset(levelDb(15) - 10 + (store("audioinputgain" + number) || 0)));
+}
+for (var input = 1; input < 6; ++input) {
+    hears("reset, input " + input, 1000, afterReset(levelDb(15)), input);
+}
