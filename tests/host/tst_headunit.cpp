@@ -15,6 +15,7 @@ private Q_SLOTS:
     void version();
     void wrongCommandLine_data();
     void wrongCommandLine();
+    void measures();
     void pluginsThatFail();
     void openWithAFailedPlugin();
     void exitWhenShown();
@@ -105,6 +106,12 @@ void TestHeadunit::wrongCommandLine_data() {
     QTest::newRow("application") << QStringList{"--open", "nothing"} << "--open nothing";
     QTest::newRow("scale") << QStringList{"--scale", "huge"} << "--scale huge";
     QTest::newRow("root is a file") << QStringList{"--root", "/dev/null/x"} << "/dev/null/x";
+    QTest::newRow("nothing to render") << QStringList{"--render", "gone.wav", "out.wav"} << "gone.wav";
+    QTest::newRow("no sound file") << QStringList{"--render", QCoreApplication::applicationFilePath(), "out.wav"}
+                                   << "tst_headunit";
+    QTest::newRow("one file to render") << QStringList{"--render", "in.wav"} << "--render";
+    QTest::newRow("measure into text") << QStringList{"--measure", "out.txt"} << "out.txt";
+    QTest::newRow("measure into no folder") << QStringList{"--measure", "/dev/null/x.csv"} << "/dev/null/x.csv";
     QTest::newRow("tour into a file") << QStringList{"--tour", "/dev/null/x"} << "/dev/null/x";
 }
 
@@ -116,6 +123,24 @@ void TestHeadunit::wrongCommandLine() {
     QCOMPARE(result.errLines().size(), 1);
     QVERIFY2(result.err.startsWith("headunit: ") && result.err.contains(named), qPrintable(result.err));
     QCOMPARE(result.out, QString());
+}
+
+void TestHeadunit::measures() {
+    const QString picture = m_folder->filePath("response.png");
+    const QString table = m_folder->filePath("response.CSV");
+    QCOMPARE(run({"--measure", picture}).code, 0);
+    QVERIFY(!QImage(picture).isNull());
+    QCOMPARE(run({"--measure", table}).code, 0);
+    QFile file(table);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
+    QCOMPARE(lines.size(), 241);
+    QCOMPARE(lines.first().split(',').size(), 15);
+    QVERIFY(lines.first().startsWith("Hz,FL dB,FL deg,FR dB"));
+    // A new unit plays at -36 dB, its subwoofer is off, and the four others add up.
+    QCOMPARE(lines.at(120).split(',').mid(1),
+             (QList<QByteArray>{"-36.0000", "0.0000", "-36.0000", "0.0000", "-36.0000", "0.0000", "-36.0000", "0.0000",
+                                "-inf", "0.0000", "-inf", "0.0000", "-23.9588", "0.0000"}));
 }
 
 void TestHeadunit::pluginsThatFail() {
