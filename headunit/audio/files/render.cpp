@@ -13,14 +13,15 @@ namespace headunit {
 
 using namespace engine;
 
-bool renderFile(const std::string &in, const std::string &out, const SoundState &state, std::string *error) {
+bool renderFile(const std::string &in, const std::string &out, const SoundState &state, std::string *error,
+                const Kernel &kernel) {
     constexpr size_t blockFrames = 4096;
     SoundReader reader;
     SoundWriter writer;
     if (!reader.open(in, error) || !writer.open(out, error)) {
         return false;
     }
-    const auto sound = std::make_unique<Engine>();
+    const auto sound = std::make_unique<Engine>(Engine::Start::AtOnce, kernel);
     sound->setParameters(designParameters(state));
     std::vector<float> stereoBlock(blockFrames * stereo);
     std::vector<float> block(blockFrames * outputCount);
