@@ -17,6 +17,7 @@
 #include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTime>
+#include <QTimer>
 
 #include <cstdio>
 #include <memory>
@@ -171,6 +172,17 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
     }
     window.show();
     if (!options.scripted()) {
+        std::unique_ptr<QObject> sound;
+        if (!options.exitWhenShown) {
+            // After the first screen
+            QTimer::singleShot(0, &application, [&sound, &options] {
+                QString silentBecause;
+                sound.reset(startSound(options.play, &silentBecause));
+                if (!silentBecause.isEmpty()) {
+                    std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
+                }
+            });
+        }
         return application.exec();
     }
     DeskScriptTarget target(window, unit, time);

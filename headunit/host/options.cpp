@@ -8,6 +8,7 @@ namespace {
 
 constexpr double smallestScale = 0.25;
 constexpr double largestScale = 8;
+constexpr char defaultPlay[] = "music";
 
 struct OptionRow {
     const char *name;
@@ -24,6 +25,7 @@ constexpr OptionRow optionRows[] = {
     {"open", "NAME", "Open an application at once, for example audiosetting."},
     {"script", "FILE.js", "Run a script (JavaScript) and end with its result."},
     {"tour", "DIR", "Visit every screen, leave a picture of each in a folder, and end."},
+    {"play", "WHAT", "What sounds: music, noise, sweep, silence, or a sound file. Default: music."},
     {"render", "IN", "Play a sound file under the current settings into another, --render IN.wav OUT.wav, and end."},
     {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
     {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
@@ -109,6 +111,8 @@ ParsedOptions parseOptions(const QStringList &arguments) {
     options.open = parser.value(QStringLiteral("open"));
     options.script = parser.value(QStringLiteral("script"));
     options.tour = parser.value(QStringLiteral("tour"));
+    options.play =
+        parser.isSet(QStringLiteral("play")) ? parser.value(QStringLiteral("play")) : QString::fromLatin1(defaultPlay);
     options.soundJob.renderFrom = parser.value(QStringLiteral("render"));
     if (!options.soundJob.renderFrom.isEmpty()) {
         options.soundJob.renderTo = options.plugins.takeFirst();

@@ -5,15 +5,31 @@
 
 namespace headunit {
 
-QString doSoundJob(const SoundJob &job) {
+namespace {
+
+/// A function of the library, or null and the reason.
+template <typename Entry> Entry resolve(const char *name, QString *problem) {
     QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/libheadunitsound.so"));
-    const auto entry = reinterpret_cast<SoundEntry>(library.resolve(soundEntryName));
+    const auto entry = reinterpret_cast<Entry>(library.resolve(name));
     if (!entry) {
-        return library.errorString();
+        *problem = library.errorString();
     }
+    return entry;
+}
+
+}  // namespace
+
+QString doSoundJob(const SoundJob &job) {
     QString problem;
-    entry(&job, &problem);
+    if (const auto entry = resolve<SoundEntry>(soundEntryName, &problem)) {
+        entry(&job, &problem);
+    }
     return problem;
+}
+
+QObject *startSound(const QString &what, QString *problem) {
+    const auto entry = resolve<StartSoundEntry>(startSoundEntryName, problem);
+    return entry ? entry(&what, problem) : nullptr;
 }
 
 }  // namespace headunit

@@ -2,10 +2,12 @@
 
 #include <QString>
 
+class QObject;
+
 namespace headunit {
 
-/// What the sound's library is to do and be done with. Sound files and plots need libraries that a unit on the screen
-/// does not, so they are loaded only for such a job.
+/// What the sound's library is to do and be done with. Sound files, plots and sound servers need libraries that take
+/// time to load, so the first screen does not wait for them.
 struct SoundJob {
     QString renderFrom;  ///< sound file to play into ...
     QString renderTo;    ///< ... this one
@@ -17,8 +19,14 @@ struct SoundJob {
 /// Does a job under the unit's current settings. An empty text, or a line that says why it cannot be done.
 QString doSoundJob(const SoundJob &job);
 
-/// Exported by the library under the name soundEntryName.
+/// Plays \a what on the desk, under the unit's settings, until the object that it returns is deleted. \a problem is a
+/// line that says what of it cannot be, or an empty text; then there may be no object.
+QObject *startSound(const QString &what, QString *problem);
+
+/// Exported by the library under these names.
 using SoundEntry = void (*)(const SoundJob *job, QString *problem);
 constexpr char soundEntryName[] = "headunitDoSoundJob";
+using StartSoundEntry = QObject *(*)(const QString *what, QString *problem);
+constexpr char startSoundEntryName[] = "headunitStartSound";
 
 }  // namespace headunit

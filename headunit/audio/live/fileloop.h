@@ -1,0 +1,38 @@
+#pragma once
+
+#include "headunit/audio/files/soundreader.h"
+
+#include <atomic>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace headunit {
+
+/// A sound file, played again and again. A thread of its own reads it ahead, so that fill() waits for nothing.
+class FileLoop {
+public:
+    FileLoop() = default;
+    ~FileLoop();
+
+    /// False, with a reason in \a error, if the file is none that can be played.
+    bool open(const std::string &path, std::string *error);
+
+    /// Left and right in turn; silence where the disk was too slow, or the file can no longer be read.
+    void fill(float *stereo, size_t frames);
+
+private:
+    static constexpr size_t ringFrames = 65536;  ///< more than a second
+
+    void readAhead();
+
+    std::string m_path;
+    SoundReader m_reader;
+    std::vector<float> m_ring = std::vector<float>(2 * ringFrames);
+    std::atomic<uint64_t> m_written{0};
+    std::atomic<uint64_t> m_read{0};
+    std::atomic<bool> m_ending{false};
+    std::thread m_thread;
+};
+
+}  // namespace headunit

@@ -1,0 +1,44 @@
+#include "player.h"
+
+#include <algorithm>
+
+namespace headunit {
+
+using namespace engine;
+
+bool Player::choose(const std::string &what, std::string *error) {
+    if (what == "music") {
+        m_source.emplace<Music>();
+    } else if (what == "noise") {
+        m_source.emplace<PinkNoise>();
+    } else if (what == "sweep") {
+        m_source.emplace<Sweep>();
+    } else if (what == "silence") {
+        m_source.emplace<Silence>();
+    } else {
+        return m_source.emplace<FileLoop>().open(what, error);
+    }
+    return true;
+}
+
+void Player::fill(float *out, size_t frames) {
+    for (size_t done = 0; done < frames;) {
+        const size_t count = std::min(blockFrames, frames - done);
+        Inputs inputs{};
+        std::visit([this, count](auto &source) { source.fill(m_blocks[MainInput].data(), count); }, m_source);
+        inputs[MainInput] = m_blocks[MainInput].data();
+        for (size_t input = RingtoneInput; input < inputCount; ++input) {
+            if (m_wanted[input].exchange(false)) {
+                m_chimes[input].restart();
+            }
+            if (m_chimes[input].isPlaying()) {
+                m_chimes[input].fill(m_blocks[input].data(), count);
+                inputs[input] = m_blocks[input].data();
+            }
+        }
+        m_engine.process(inputs, out + done * outputCount, count);
+        done += count;
+    }
+}
+
+}  // namespace headunit

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "fileloop.h"
+#include "generators.h"
+
+#include "headunit/audio/engine/engine.h"
+
+#include <array>
+#include <atomic>
+#include <string>
+#include <variant>
+
+namespace headunit {
+
+/// Everything that the unit plays, through the engine. fill() belongs to the audio thread, the rest to another.
+class Player {
+public:
+    /// \a what is "music", "noise", "sweep", "silence", or the name of a sound file. False, with a reason in \a error,
+    /// if it cannot be played. Before the first fill().
+    bool choose(const std::string &what, std::string *error);
+
+    void setState(const SoundState &state) { m_engine.setParameters(engine::designParameters(state)); }
+    /// Plays an input's own short sound; the main one has none.
+    void chime(engine::Input input) { m_wanted[input] = true; }
+
+    /// Gives \a frames for the six outputs.
+    void fill(float *out, size_t frames);
+
+private:
+    static constexpr size_t blockFrames = 256;
+
+    struct Silence {
+        void fill(float *, size_t) {}
+    };
+
+    engine::Engine m_engine{engine::Engine::Start::FadedIn};
+    std::variant<Silence, Music, PinkNoise, Sweep, FileLoop> m_source;
+    std::array<std::atomic<bool>, engine::inputCount> m_wanted{};
+    std::array<Chime, engine::inputCount> m_chimes = {Chime(engine::MainInput),  Chime(engine::RingtoneInput),
+                                                      Chime(engine::PhoneInput), Chime(engine::NavigationInput),
+                                                      Chime(engine::VoiceInput), Chime(engine::AnnouncementInput),
+                                                      Chime(engine::BeepInput)};
+    std::array<std::array<float, blockFrames * 2>, engine::inputCount> m_blocks{};
+};
+
+}  // namespace headunit

@@ -1,0 +1,185 @@
+#include "pulseoutput.h"
+
+#include "folddown.h"
+#include "player.h"
+
+#include <pulse/pulseaudio.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace headunit {
+
+using engine::outputCount;
+using engine::stereo;
+
+namespace {
+
+constexpr pa_usec_t retryAfter = 2 * PA_USEC_PER_SEC;
+constexpr pa_usec_t bufferedTime = 60 * PA_USEC_PER_MSEC;
+constexpr size_t chunkFrames = 512;
+
+pa_channel_map channelMap(bool folded) {
+    pa_channel_map map;
+    if (folded) {
+        return *pa_channel_map_init_stereo(&map);
+    }
+    pa_channel_map_init(&map);
+    map.channels = outputCount;
+    const pa_channel_position_t positions[outputCount] = {
+        PA_CHANNEL_POSITION_FRONT_LEFT, PA_CHANNEL_POSITION_FRONT_RIGHT, PA_CHANNEL_POSITION_REAR_LEFT,
+        PA_CHANNEL_POSITION_REAR_RIGHT, PA_CHANNEL_POSITION_SIDE_LEFT,   PA_CHANNEL_POSITION_SIDE_RIGHT};
+    std::copy(std::begin(positions), std::end(positions), map.map);
+    return map;
+}
+
+}  // namespace
+
+/// Everything here happens on the server's thread, or before it starts and after it ended.
+struct PulseOutput::Private {
+    explicit Private(Player &played) : player(played) {}
+
+    Player &player;
+    pa_threaded_mainloop *loop = nullptr;
+    pa_context *context = nullptr;
+    pa_stream *stream = nullptr;
+    bool folded = true;
+    bool waiting = false;  ///< to connect again
+    bool saidSilent = false;
+    bool saidFolded = false;
+    std::array<float, chunkFrames * outputCount> chunk{};
+
+    static Private &self(void *data) { return *static_cast<Private *>(data); }
+
+    void connect() {
+        waiting = false;
+        context = pa_context_new(pa_threaded_mainloop_get_api(loop), "Head unit");
+        pa_context_set_state_callback(
+            context, [](pa_context *, void *data) { self(data).contextChanged(); }, this);
+        if (pa_context_connect(context, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
+            connectLater();
+        }
+    }
+
+    void disconnect() {
+        if (stream) {
+            pa_stream_set_state_callback(stream, nullptr, nullptr);
+            pa_stream_set_write_callback(stream, nullptr, nullptr);
+            pa_stream_disconnect(stream);
+            pa_stream_unref(stream);
+            stream = nullptr;
+        }
+        if (context) {
+            pa_context_set_state_callback(context, nullptr, nullptr);
+            pa_context_disconnect(context);
+            pa_context_unref(context);
+            context = nullptr;
+        }
+    }
+
+    void connectLater() {
+        if (waiting) {
+            return;
+        }
+        waiting = true;
+        if (!saidSilent) {
+            saidSilent = true;
+            std::fputs("headunit: no sound server answers, so the unit is silent until one does\n", stderr);
+        }
+        disconnect();
+        pa_mainloop_api *const api = pa_threaded_mainloop_get_api(loop);
+        timeval when;
+        pa_timeval_add(pa_gettimeofday(&when), retryAfter);
+        api->time_new(
+            api, &when,
+            [](pa_mainloop_api *caller, pa_time_event *event, const timeval *, void *data) {
+                caller->time_free(event);
+                self(data).connect();
+            },
+            this);
+    }
+
+    void contextChanged() {
+        const pa_context_state_t state = pa_context_get_state(context);
+        if (!PA_CONTEXT_IS_GOOD(state)) {
+            connectLater();
+        } else if (state == PA_CONTEXT_READY) {
+            pa_operation_unref(pa_context_get_sink_info_by_name(
+                context, "@DEFAULT_SINK@",
+                [](pa_context *, const pa_sink_info *sink, int end, void *data) {
+                    if (end == 0) {
+                        self(data).openStream(sink->sample_spec.channels);
+                    } else if (end < 0) {
+                        self(data).connectLater();
+                    }
+                },
+                this));
+        }
+    }
+
+    void openStream(unsigned deviceChannels) {
+        saidSilent = false;
+        folded = deviceChannels < outputCount;
+        if (folded && !saidFolded) {
+            saidFolded = true;
+            std::fprintf(stderr,
+                         "headunit: the sound device has %u channels; all six loudspeakers play on two of them\n",
+                         deviceChannels);
+        }
+        const pa_channel_map map = channelMap(folded);
+        const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, static_cast<uint32_t>(engine::sampleRate), map.channels};
+        stream = pa_stream_new(context, "Loudspeakers", &spec, &map);
+        if (!stream) {
+            connectLater();
+            return;
+        }
+        pa_stream_set_state_callback(
+            stream, [](pa_stream *, void *data) { self(data).streamChanged(); }, this);
+        pa_stream_set_write_callback(
+            stream, [](pa_stream *, size_t bytes, void *data) { self(data).write(bytes); }, this);
+        pa_buffer_attr buffer;
+        buffer.maxlength = buffer.prebuf = buffer.minreq = buffer.fragsize = static_cast<uint32_t>(-1);
+        buffer.tlength = static_cast<uint32_t>(pa_usec_to_bytes(bufferedTime, &spec));
+        if (pa_stream_connect_playback(stream, nullptr, &buffer, PA_STREAM_ADJUST_LATENCY, nullptr, nullptr) < 0) {
+            connectLater();
+        }
+    }
+
+    void streamChanged() {
+        if (!PA_STREAM_IS_GOOD(pa_stream_get_state(stream))) {
+            connectLater();
+        }
+    }
+
+    void write(size_t bytes) {
+        const size_t channels = folded ? stereo : outputCount;
+        size_t frames = bytes / (channels * sizeof(float));
+        while (frames > 0) {
+            const size_t count = std::min(frames, chunkFrames);
+            player.fill(chunk.data(), count);
+            if (folded) {
+                foldDown(chunk.data(), count);
+            }
+            if (pa_stream_write(stream, chunk.data(), count * channels * sizeof(float), nullptr, 0, PA_SEEK_RELATIVE) <
+                0) {
+                return;
+            }
+            frames -= count;
+        }
+    }
+};
+
+PulseOutput::PulseOutput(Player &player) : d(new Private(player)) {
+    d->loop = pa_threaded_mainloop_new();
+    d->connect();
+    pa_threaded_mainloop_start(d->loop);
+}
+
+PulseOutput::~PulseOutput() {
+    pa_threaded_mainloop_stop(d->loop);
+    d->disconnect();
+    pa_threaded_mainloop_free(d->loop);
+}
+
+}  // namespace headunit

@@ -1,0 +1,69 @@
+#include "headunit/host/sound/livesound.h"
+
+#include "headunit/audio/soundmodel.h"
+#include "headunit/host/soundlibrary.h"
+
+#include <QFile>
+
+namespace headunit {
+
+namespace {
+
+/// The input that a channel's level belongs to; the main one for those without a sound of their own.
+engine::Input inputOfChannel(int channel) {
+    switch (channel) {
+        case 1:
+            return engine::RingtoneInput;
+        case 2:
+            return engine::PhoneInput;
+        case 3:
+            return engine::NavigationInput;
+        case 4:
+            return engine::VoiceInput;
+        case 6:
+            return engine::AnnouncementInput;
+        default:
+            return engine::MainInput;
+    }
+}
+
+}  // namespace
+
+LiveSound::LiveSound(const QString &what, QString *problem) {
+    std::string error;
+    if (!m_player.choose(QFile::encodeName(what).toStdString(), &error)) {
+        *problem = QFile::decodeName(error.c_str());
+        m_player.choose("silence", &error);
+    }
+    SoundModel &model = SoundModel::instance();
+    connect(&model, &SoundModel::changed, this, &LiveSound::takeStateSoon);
+    // Who sets a volume hears what it does.
+    connect(&model, &SoundModel::channelLevelChanged, this, [this](int channel) {
+        const engine::Input input = inputOfChannel(channel);
+        if (input != engine::MainInput) {
+            m_player.chime(input);
+        }
+    });
+    connect(&model, &SoundModel::beeped, this, [this] { m_player.chime(engine::BeepInput); });
+    takeState();
+    m_output = std::make_unique<PulseOutput>(m_player);
+}
+
+void LiveSound::takeState() {
+    m_statePending = false;
+    m_player.setState(SoundModel::instance().state());
+}
+
+/// A touch may change many values one after the other.
+void LiveSound::takeStateSoon() {
+    if (!m_statePending) {
+        m_statePending = true;
+        QMetaObject::invokeMethod(this, "takeState", Qt::QueuedConnection);
+    }
+}
+
+}  // namespace headunit
+
+extern "C" Q_DECL_EXPORT QObject *headunitStartSound(const QString *what, QString *problem) {
+    return new headunit::LiveSound(*what, problem);
+}

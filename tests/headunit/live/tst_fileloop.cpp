@@ -1,0 +1,91 @@
+#include "headunit/audio/live/fileloop.h"
+
+#include "tests/headunit/engine/rendering.h"
+#include "tests/headunit/files/soundfiletest.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+using headunit::FileLoop;
+
+namespace {
+
+/// The next frames that are there; the file's own samples are never exactly zero.
+std::vector<float> take(FileLoop &loop, size_t frames) {
+    std::vector<float> all;
+    while (all.size() < 2 * frames) {
+        std::vector<float> piece(2 * 100);
+        loop.fill(piece.data(), 100);
+        const auto end = std::find(piece.begin(), piece.end(), 0.0F);
+        all.insert(all.end(), piece.begin(), end);
+        if (end != piece.end()) {
+            QTest::qSleep(1);
+        }
+    }
+    return all;
+}
+
+}  // namespace
+
+class TestFileLoop : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void repeatsWithoutAGap();
+    void missingFile();
+    void fileThatGoesAway();
+
+private:
+    std::string write(size_t frames) {
+        soundfiletest::SoundFile file;
+        file.sampleRate = 48000;
+        file.channels = 2;
+        for (size_t i = 0; i < 2 * frames; ++i) {
+            file.samples.push_back(static_cast<float>(i + 1) / 1e6F);
+        }
+        m_samples = file.samples;
+        const std::string path = m_folder.filePath("loop.wav").toStdString();
+        soundfiletest::write(path, file);
+        return path;
+    }
+
+    QTemporaryDir m_folder;
+    std::vector<float> m_samples;
+    std::string m_error;
+};
+
+void TestFileLoop::repeatsWithoutAGap() {
+    for (const size_t frames : {1, 1000, 4096, 200000}) {
+        FileLoop loop;
+        QVERIFY(loop.open(write(frames), &m_error));
+        const std::vector<float> heard = take(loop, 2 * frames + 50);
+        for (size_t i = 0; i < heard.size(); ++i) {
+            QCOMPARE(heard[i], m_samples[i % m_samples.size()]);
+        }
+    }
+}
+
+void TestFileLoop::missingFile() {
+    FileLoop loop;
+    QVERIFY(!loop.open(m_folder.filePath("gone.wav").toStdString(), &m_error));
+    QVERIFY(m_error.find("gone.wav") != std::string::npos);
+    std::vector<float> piece(200, 1);
+    loop.fill(piece.data(), 100);
+    QVERIFY(std::all_of(piece.begin(), piece.end(), [](float sample) { return sample == 0; }));
+}
+
+void TestFileLoop::fileThatGoesAway() {
+    FileLoop loop;
+    const std::string path = write(200000);
+    QVERIFY(loop.open(path, &m_error));
+    QVERIFY(QFile::remove(QString::fromStdString(path)));
+    take(loop, 200000);
+    std::vector<float> piece(200, 1);
+    loop.fill(piece.data(), 100);
+    QVERIFY(std::all_of(piece.begin(), piece.end(), [](float sample) { return sample == 0; }));
+}
+
+QTEST_APPLESS_MAIN(TestFileLoop)
+#include "tst_fileloop.moc"

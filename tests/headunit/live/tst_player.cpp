@@ -1,0 +1,96 @@
+#include "headunit/audio/live/player.h"
+
+#include "tests/headunit/engine/rendering.h"
+#include "tests/headunit/files/soundfiletest.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cmath>
+
+using namespace headunit;
+using namespace headunit::engine;
+
+namespace {
+
+/// The highest sample of the front left loudspeaker in the next half second.
+float heard(Player &player) {
+    std::vector<float> samples(24000 * outputCount);
+    player.fill(samples.data(), 24000);
+    float highest = 0;
+    for (size_t i = 0; i < samples.size(); i += outputCount) {
+        highest = std::max(highest, std::abs(samples[i]));
+    }
+    return highest;
+}
+
+}  // namespace
+
+class TestPlayer : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void everySourceIsHeard_data();
+    void everySourceIsHeard();
+    void chimesFollowTheirLevel();
+    void unknownSource();
+
+private:
+    std::string m_error;
+};
+
+void TestPlayer::everySourceIsHeard_data() {
+    QTest::addColumn<QString>("what");
+    for (const char *what : {"music", "noise", "sweep"}) {
+        QTest::newRow(what) << QString::fromLatin1(what);
+    }
+}
+
+void TestPlayer::everySourceIsHeard() {
+    QFETCH(QString, what);
+    Player player;
+    QVERIFY(player.choose(what.toStdString(), &m_error));
+    QCOMPARE(heard(player), 0.0F);  // as long as there are no settings
+    player.setState(rendering::neutral());
+    heard(player);  // fades in
+    const float loud = heard(player);
+    QVERIFY(loud > 0.05F);
+    SoundState quiet = rendering::neutral();
+    quiet.channelLevel[0] = 0;
+    player.setState(quiet);
+    heard(player);
+    QCOMPARE(heard(player), 0.0F);
+}
+
+void TestPlayer::chimesFollowTheirLevel() {
+    constexpr std::array<int, inputCount> channels = {0, 1, 2, 3, 4, 6, 0};
+    for (size_t input = RingtoneInput; input < inputCount; ++input) {
+        Player player;
+        SoundState state = rendering::neutral();
+        QVERIFY(player.choose("silence", &m_error));
+        player.setState(state);
+        QCOMPARE(heard(player), 0.0F);
+        player.chime(static_cast<Input>(input));
+        const float loud = heard(player);
+        QVERIFY(loud > 0.05F);
+        for (int half = 0; half < 4; ++half) {
+            heard(player);
+        }
+        QCOMPARE(heard(player), 0.0F);
+        state.channelLevel[static_cast<size_t>(channels[input])] = 36;
+        player.setState(state);
+        heard(player);
+        player.chime(static_cast<Input>(input));
+        QVERIFY(std::abs(heard(player) / loud - fromDecibels(-6)) < 0.001);
+    }
+}
+
+void TestPlayer::unknownSource() {
+    Player player;
+    QVERIFY(!player.choose("no such file.wav", &m_error));
+    QVERIFY(m_error.find("no such file.wav: ") == 0);
+    player.setState(rendering::neutral());
+    QCOMPARE(heard(player), 0.0F);
+}
+
+QTEST_APPLESS_MAIN(TestPlayer)
+#include "tst_player.moc"
