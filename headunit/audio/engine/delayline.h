@@ -18,10 +18,10 @@ public:
               const std::array<double, outputCount> &gains) const;
 
 private:
-    static_assert((length & (length - 1)) == 0, "positions wrap by a mask");
+    static_assert((length & (length - 1)) == 0, "positions wrap with their type");
 
-    std::array<std::array<double, length>, outputCount> m_samples{};
-    size_t m_position = 0;  ///< of the next write; wraps with its type
+    std::array<double, length * outputCount> m_samples{};  ///< frame by frame
+    size_t m_position = 0;                                 ///< of the next write
 };
 
 }  // namespace headunit::engine
