@@ -9,8 +9,8 @@ set(PICTURES_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/pictures.cpp.in)
 #
 # A line of the table is: prefix/name source state width height, with sources below the table's folder and the states of
 # resources/palette/. Each source is one build step, so that a changed drawing renders its own family only.
-# A line [name] starts a pack: pictures of a pack lie together in memory, so that a screen brings in its own and not its
-# neighbours'.
+# The pictures below a line [first] that the first screen shows at rest lie together in memory, apart from those that only
+# a finger, Defeat or another screen ([later]) brings up: a start then reads half as much of the file.
 # The pictures for dense displays (name@2x.png) go to the file DENSE, which the target maps at start when the display
 # needs them; it must stand in the same folder as the program or library.
 function(headunit_pictures target)
@@ -32,10 +32,7 @@ function(headunit_pictures target)
     list(FILTER lines EXCLUDE REGEX "^#")
     foreach(line IN LISTS lines)
         if(line MATCHES "^pack=([a-z]+)$")
-            set(pack ${CMAKE_MATCH_1})
-            if(NOT pack IN_LIST packs)
-                list(APPEND packs ${pack})
-            endif()
+            set(screen ${CMAKE_MATCH_1})
             continue()
         endif()
         if(NOT line MATCHES "^([a-z0-9_]+/[A-Za-z0-9_]+) +([a-z0-9_]+) +([a-z+]+) +([0-9]+) +([0-9]+)$")
@@ -43,13 +40,22 @@ function(headunit_pictures target)
         endif()
         set(name ${CMAKE_MATCH_1})
         set(source ${CMAKE_MATCH_2})
+        set(state ${CMAKE_MATCH_3})
+        set(row ${name},${CMAKE_MATCH_3},${CMAKE_MATCH_4},${CMAKE_MATCH_5})
         if(name IN_LIST names)
             message(FATAL_ERROR "${table}: ${name} stands twice")
         endif()
         list(APPEND names ${name})
+        set(pack ${screen})
+        if(state MATCHES "^[pd]")
+            set(pack later)
+        endif()
+        if(NOT pack IN_LIST packs)
+            list(APPEND packs ${pack})
+        endif()
         list(APPEND names_${pack} ${name})
         list(APPEND sources ${source})
-        list(APPEND rows_${source} ${name},${CMAKE_MATCH_3},${CMAKE_MATCH_4},${CMAKE_MATCH_5})
+        list(APPEND rows_${source} ${row})
         list(APPEND files_${source} ${out}/${name}.png ${out}/${name}@2x.png)
     endforeach()
 
@@ -81,6 +87,7 @@ function(headunit_pictures target)
     target_sources(${target} PRIVATE ${out}/${target}_pictures.cpp)
     target_link_libraries(${target} PRIVATE ${CMAKE_DL_LIBS})
     add_custom_target(${target}_pictures DEPENDS ${pack_files} ${ARG_DENSE})
+    set_target_properties(${target}_pictures PROPERTIES PICTURE_PACKS "${pack_files}")
     add_dependencies(${target} ${target}_pictures)
 endfunction()
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-const int groundColumns = 256;  // px of the composed ground: wide enough that few pieces cover the screen
+const int groundColumns = 512;  // px of the composed ground: wide enough that few pieces cover the screen
 
 // The picture of the ground is a narrow strip; side by side it makes one that is quick to lay out.
 QPixmap composedGround() {

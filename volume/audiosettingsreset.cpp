@@ -124,7 +124,7 @@ void Audiosettingsreset::initUi() {
     for (const auto &text : texts) {
         QFont font = this->font();
         font.setPointSize(text.pointSize);
-        font.setBold(text.bold);
+        font.setBold(text.bold || font.bold());
         text.label->setFont(font);
     }
     m_question << m_ui->reset_bg << m_ui->Key_Reject << m_ui->Txt_accept << m_ui->Key_accept << m_ui->txt_Title
@@ -193,6 +193,7 @@ void Audiosettingsreset::onAcceptClicked() {
     emit mem::SettingsCache::instance()->SettingsCacheSig(general::defeat().key());
 }
 
+// Also where the driver has left the dialog meanwhile: required.
 void Audiosettingsreset::onDelayhidePop() {
     emit acceptClicked();
 }

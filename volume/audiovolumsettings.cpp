@@ -77,8 +77,12 @@ void Audiovolumsettings::initUi() {
         row.type = form.type;
         row.plus = form.plus;
         row.minus = form.minus;
-        row.slider = createSlider(form.placeholder);
-        if (!m_scrollBar) {
+        // Only Main's slider outlives another call, and the scroll bar comes between its making and its looks:
+        // required.
+        if (form.id != Main || !row.slider) {
+            row.slider = createSlider(form.placeholder);
+        }
+        if (form.id == Main) {
             m_scrollBar = addScrollBar(this, m_ui->scrollArea);
             m_ui->scrollAreaWidgetContents->setGeometry(contentsGeometry());
         }

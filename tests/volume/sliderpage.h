@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QMetaMethod>
+#include <QPalette>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -36,6 +37,13 @@ inline HorizontalSlider *slider(QWidget *page, const char *placeholder) {
 /// Scrolls a part of the page into view.
 inline void reveal(QWidget *page, QWidget *part) {
     page->findChild<QScrollArea *>(QStringLiteral("scrollArea"))->ensureWidgetVisible(part, 0, 0);
+}
+
+/// The colour between the first two rows of a page whose own ground would be \a own and that lies on \a ground.
+inline QColor colourBetweenRows(QWidget *page, const QColor &own, const QColor &ground) {
+    page->window()->setPalette(QPalette(ground));
+    page->setPalette(QPalette(own));
+    return page->window()->grab().toImage().pixelColor(page->mapTo(page->window(), QPoint(600, 170)));
 }
 
 /// Where a value lies on a slider that shares its width evenly among \a count values from \a first on.

@@ -209,7 +209,21 @@ private slots:
             QCOMPARE(label->font().bold(), text.bold);
             QCOMPARE(label->styleSheet(), QLatin1String(text.style));
         }
+        QVERIFY(page.findChild<QLabel *>(QStringLiteral("txt_reset_success"))->isHidden());
         QCOMPARE(recording::take(), QStringList());
+    }
+
+    void itsFontsAreThePagesFont() {
+        Screen screen;
+        QFont font(QStringLiteral("Another"));
+        font.setBold(true);
+        screen.setFont(font);
+        Audiosettingsreset page(&screen);
+        for (const char *name : {"txt_reset_success", "Txt_0012_item_01", "Txt_0012_item_04", "txt_Title"}) {
+            const QLabel *const label = page.findChild<QLabel *>(QLatin1String(name));
+            QCOMPARE(label->font().family(), QStringLiteral("Another"));
+            QVERIFY2(label->font().bold(), name);
+        }
     }
 
     void showsThePicturesOfItsForm() {
@@ -544,6 +558,20 @@ private slots:
         QVERIFY(!page->isVisible());
         QVERIFY(entry->isVisible());
         QCOMPARE(root.currentPageId(), 7);
+    }
+
+    /// The end of a reset leads to the settings root from wherever the driver has gone meanwhile.
+    void itsEndIsAnnouncedAlsoWhenItWasLeft() {
+        AudioRootPagtSettings root(nullptr);
+        openDialog(root);
+        finger::tap(root.findChild<QWidget *>(QStringLiteral("Key_accept")));
+        finger::tap(root.findChild<QWidget *>(QStringLiteral("key_return")));
+        QCOMPARE(root.currentPageId(), 0);
+        advance(2499);
+        QCOMPARE(root.currentPageId(), 0);
+        advance(1);
+        QCOMPARE(root.currentPageId(), 7);
+        QVERIFY(!root.findChild<Audiosettingsreset *>()->isVisible());
     }
 
     void theOtherPagesFollowDefeat() {

@@ -226,6 +226,18 @@ private slots:
         }
     }
 
+    void theScreensGroundShinesThrough() {
+        QWidget screen;
+        screen.resize(1024, 600);
+        for (const Region &region : regions) {
+            const auto page = region.create();
+            page->setParent(&screen);
+            page->show();
+            show(&screen);
+            QCOMPARE(colourBetweenRows(page.get(), Qt::green, Qt::red), QColor(Qt::red));
+        }
+    }
+
     void scrollBarStandsOnThePageAndReachesEveryRow() {
         for (const Region &region : regions) {
             const auto page = region.create();

@@ -234,6 +234,30 @@ private slots:
         QCOMPARE(order.join(QLatin1Char(' ')), QStringLiteral("90 270 450 630 810 990"));
     }
 
+    void onlyMainsSliderOutlivesAnotherInitialisation() {
+        Audiovolumsettings page(nullptr);
+        const auto slidersAt = [&](const Row &row) {
+            const QRect place = page.findChild<QLabel *>(QLatin1String(row.placeholder))->geometry();
+            const auto sliders = page.findChildren<HorizontalSlider *>();
+            return std::count_if(sliders.begin(), sliders.end(),
+                                 [&](const HorizontalSlider *slider) { return slider->geometry() == place; });
+        };
+        page.initUi();
+        for (const Row &row : rows) {
+            QCOMPARE(int(slidersAt(row)), &row == &mainRow ? 1 : 2);
+        }
+        QCOMPARE(page.findChildren<cm::ScrollBar *>().size(), 1);
+    }
+
+    void theScreensGroundShinesThrough() {
+        QWidget screen;
+        screen.resize(1024, 600);
+        Audiovolumsettings page(&screen);
+        page.show();
+        show(&screen);
+        QCOMPARE(colourBetweenRows(&page, Qt::green, Qt::red), QColor(Qt::red));
+    }
+
     void scrollBarStandsOnThePage() {
         Audiovolumsettings page(nullptr);
         show(&page);
