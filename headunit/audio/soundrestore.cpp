@@ -17,13 +17,14 @@ bool storedFlag(const SettingsStore &store, const SettingKey &key) {
     return store.boolValue(QString::fromLatin1(key.name), key.defaultValue != 0);
 }
 
+// The values stored count from the neutral one, which is \a neutral in the sound.
 template <size_t Count> std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key,
-                                                         const Range &range, int offset = 0) {
+                                                         const Range &range, int neutral = 0) {
+    const Range storedRange = {range.low - neutral, range.high - neutral};
     std::array<int, Count> row;
     for (size_t number = 0; number < Count; ++number) {
-        const int value = store.intValue(QString::fromLatin1(key.name).arg(number), key.defaultValue);
-        row[number] =
-            clamped(std::clamp(value, range.low - offset - 1, range.high - offset + 1) + offset, range, key.name);
+        const QString name = QString::fromLatin1(key.name).arg(number);
+        row[number] = clamped(store.intValue(name, key.defaultValue), storedRange, qPrintable(name)) + neutral;
     }
     return row;
 }

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void restoresParts();
     void storedNonsense_data();
     void storedNonsense();
+    void nonsenseIsNamed();
     void anyValueStaysInRange();
     void beeps();
 };
@@ -413,6 +414,15 @@ void tst_SoundModel::storedNonsense() {
         QVERIFY(model.state() == SoundModel(empty).state());
     }
     QCOMPARE(log.takeWarnings(), QStringList());
+}
+
+void tst_SoundModel::nonsenseIsNamed() {
+    SettingsStore store;
+    store.replaceAll({{"timing/DATA_TYPE2", 4711}, {"audioinputgain1", -300}});
+    LogWatch log;
+    SoundModel model(store);
+    QCOMPARE(log.takeDebug(), QStringList({"sound: audioinputgain1 -300 is not within -10 to 10, taken as -10",
+                                           "sound: timing/DATA_TYPE2 4711 is not within 0 to 99, taken as 99"}));
 }
 
 void tst_SoundModel::anyValueStaysInRange() {
