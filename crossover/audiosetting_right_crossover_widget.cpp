@@ -96,6 +96,9 @@ void Audiosetting_right_crossover_widget::initUi() {
     cm::PushButton *preset2 = new cm::PushButton(m_ui->key_preset_2, this);
     preset2->setLongPressedInterval(saveHold);
     connect(preset2, SIGNAL(longPressed()), this, SLOT(onPreset2LongClicked()));
+    for (int preset = 0; preset < presetCount; ++preset) {
+        endLongClickBesideKey(presetKey(preset));
+    }
 
     connect(m_ui->key_slope_minus, SIGNAL(clicked()), this, SLOT(onSlopMinusClicked()));
     connect(m_ui->key_slope_plus, SIGNAL(clicked()), this, SLOT(onSlopPlusClicked()));

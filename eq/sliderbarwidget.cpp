@@ -136,6 +136,8 @@ void SliderBarWidget::touch(int y) {
         moveTo(level);
         emit valueChanged(m_id, m_level);
     }
+    // Also where nothing moves: painting keeps the last touch on the bar.
+    update(knobRect());
 }
 
 void SliderBarWidget::moveTo(int level) {

@@ -43,7 +43,7 @@ Audiosetting_right_general_widget::Audiosetting_right_general_widget(QWidget *pa
 Audiosetting_right_general_widget::~Audiosetting_right_general_widget() {}
 
 void Audiosetting_right_general_widget::initUi() {
-    // The caption lies over its key.
+    // The key spans the row, its caption lies over it.
     m_ui->text_Advanced->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     m_pad = new settings::balanceFaderControl(m_ui->balancefader_bg->parentWidget(), m_ui->balancefader_bg->geometry());
@@ -51,9 +51,6 @@ void Audiosetting_right_general_widget::initUi() {
     // They only mark where the pad goes.
     m_ui->frame->hide();
     m_ui->balancefader_bg->hide();
-
-    // The key spans the row, its caption lies over it.
-    m_ui->text_Advanced->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     m_phaseGroup = new QButtonGroup(this);
     m_phaseGroup->addButton(m_ui->key_Phase_0, 0);

@@ -53,7 +53,8 @@ balanceFaderControl::balanceFaderControl(QWidget *parent, const QRect &geometry)
       m_background(audiosetting::picture("balancefader_bg")),
       m_verticalLine(audiosetting::picture("setup_bg_Balance_line_2_n")),
       m_horizontalLine(audiosetting::picture("setup_bg_Balance_line_1_n")),
-      m_marker(audiosetting::picture("audiosettings_select")) {
+      m_marker(audiosetting::picture("audiosettings_select")),
+      m_dragTimer(this) {
     setGeometry(geometry);
     m_origin = QPoint(geometry.width() / 2 + originShift, geometry.height() / 2);
     m_center = m_origin;

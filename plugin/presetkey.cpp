@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QIcon>
+#include <QMouseEvent>
 #include <QVariant>
 
 namespace audiosetting {
@@ -28,6 +29,25 @@ QIcon presetIcon(int preset, bool saved) {
     return icon;
 }
 
+class LiftBesideKey : public QObject {
+public:
+    explicit LiftBesideKey(QAbstractButton *key) : QObject(key), m_key(key) { key->installEventFilter(this); }
+
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::MouseButtonRelease) {
+            // As the button decides it: the release is no click.
+            const QPoint pos = static_cast<QMouseEvent *>(event)->pos();
+            if (!m_key->isDown() || !m_key->rect().contains(pos)) {
+                setLongClick(m_key, false);
+            }
+        }
+        return false;
+    }
+
+private:
+    QAbstractButton *const m_key;
+};
+
 }  // namespace
 
 void showPreset(QAbstractButton *key, int preset, bool saved) {
@@ -44,6 +64,10 @@ void setLongClick(QAbstractButton *key, bool on) {
 
 bool longClick(const QAbstractButton *key) {
     return key->property(longClickProperty).toBool();
+}
+
+void endLongClickBesideKey(QAbstractButton *key) {
+    new LiftBesideKey(key);
 }
 
 }  // namespace audiosetting

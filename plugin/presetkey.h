@@ -13,5 +13,8 @@ void showPreset(QAbstractButton *key, int preset, bool saved);
 /// Marks a key whose hold has just saved, so that the click which ends the hold does not recall.
 void setLongClick(QAbstractButton *key, bool on);
 bool longClick(const QAbstractButton *key);
+/// Takes the mark away when a finger that has left the key lifts: no click ends such a hold, and the mark would swallow
+/// the next one. Once for each key.
+void endLongClickBesideKey(QAbstractButton *key);
 
 }  // namespace audiosetting

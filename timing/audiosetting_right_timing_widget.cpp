@@ -79,6 +79,9 @@ void Audiosetting_right_timing_widget::initUi() {
     connect(m_presetGroup, SIGNAL(buttonClicked(int)), this, SLOT(onPresetClicked(int)));
     connect(new cm::PushButton(m_ui->key_preset_1, this), SIGNAL(longPressed()), this, SLOT(onPreset1LongPressed()));
     connect(new cm::PushButton(m_ui->key_preset_2, this), SIGNAL(longPressed()), this, SLOT(onPreset2LongPressed()));
+    for (int preset = 0; preset < presetCount; ++preset) {
+        endLongClickBesideKey(presetKey(preset));
+    }
 
     connectStepKey(m_ui->key_fl_minus, this, SLOT(onFrontLeftMinus()), SLOT(onFLPrevPressedRepeat()));
     connectStepKey(m_ui->key_fl_plus, this, SLOT(onFrontLeftPlus()), SLOT(onFLNextPressedRepeat()));

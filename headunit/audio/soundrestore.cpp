@@ -20,10 +20,11 @@ bool storedFlag(const SettingsStore &store, const SettingKey &key) {
 template <size_t Count> std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key,
                                                          const Range &range, int offset = 0) {
     std::array<int, Count> row;
+    // In the store's numbers, so that a debug line says what stands there.
+    const Range storedRange = {range.low - offset, range.high - offset};
     for (size_t number = 0; number < Count; ++number) {
-        const int value = store.intValue(QString::fromLatin1(key.name).arg(number), key.defaultValue);
-        row[number] =
-            clamped(std::clamp(value, range.low - offset - 1, range.high - offset + 1) + offset, range, key.name);
+        const QString name = QString::fromLatin1(key.name).arg(number);
+        row[number] = clamped(store.intValue(name, key.defaultValue), storedRange, qPrintable(name)) + offset;
     }
     return row;
 }

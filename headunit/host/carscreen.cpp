@@ -1,6 +1,7 @@
 #include "headunit/host/carscreen.h"
 
 #include "audioservice.h"
+#include "headunit/audio/soundtables.h"
 #include "headunit/host/key.h"
 #include "headunit/host/look.h"
 #include "headunit/host/texts.h"
@@ -18,8 +19,6 @@ namespace {
 
 constexpr int sourceCount = std::size(texts::sources);
 constexpr int channelCount = std::size(texts::channels);
-constexpr int largestLevel = 40;
-
 enum Row { SourceRow, ChannelRow, LevelRow, LanguageRow, ActionRow };
 constexpr int firstRowTop = 88;
 constexpr int rowHeight = look::keySize + look::gap + 8;
@@ -113,7 +112,8 @@ void CarScreen::stepChannel(int by) {
 void CarScreen::stepLevel(int by) {
     const int type = texts::channels[m_channel].type;
     qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
-    audio->setVolumeLevel(qBound(0, audio->getSourceVolByType(type) + by, largestLevel), type);
+    audio->setVolumeLevel(
+        qBound(ranges::channelLevel.low, audio->getSourceVolByType(type) + by, ranges::channelLevel.high), type);
 }
 
 void CarScreen::paintEvent(QPaintEvent *) {

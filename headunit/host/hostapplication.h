@@ -5,10 +5,15 @@
 namespace headunit {
 
 /// The application object, to which applications post their touch events.
+///
+/// It also takes the finger off what is hidden under it, by a call or by another application's request: a held key does
+/// not act when the finger goes up, and nothing follows the finger unseen.
 class HostApplication : public QApplication {
     Q_OBJECT
 public:
     using QApplication::QApplication;
+
+    bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
     /// An application asked the host for a gesture (Qx::Touch, or a code without a name).

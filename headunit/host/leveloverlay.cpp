@@ -1,5 +1,6 @@
 #include "headunit/host/leveloverlay.h"
 
+#include "headunit/audio/soundtables.h"
 #include "headunit/host/look.h"
 #include "translator.h"
 
@@ -9,7 +10,6 @@ namespace headunit {
 
 namespace {
 
-constexpr int largestLevel = 40;
 constexpr QRect place(212, 24, 600, 96);
 constexpr QRect nameArea(28, 0, 190, 96);
 constexpr QRect trackArea(224, 42, 280, 12);
@@ -52,7 +52,7 @@ void LevelOverlay::paintEvent(QPaintEvent *) {
     painter.drawRoundedRect(trackArea, radius, radius);
     if (m_level > 0) {
         QRect filled = trackArea;
-        filled.setWidth(qMax(trackArea.height(), trackArea.width() * m_level / largestLevel));
+        filled.setWidth(qMax(trackArea.height(), trackArea.width() * m_level / ranges::channelLevel.high));
         painter.setBrush(colour::accent);
         painter.drawRoundedRect(filled, radius, radius);
     }

@@ -57,19 +57,41 @@ int printHelpOrVersion(const Options &options, int argc, char **argv) {
     return exitGood;
 }
 
+// The platform that needs no display.
+const char offscreen[] = "offscreen";
+
 /// Without a display, and without a platform that needs none, the unit can only be looked at in pictures.
 void fallBackToTour(Options *options) {
-    if (!qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-        !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         return;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        // Without a second choice Qt ends the process where the display does not answer.
+        const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
+        qputenv("QT_QPA_PLATFORM", QByteArray(x11 ? "xcb" : "wayland") + ';' + offscreen);
+        return;
+    }
+    qputenv("QT_QPA_PLATFORM", offscreen);
     if (options->scripted() || options->exitWhenShown) {
         return;
     }
     options->tour = QDir::temp().filePath(QStringLiteral("headunit-tour"));
     std::fprintf(stderr, "headunit: there is no display; a picture of every screen goes to %s\n",
                  qUtf8Printable(options->tour));
+}
+
+/// Whether the display that the environment names did not answer and Qt took the second choice.
+bool displayFailed() {
+    return QGuiApplication::platformName() == QLatin1String(offscreen) && qgetenv("QT_QPA_PLATFORM") != offscreen;
+}
+
+/// Starts this program anew as on a machine without a display: virtual time must stand before the application object.
+int restartWithoutDisplay(char **argv) {
+    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        qunsetenv(name);
+    }
+    execv("/proc/self/exe", argv);
+    return refuse(QStringLiteral("the display does not answer"));
 }
 
 /// Qt wants a folder for the running session and prints a warning where nobody set one, as in a container.
@@ -99,6 +121,7 @@ QString fileProblem(const Options &options) {
 }
 
 void printTrace() {
+    setTraceReads(true);
     setTraceSink([](const TraceEntry &entry) {
         std::printf("%s -> %s\n", qUtf8Printable(entry.call), qUtf8Printable(entry.meaning));
     });
@@ -174,9 +197,12 @@ int main(int argc, char **argv) {
     }
     provideRuntimeFolder();
     prepareUnitApplication();
-    const bool virtualTime = options.scripted() && qgetenv("QT_QPA_PLATFORM") == "offscreen";
+    const bool virtualTime = options.scripted() && qgetenv("QT_QPA_PLATFORM") == offscreen;
     VirtualTime *const time = virtualTime ? new VirtualTime : nullptr;
     HostApplication application(argc, argv);
+    if (displayFailed()) {
+        return restartWithoutDisplay(argv);
+    }
     setUpUnitApplication();
 
     // The tour shows the unit as it leaves the factory, and leaves the user's settings alone.

@@ -1,20 +1,31 @@
 #include "headunit/host/stage.h"
 
+#include "headunit/settings/trace.h"
 #include "keyevent.h"
 #include "windowinterface.h"
 
-#include <QAbstractButton>
 #include <QWidget>
 
 namespace headunit {
 
 namespace {
 
-/// A key that is held when the screen is taken away, by a call for example, must not act when the finger goes up.
-void releaseKeys(QWidget *widget) {
-    for (QAbstractButton *key : widget->findChildren<QAbstractButton *>()) {
-        key->setDown(false);
-    }
+struct WindowCall {
+    void (WindowInterface::*call)();
+    const char *name;
+    const char *meaning;
+};
+
+constexpr WindowCall onCreate{&WindowInterface::onCreate, "onCreate", "the window is wanted"};
+constexpr WindowCall onShow{&WindowInterface::onShow, "onShow", "the window is about to be shown"};
+constexpr WindowCall onEnter{&WindowInterface::onEnter, "onEnter", "the driver works with the window"};
+constexpr WindowCall onExit{&WindowInterface::onExit, "onExit", "the driver works with another"};
+constexpr WindowCall onHide{&WindowInterface::onHide, "onHide", "the window was hidden"};
+constexpr WindowCall onDestroy{&WindowInterface::onDestroy, "onDestroy", "the window is no longer wanted"};
+
+void tell(WindowInterface *window, const WindowCall &call) {
+    HEADUNIT_TRACE(traceCall(call.name), QLatin1String(call.meaning));
+    (window->*call.call)();
 }
 
 }  // namespace
@@ -26,7 +37,7 @@ bool Stage::open(WindowInterface *window) {
         return true;
     }
     leave();
-    window->onCreate();
+    tell(window, onCreate);
     if (!m_created.contains(window)) {
         m_created << window;
     }
@@ -36,10 +47,10 @@ bool Stage::open(WindowInterface *window) {
     }
     takeUpWidget(widget);
     m_front = window;
-    window->onShow();
+    tell(window, onShow);
     widget->show();
     widget->raise();
-    window->onEnter();
+    tell(window, onEnter);
     Q_EMIT frontChanged();
     return true;
 }
@@ -58,19 +69,18 @@ void Stage::leave() {
     }
     WindowInterface *const left = m_front;
     m_front = nullptr;
-    left->onExit();
+    tell(left, onExit);
     if (QWidget *widget = left->mainWidget()) {
         widget->hide();
-        releaseKeys(widget);
     }
-    left->onHide();
+    tell(left, onHide);
     Q_EMIT frontChanged();
 }
 
 void Stage::shutDown() {
     leave();
     for (WindowInterface *window : qAsConst(m_created)) {
-        window->onDestroy();
+        tell(window, onDestroy);
     }
     m_created.clear();
 }
@@ -83,11 +93,23 @@ void Stage::releaseWidgets() {
 }
 
 bool Stage::offerKey(KeyEvent *event) {
-    return m_front && m_front->keyEvent(event) == 1;
+    if (!m_front) {
+        return false;
+    }
+    const bool used = m_front->keyEvent(event) == 1;
+    HEADUNIT_TRACE(traceCall("keyEvent", {event->key(), int(event->type())}),
+                   used ? QStringLiteral("hard key, used by the window") : QStringLiteral("hard key, the unit's"));
+    return used;
 }
 
 bool Stage::offerBack() {
-    return m_front && m_front->backEvent() == 1;
+    if (!m_front) {
+        return false;
+    }
+    const bool answered = m_front->backEvent() == 1;
+    HEADUNIT_TRACE(traceCall("backEvent"), answered ? QStringLiteral("Back, answered by the window")
+                                                    : QStringLiteral("Back, the unit leaves the window"));
+    return answered;
 }
 
 }  // namespace headunit

@@ -1,6 +1,7 @@
 #include "headunit/host/unit.h"
 
 #include "audioservice.h"
+#include "headunit/audio/soundtables.h"
 #include "headunit/host/bandadjust.h"
 #include "headunit/host/callscreen.h"
 #include "headunit/host/carscreen.h"
@@ -29,7 +30,6 @@ const QLatin1String audioSettingsId("audiosetting");
 const QLatin1String pageRequestKey("SettingTouchPageType");
 constexpr int volumePageRequest = 3;
 
-constexpr int largestLevel = 40;
 constexpr int mainChannel = 0;  ///< index into texts::channels
 constexpr int phoneChannel = 2;
 
@@ -227,7 +227,8 @@ void Unit::touch(int code) {
 void Unit::stepVolume(int by) {
     const texts::Channel &channel = texts::channels[m_callActive ? phoneChannel : mainChannel];
     qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
-    const int level = qBound(0, audio->getSourceVolByType(channel.type) + by, largestLevel);
+    const int level =
+        qBound(ranges::channelLevel.low, audio->getSourceVolByType(channel.type) + by, ranges::channelLevel.high);
     audio->setVolumeLevel(level, channel.type);
     if (!m_levelOverlay) {
         m_levelOverlay = new LevelOverlay(m_screen);

@@ -22,8 +22,7 @@ bool traceEnabled();
 /// Hands an entry to the sink.
 void trace(const QString &call, const QString &meaning);
 
-/// Whether calls that only read are recorded as well. Off at first: showing a page reads dozens of values, and what
-/// was read is what was written before.
+/// Whether calls that only read are recorded as well. Off at first: showing a page reads dozens of values.
 void setTraceReads(bool on);
 bool traceReadsEnabled();
 

@@ -159,12 +159,17 @@ private slots:
 
     void everythingOddAtOnce() {
         for (int value : oddValues) {
+            All all;
             for (int index : {front, rear, subwoofer}) {
-                store(index, Values{value, value, value, value, value});
+                all[index] = Values{value, value, value, value, value};
+                store(index, all[index]);
             }
+            recording::setStored("crossover/type", int(front));
             Screen screen;
             show(&screen.page);
+            QCOMPARE(recording::take(), refreshAll(all, front));
             tapEverything(screen);
+            recording::clear();
         }
     }
 

@@ -168,6 +168,44 @@ private slots:
         QCOMPARE(screen.key("key_preset_1")->property("long_click"), QVariant(false));
     }
 
+    void holdThatEndsBesideTheKeyIsOver_data() { presetRows(); }
+    void holdThatEndsBesideTheKeyIsOver() {
+        QFETCH(int, number);
+        storeAll(someValues);
+        Screen screen;
+        show(&screen.page);
+        QPushButton *const key = screen.key(keyName(number));
+        finger::press(key, key->rect().center());
+        advance(1500);
+        QCOMPARE(key->property("long_click"), QVariant(true));
+        const QPoint beside(key->width() / 2, -40);
+        finger::move(key, beside);
+        finger::release(key, beside);
+        QCOMPARE(key->property("long_click"), QVariant(false));
+        QCOMPARE(screen.presets(), checkedOnly(number));
+        // No click has followed the hold, so the next one recalls.
+        screen.tap("key_freq_plus");
+        QCOMPARE(screen.presets(), QStringLiteral("--"));
+        recording::clear();
+        screen.tap(keyName(number));
+        QCOMPARE(recording::take(), recall(someValues, front));
+        QCOMPARE(screen.presets(), checkedOnly(number));
+    }
+
+    void holdThatComesBackToTheKeyIsOneHold() {
+        Screen screen;
+        show(&screen.page);
+        QPushButton *const key = screen.key("key_preset_1");
+        finger::press(key, key->rect().center());
+        advance(1500);
+        finger::move(key, QPoint(0, -40));
+        finger::move(key, key->rect().center());
+        recording::clear();
+        finger::release(key, key->rect().center());
+        QCOMPARE(recording::take(), QStringList());
+        QCOMPARE(key->property("long_click"), QVariant(false));
+    }
+
     void comparesWhatIsHeard_data() {
         QTest::addColumn<QString>("key");
         QTest::addColumn<bool>("counts");

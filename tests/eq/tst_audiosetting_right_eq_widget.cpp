@@ -1,9 +1,8 @@
 // The EQ page's curve: what it shows, its sliders, step keys and Flat.
 
 #include "tests/eq/eqpagetest.h"
+#include "tests/eq/otherlanguage.h"
 #include "tests/platform/testmain.h"
-
-#include <QTranslator>
 
 #include <limits>
 
@@ -14,14 +13,6 @@ namespace {
 
 const int minimum = std::numeric_limits<int>::min();
 const int maximum = std::numeric_limits<int>::max();
-
-class OtherLanguage : public QTranslator {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *source, const char *, int) const override {
-        return QLatin1Char('<') + QLatin1String(source) + QLatin1Char('>');
-    }
-};
 
 }  // namespace
 

@@ -2,13 +2,13 @@
 
 #include "eq/eqtable.h"
 #include "tests/eq/eqreference.h"
+#include "tests/eq/otherlanguage.h"
 #include "tests/platform/pagetest.h"
 #include "tests/platform/testmain.h"
 
 #include <QButtonGroup>
 #include <QLabel>
 #include <QPushButton>
-#include <QTranslator>
 
 #include <limits>
 
@@ -45,14 +45,6 @@ QStringList choiceOf(int type) {
     return {"doBeep(0)", "setValue(\"HIGHLIGHT_PRESET_ID\", -1, -1, true)",
             QStringLiteral("setEQType(%1, true)").arg(type)};
 }
-
-class OtherLanguage : public QTranslator {
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *source, const char *, int) const override {
-        return QLatin1Char('<') + QLatin1String(source) + QLatin1Char('>');
-    }
-};
 
 }  // namespace
 
@@ -262,7 +254,9 @@ private slots:
         Audiosetting_right_factoryeq_widget page(nullptr);
         show(&page);
         for (const Tile &tile : tiles) {
-            QCOMPARE(page.findChild<QLabel *>(QLatin1String(tile.caption))->text(), QLatin1String(tile.text));
+            const QLabel *const caption = page.findChild<QLabel *>(QLatin1String(tile.caption));
+            QCOMPARE(caption->text(), QLatin1String(tile.text));
+            QCOMPARE(caption->styleSheet(), QStringLiteral("color: rgb(255, 255, 255);"));
         }
         OtherLanguage language;
         QCoreApplication::installTranslator(&language);

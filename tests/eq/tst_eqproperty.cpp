@@ -31,7 +31,6 @@ class tst_EqProperty : public PageTest {
     QRandomGenerator m_random;
     AudioRootPagtSettings *m_root = nullptr;
     Audiosetting_right_eq_widget *m_page = nullptr;
-    int m_bandsTouched = 0;
 
     int random(int end) { return int(m_random.bounded(end)); }
 
@@ -50,7 +49,6 @@ class tst_EqProperty : public PageTest {
             finger::move(slider, QPoint(random(36), random(164)));
         }
         finger::release(slider, QPoint(random(36), random(164)));
-        ++m_bandsTouched;
     }
 
     void pressSlot(int ms) {

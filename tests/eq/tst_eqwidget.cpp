@@ -1,6 +1,7 @@
 #include "eq/eqwidget.h"
 
 #include "eq/eqtable.h"
+#include "navigation/pageid.h"
 #include "tests/eq/eqreference.h"
 #include "tests/platform/pagetest.h"
 #include "tests/platform/testmain.h"
@@ -74,6 +75,18 @@ private slots:
                               "slot save_eq_section_drag(int,int)", "slot onBackKeyClicked()",
                               "slot on_key_left_clicked()", "slot on_key_right_clicked()", "slot onEqTypeChanged(int)",
                               "slot onSaveCustomEqValue()", "slot onUpdateCustomEqData()", "slot onResetEqValue()"}));
+    }
+
+    void pagesHaveTheNumbersOfTheContainer() {
+        using namespace audiosetting;
+        QCOMPARE(int(SettingPageGeneral), int(PageGeneral));
+        QCOMPARE(int(SettingPageEq), int(PageEq));
+        QCOMPARE(int(SettingPageCrossover), int(PageCrossover));
+        QCOMPARE(int(SettingPageTiming), int(PageTiming));
+        QCOMPARE(int(SettingPageFactoryEq), int(PageFactoryEq));
+        QCOMPARE(int(SettingPageVolume), int(PageVolume));
+        QCOMPARE(int(SettingPageSourceGain), int(PageSourceGain));
+        QCOMPARE(int(SettingPageSettingsRoot), int(PageSettingsRoot));
     }
 
     void constructionAndShowSendNothing() {

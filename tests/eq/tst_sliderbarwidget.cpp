@@ -311,6 +311,18 @@ private slots:
         QCOMPARE(slider.lastTouchY(), 164 - 14);
     }
 
+    void everyTouchRepaints() {
+        Slider slider;
+        show(&slider);
+        // The level stays as it is; that it is painted shows in what painting does to the last touch.
+        typedef void (*Touch)(QWidget *, const QPoint &);
+        for (const Touch touch : {Touch(finger::press), Touch(finger::move), Touch(finger::release)}) {
+            touch(&slider, QPoint(18, 4));
+            QCOMPARE(slider.getLevel(), 0);
+            QCOMPARE(slider.lastTouchY(), 14);
+        }
+    }
+
     void isPaintedAsPrescribedAtEveryLevel() {
         Slider slider;
         show(&slider);

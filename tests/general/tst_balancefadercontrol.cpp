@@ -4,7 +4,9 @@
 #include "tests/platform/testmain.h"
 
 #include <QPainter>
+#include <QScreen>
 #include <QSignalSpy>
+#include <QTimer>
 
 #include <cstdlib>
 
@@ -209,6 +211,26 @@ private slots:
         QCOMPARE(recording::take(), QStringList());
     }
 
+    void dragTimerRunsWhileTheFingerMoves() {
+        Pad pad;
+        show(&pad);
+        const QTimer *const timer = pad.findChild<QTimer *>();
+        QVERIFY(timer && timer->isSingleShot());
+        finger::press(&pad, pad.origin);
+        QVERIFY(!timer->isActive());
+        finger::move(&pad, pad.origin + QPoint(6, 0));
+        QVERIFY(timer->isActive());
+        advance(499);
+        finger::move(&pad, pad.origin + QPoint(12, 0));
+        advance(499);
+        QVERIFY(timer->isActive());
+        advance(1);
+        QVERIFY(!timer->isActive());
+        finger::move(&pad, pad.origin);
+        finger::release(&pad, pad.origin);
+        QVERIFY(!timer->isActive());
+    }
+
     void touchDoesNotMoveTheMarker() {
         Pad pad;
         show(&pad);
@@ -295,7 +317,8 @@ private slots:
             pad.updatePos();
             advance(20);
         }
-        const QImage screen = pad.image();
+        // Not grab(), which would paint all of it anew.
+        const QImage screen = pad.screen()->grabWindow(pad.winId()).toImage().convertToFormat(QImage::Format_RGB32);
         Pad fresh;
         fresh.setValueX(pad.getValueX());
         fresh.setValueY(pad.getValueY());

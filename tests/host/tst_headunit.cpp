@@ -23,7 +23,9 @@ private Q_SLOTS:
     void scriptResults();
     void scriptsAreInstant();
     void trace();
+    void traceOfAVisit();
     void debugLines();
+    void tourWithoutADisplay_data();
     void tourWithoutADisplay();
     void damagedSettings();
 
@@ -34,7 +36,7 @@ private:
         QString err;
         QStringList errLines() const { return err.split(QLatin1Char('\n'), Qt::SkipEmptyParts); }
     };
-    Result run(const QStringList &arguments, const QStringList &unset = {});
+    Result run(const QStringList &arguments, const QStringList &unset = {}, const QString &display = {});
     /// Writes a file into the test's folder.
     QString write(const QString &name, const QByteArray &content);
 
@@ -55,7 +57,7 @@ QString TestHeadunit::write(const QString &name, const QByteArray &content) {
     return path;
 }
 
-TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStringList &unset) {
+TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStringList &unset, const QString &display) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.remove("XDG_RUNTIME_DIR");
@@ -63,6 +65,9 @@ TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStri
     environment.insert("TMPDIR", m_folder->path());
     for (const QString &name : unset) {
         environment.remove(name);
+    }
+    if (!display.isEmpty()) {
+        environment.insert("DISPLAY", display);
     }
     QProcess process;
     process.setProcessEnvironment(environment);
@@ -229,6 +234,22 @@ void TestHeadunit::trace() {
     QCOMPARE(run({"--script", script}).out, QStringLiteral("between\n"));
 }
 
+void TestHeadunit::traceOfAVisit() {
+    // Calls in both directions, readers included, in their order.
+    const QString script =
+        write("s.js", "open('audiosetting'); wait(200); tap('key_Subwoofer'); tap('key_return'); wait(0);");
+    const QStringList lines = run({"--trace", "--script", script}).out.split('\n', Qt::SkipEmptyParts);
+    int at = -1;
+    for (const char *call :
+         {"onCreate() -> ", "SettingsFunc::getValue(\"SettingTouchPageType\", 0) -> ", "onShow() -> ",
+          "getValue(\"subwooferLevel\", 3) -> ", "onEnter() -> ", "doBeep(0) -> key click", "setSubwooferValue(3) -> ",
+          "TouchEvent(15, -1, -1) -> leave by Back", "onExit() -> ", "onHide() -> ", "onDestroy() -> "}) {
+        const int next = lines.indexOf(QRegularExpression('^' + QRegularExpression::escape(call) + ".*"), at + 1);
+        QVERIFY2(next > at, qPrintable(QLatin1String(call) + QLatin1Char('\n') + lines.join('\n')));
+        at = next;
+    }
+}
+
 void TestHeadunit::debugLines() {
     const QString script = write("s.js", "open('audiosetting');");
     QCOMPARE(run({"--script", script}).err, QString());
@@ -237,12 +258,21 @@ void TestHeadunit::debugLines() {
     QVERIFY2(verbose.err.contains("[DBG]") && verbose.err.contains("audioSettingsPage: "), qPrintable(verbose.err));
 }
 
+void TestHeadunit::tourWithoutADisplay_data() {
+    QTest::addColumn<QString>("display");
+    QTest::newRow("none") << QString();
+    QTest::newRow("one that does not answer") << QStringLiteral("no-such-host.invalid:0");
+}
+
 void TestHeadunit::tourWithoutADisplay() {
-    const Result result = run({}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"});
+    QFETCH(QString, display);
+    const Result result = run({}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}, display);
     QVERIFY2(result.code == 0, qPrintable(result.err));
-    QCOMPARE(result.errLines().size(), 1);
+    // What Qt says about the display may come before.
+    QVERIFY(display.isEmpty() ? result.errLines().size() == 1 : !result.errLines().isEmpty());
     const QString folder = m_folder->filePath("headunit-tour");
-    QVERIFY2(result.err.contains("no display") && result.err.contains(folder), qPrintable(result.err));
+    QVERIFY2(result.errLines().last().contains("no display") && result.errLines().last().contains(folder),
+             qPrintable(result.err));
     // One line of the index for each picture, and each picture is of the screen's size.
     const QStringList pictures = QDir(folder).entryList({"*.png"}, QDir::Files);
     const QStringList index = result.out.split('\n', Qt::SkipEmptyParts);

@@ -71,7 +71,6 @@ private Q_SLOTS:
     void opensWhatHasNoWidget();
     void offersKeysAndBack();
     void shutsDown();
-    void aHeldKeyDoesNotAct();
     void survivesADeletedWidget();
 
 private:
@@ -184,22 +183,6 @@ void TestStage::shutsDown() {
     QVERIFY(!widget);
     m_stage->shutDown();
     QCOMPARE(g_calls.size(), 4);
-}
-
-void TestStage::aHeldKeyDoesNotAct() {
-    m_stage->open(m_a.data());
-    QPushButton *const key = new QPushButton(m_a->m_widget);
-    key->setGeometry(0, 0, 80, 80);
-    key->show();
-    QSignalSpy clicked(key, SIGNAL(clicked()));
-    QTest::mousePress(key, Qt::LeftButton);
-    QVERIFY(key->isDown());
-    m_stage->leave();
-    QTest::mouseRelease(key, Qt::LeftButton);
-    QCOMPARE(clicked.count(), 0);
-    m_stage->open(m_a.data());
-    QTest::mouseClick(key, Qt::LeftButton);
-    QCOMPARE(clicked.count(), 1);
 }
 
 void TestStage::survivesADeletedWidget() {

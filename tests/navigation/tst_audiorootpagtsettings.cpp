@@ -18,6 +18,8 @@
 #include <QPushButton>
 #include <QRegularExpression>
 
+#include <thread>
+
 namespace {
 
 const QStringList tabKeys{"key_general", "key_eq", "key_crossover", "key_timing", "key_factoryeq"};
@@ -230,6 +232,15 @@ private slots:
         screen.back();
         QCOMPARE(acts(), QStringList({"doBeep(0)", answered(), "postTouch(15, -1, -1)"}));
         QCOMPARE(screen.root->currentPageId(), 1);
+    }
+
+    void requestFromAnotherThreadWaitsForThisOne() {
+        Screen screen;
+        recording::setShared("SettingTouchPageType", 3);
+        std::thread([] { recording::announceSetting("SettingTouchPageType"); }).join();
+        QCOMPARE(screen.root->currentPageId(), 0);
+        QCoreApplication::sendPostedEvents(screen.root);
+        QCOMPARE(screen.root->currentPageId(), 5);
     }
 
     void anotherPageForgetsTheRequestWhileRunning() {

@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QSignalSpy>
 
+#include <thread>
+
 namespace {
 
 const char *const names[] = {"key_general", "key_eq", "key_crossover", "key_timing", "key_factoryeq"};
@@ -192,6 +194,15 @@ private slots:
         recording::setStored("ADV_AUDIO_SETTINGS", 0);
         recording::announceSetting("ADV_AUDIO_SETTINGS");
         QCOMPARE(bar.enabled(), QStringLiteral("eeeee"));
+    }
+
+    void announcementFromAnotherThreadWaitsForThisOne() {
+        Bar bar;
+        recording::setStored("ADV_AUDIO_SETTINGS", 1);
+        std::thread([] { recording::announceSetting("ADV_AUDIO_SETTINGS"); }).join();
+        QCOMPARE(bar.enabled(), QStringLiteral("eeeee"));
+        QCoreApplication::sendPostedEvents(&bar.tab);
+        QCOMPARE(bar.enabled(), QStringLiteral("edddd"));
     }
 
     void otherAnnouncementsAreLoggedAndIgnored() {

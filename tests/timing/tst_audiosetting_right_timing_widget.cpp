@@ -167,6 +167,20 @@ private slots:
         QCOMPARE(recording::take(), QStringList());
     }
 
+    void presetCaptionEndsAboveItsKeys() {
+        // Its label reaches behind the keys.
+        Screen screen;
+        show(&screen.page);
+        const QLabel *const caption = screen.page.findChild<QLabel *>(QStringLiteral("txt_presets"));
+        const QRect text = QFontMetrics(caption->font())
+                               .boundingRect(caption->contentsRect(), int(caption->alignment()), caption->text());
+        const int end = caption->y() + text.bottom();
+        for (const char *key : {"key_preset_1", "key_preset_2"}) {
+            const int begin = screen.key(QLatin1String(key))->y();
+            QVERIFY2(end < begin, qPrintable(QStringLiteral("%1, %2").arg(end).arg(begin)));
+        }
+    }
+
     // Stepping --------------------------------------------------------------------------------------------------------
 
     void keyStepsItsOutput_data() { outputRows(); }

@@ -202,8 +202,21 @@ class tst_CrossoverTimingWalk : public PageTest {
         model.delayChecked = model.matchingDelays();
     }
 
-    void recallOrSave(int number, bool save) {
-        finger::hold(key(QLatin1String(number == 0 ? "key_preset_1" : "key_preset_2")), save ? 1600 : 100);
+    void recallOrSave(int number, bool save, bool beside) {
+        QPushButton *const pressed = key(QLatin1String(number == 0 ? "key_preset_1" : "key_preset_2"));
+        const QPoint center = pressed->rect().center();
+        finger::press(pressed, center);
+        advance(save ? 1600 : 100);
+        if (beside) {
+            const QPoint off(center.x(), -40);
+            finger::move(pressed, off);
+            finger::release(pressed, off);
+            if (!save) {
+                return;
+            }
+        } else {
+            finger::release(pressed, center);
+        }
         if (model.page == crossoverPage) {
             if (save) {
                 model.filterPreset[number] = model.filters;
@@ -251,8 +264,12 @@ class tst_CrossoverTimingWalk : public PageTest {
         if (kind < 25) {
             const int number = random.bounded(2);
             const bool save = random.bounded(3) == 0;
-            recallOrSave(number, save);
-            return QStringLiteral("%1 %2").arg(QLatin1String(save ? "save" : "recall")).arg(number + 1);
+            const bool beside = random.bounded(4) == 0;
+            recallOrSave(number, save, beside);
+            return QStringLiteral("%1 %2%3")
+                .arg(QLatin1String(save ? "save" : "recall"))
+                .arg(number + 1)
+                .arg(QLatin1String(beside ? ", lifted beside" : ""));
         }
         if (model.page == crossoverPage) {
             if (kind < 40) {

@@ -129,6 +129,30 @@ private slots:
         QCOMPARE(screen.presets(), QStringLiteral("--"));
     }
 
+    void holdThatEndsBesideTheKeyIsOver_data() { presetRows(); }
+    void holdThatEndsBesideTheKeyIsOver() {
+        QFETCH(int, number);
+        store(someDelays);
+        Screen screen;
+        show(&screen.page);
+        QPushButton *const key = screen.key(keyName(number));
+        finger::press(key, key->rect().center());
+        advance(1500);
+        QCOMPARE(key->property("long_click"), QVariant(true));
+        const QPoint beside(key->width() / 2, -40);
+        finger::move(key, beside);
+        finger::release(key, beside);
+        QCOMPARE(key->property("long_click"), QVariant(false));
+        QCOMPARE(screen.presets(), checkedOnly(number));
+        // No click has followed the hold, so the next one recalls.
+        finger::tap(screen.plus(0));
+        QCOMPARE(screen.presets(), QStringLiteral("--"));
+        recording::clear();
+        screen.tap(keyName(number));
+        QCOMPARE(recording::take(), recall(someDelays));
+        QCOMPARE(screen.presets(), checkedOnly(number));
+    }
+
     void onlyTwoPresetsAreSaved() {
         Screen screen;
         show(&screen.page);

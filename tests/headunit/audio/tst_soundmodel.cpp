@@ -28,6 +28,7 @@ private Q_SLOTS:
     void restoresParts();
     void storedNonsense_data();
     void storedNonsense();
+    void aStoredValueOutOfRangeIsReportedAsItStands();
     void anyValueStaysInRange();
     void beeps();
 };
@@ -413,6 +414,24 @@ void tst_SoundModel::storedNonsense() {
         QVERIFY(model.state() == SoundModel(empty).state());
     }
     QCOMPARE(log.takeWarnings(), QStringList());
+}
+
+void tst_SoundModel::aStoredValueOutOfRangeIsReportedAsItStands() {
+    SettingsStore store;
+    store.set("eq3", 99);
+    store.set("eq12", -13);
+    store.set("audioinputgain5", std::numeric_limits<int>::max());
+    store.set("audioinputgain6", -11);
+    LogWatch log;
+    const SoundModel model(store);
+    QCOMPARE(log.takeDebug(), QStringList({"sound: eq3 99 is not within -12 to 24, taken as 24",
+                                           "sound: eq12 -13 is not within -12 to 24, taken as -12",
+                                           "sound: audioinputgain5 2147483647 is not within -10 to 10, taken as 10",
+                                           "sound: audioinputgain6 -11 is not within -10 to 10, taken as -10"}));
+    QCOMPARE(model.state().customEq[3], 24);
+    QCOMPARE(model.state().customEq[12], -12);
+    QCOMPARE(model.state().sourceGain[5], 20);
+    QCOMPARE(model.state().sourceGain[6], 0);
 }
 
 void tst_SoundModel::anyValueStaysInRange() {
