@@ -52,10 +52,10 @@ function(headunit_library name)
     target_link_libraries(${name} PUBLIC headunit_contract Qt5::Core ${ARG_LINK})
 endfunction()
 
-# What every test runs in. Qt is built without frame pointers: only the slow unwinder sees whose leak it is.
+# What every test runs in.
 set(audiosetting_test_environment
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1;\
-ASAN_OPTIONS=fast_unwind_on_malloc=0;LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
+LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 
 # audiosetting_test(NAME SOURCES FILE... [LINK LIBRARY...] [LABELS LABEL...]): a QTest program, run by ctest.
 function(audiosetting_test name)

@@ -135,9 +135,9 @@ void SliderBarWidget::touch(int y) {
     if (level != m_level) {
         moveTo(level);
         emit valueChanged(m_id, m_level);
+    } else {
+        update(knobRect());  // painting keeps the last touch on the bar
     }
-    // Also where nothing moves: painting keeps the last touch on the bar.
-    update(knobRect());
 }
 
 void SliderBarWidget::moveTo(int level) {

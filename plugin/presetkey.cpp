@@ -35,9 +35,8 @@ public:
 
     bool eventFilter(QObject *, QEvent *event) override {
         if (event->type() == QEvent::MouseButtonRelease) {
-            // As the button decides it: the release is no click.
-            const QPoint pos = static_cast<QMouseEvent *>(event)->pos();
-            if (!m_key->isDown() || !m_key->rect().contains(pos)) {
+            // As the button decides it: outside, the release is no click.
+            if (!m_key->rect().contains(static_cast<QMouseEvent *>(event)->pos())) {
                 setLongClick(m_key, false);
             }
         }

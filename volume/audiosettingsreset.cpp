@@ -21,6 +21,7 @@ namespace {
 
 const int bandCount = 13;
 const int outputCount = 6;
+const int delaysEnabled = 1;
 const int resetSourceCount = 6;    // DAB, the seventh source, keeps its gain: required
 const int channelCount = 8;        // volume channels, with those that have no row on any page
 const int defaultVolumeCount = 5;  // channels that have a "default_volume%1"
@@ -83,7 +84,7 @@ void applyDelays() {
     for (int output = 0; output < outputCount; ++output) {
         delays[output] = reset::delay(output).value();
     }
-    mcu::McuService::instance()->setAudioTimerDelay(1, delays);
+    mcu::McuService::instance()->setAudioTimerDelay(delaysEnabled, delays);
 }
 
 // The stored gains without the offset that the Source Gain page adds: required.

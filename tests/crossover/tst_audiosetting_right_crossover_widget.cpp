@@ -35,6 +35,18 @@ private slots:
         QCOMPARE(screen.text("txt_slope_value"), QStringLiteral("6 db"));
     }
 
+    void hasTheUnitsFonts() {
+        recording::setLogged(recording::Toolkit);
+        Screen screen;
+        QVERIFY(recording::take().contains("sync_default_font(Audiosetting_right_crossover_widget, \"txt_\")"));
+        for (const char *value : {"txt_slope_value", "txt_freq_value", "txt_level_value"}) {
+            const QLabel *const label = screen.label(QLatin1String(value));
+            const QVariant points = label->property("PRO_FONT_SIZE");
+            QVERIFY(points.toInt() > 0);
+            QCOMPARE(label->font().pointSize(), points.toInt());
+        }
+    }
+
     void declaresItsSlots() {
         const QMetaObject &meta = Audiosetting_right_crossover_widget::staticMetaObject;
         const QStringList expected{"onGeneralButtonClicked(int)",

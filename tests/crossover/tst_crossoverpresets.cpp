@@ -127,6 +127,21 @@ private slots:
         QCOMPARE(screen.presets(), checkedOnly(1 - number));
     }
 
+    void recallFindsTheChannelInTheStore() {
+        storePreset(0, someValues);
+        Screen screen;
+        show(&screen.page);
+        // Changed behind the page's back.
+        recording::setStored("crossover/type", int(rear));
+        recording::clear();
+        screen.tap("key_preset_1");
+        QCOMPARE(recording::take(), recall(someValues, rear));
+        Values stepped = someValues[rear];
+        ++stepped.freq;
+        screen.tap("key_freq_plus");
+        QCOMPARE(recording::take(), QStringList("doBeep(0)") + curveStep(rear, stepped));
+    }
+
     void presetReadsItsOwnDefaults() {
         recording::setStored("crossover/PRESET_SWITCH0", true);
         storeAll(someValues);

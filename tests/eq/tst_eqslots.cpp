@@ -57,6 +57,37 @@ private slots:
         QCOMPARE(reference::levels(page), curve(slot));
     }
 
+    void storingSelectsTheSlotBeforeTheRelease() {
+        setLive(curve(1));
+        storeSlot(4, curve(1));
+        recording::setStored("HIGHLIGHT_PRESET_ID", 4);
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QCOMPARE(selected(page), 4);
+        QPushButton *const key = customKey(page, 1);
+        finger::press(key, key->rect().center());
+        advance(longPress);
+        QCOMPARE(recording::stored("HIGHLIGHT_PRESET_ID"), QVariant(4));
+        QCOMPARE(selected(page), 1);
+        finger::release(key, key->rect().center());
+        QCOMPARE(recording::stored("HIGHLIGHT_PRESET_ID"), QVariant(1));
+        QCOMPARE(selected(page), 1);
+    }
+
+    void storingIsGivenTheBandDraggedLast() {
+        setLive(everywhere(12));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        finger::hold(customKey(page, 0), longPress);
+        QCOMPARE(debugLines().filter("slot: 0 section: 0 value: 0").size(), 1);
+        finger::tap(reference::sliders(page)[4], at(20));
+        finger::hold(customKey(page, 2), longPress);
+        QCOMPARE(debugLines().filter("slot: 2 section: 4 value: 20").size(), 1);
+        QVERIFY(QMetaObject::invokeMethod(&page, "save_eq_section_drag", Q_ARG(int, 6), Q_ARG(int, 9)));
+        finger::hold(customKey(page, 1), longPress);
+        QCOMPARE(debugLines().filter("slot: 1 section: 6 value: 9").size(), 1);
+    }
+
     void storingAPresetMakesItTheLiveCurve() {
         recording::state().eqType = 3;
         Audiosetting_right_eq_widget page(nullptr);
@@ -242,6 +273,21 @@ private slots:
         advance(1);
         QCOMPARE(selected(page), 4);
         QCOMPARE(recording::take(), QStringList());
+    }
+
+    void onlyTheLiveCurveAsksForTheLastSlotAndIsNotEvaluatedLater() {
+        for (int number : {0, 3, 16, 17, 20}) {
+            recording::reset();
+            setLive(curve(1));
+            recording::state().eqType = number;
+            recording::setLogged(recording::Reads);
+            Audiosetting_right_eq_widget page(nullptr);
+            page.show();
+            advance(19);
+            QCOMPARE(recording::take().contains("getValue(\"custom_eq_type_id\", 0)"), number == 16);
+            advance(1);
+            QCOMPARE(recording::take().isEmpty(), number == 16);
+        }
     }
 
     void updateCustomEqUiSelectsStoredSlotsOnly() {

@@ -39,6 +39,20 @@ private slots:
         QCOMPARE(screen.shown(), QStringList({"0", "0", "0", "0", "0", "0"}));
     }
 
+    void constructionReadsTheUnitOfDelays() {
+        recording::setLogged(recording::Reads);
+        const Screen screen;
+        QCOMPARE(recording::take(),
+                 QStringList({"getValue(\"timing/type\", 0)", "getValue(\"timing/PRESET_ENABLE0\", false)",
+                              "getValue(\"timing/PRESET_ENABLE1\", false)"}));
+    }
+
+    void hasTheUnitsFonts() {
+        recording::setLogged(recording::Toolkit);
+        const Screen screen;
+        QVERIFY(recording::take().contains("sync_default_font(Audiosetting_right_timing_widget, \"txt_\")"));
+    }
+
     void declaresItsSlots() {
         const QMetaObject &meta = Audiosetting_right_timing_widget::staticMetaObject;
         const QStringList expected{"initUi()",

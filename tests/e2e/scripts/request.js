@@ -39,3 +39,15 @@ expect("Txt_title", "text", "Timing");
 expect("home", "visible", false);
 use("key_return");
 expect("home", "visible", true);
+
+// Asked for while it is in front, the application still returns to where it was opened from.
+use("tile_car");
+use("car_request");
+request();
+wait(guard);
+use("key_return");
+expect("Txt_title", "text", "Volume Settings");
+use("key_return");
+use("key_return");
+use("key_return");
+expect("car", "visible", true);

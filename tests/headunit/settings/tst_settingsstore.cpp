@@ -23,6 +23,7 @@ private Q_SLOTS:
     void removesWithAnInvalidValue();
     void refusesWhatCannotBeKept();
     void anUnchangedValueIsNoSave();
+    void whatOnlyAQuickCopyHoldsSurvivesAnIdleRun();
     void damageIsOneWarning();
     void neverWaitsForTheDisk();
     void aDeadDiskEndsWithTheStore();
@@ -148,6 +149,20 @@ void tst_SettingsStore::anUnchangedValueIsNoSave() {
     store.set("a", true);  // another type is another value
     QVERIFY(store.flush());
     QVERIFY(sameValue(onDisk().value("a"), true));
+}
+
+void tst_SettingsStore::whatOnlyAQuickCopyHoldsSurvivesAnIdleRun() {
+    // A process was killed before its last change was in the file.
+    SettingsFile file(path());
+    QString problem;
+    QVERIFY2(file.save({{{"a", 1}}, 1}, &problem), qPrintable(problem));
+    QVERIFY(file.saveQuickly({{{"a", 2}}, 2}));
+    for (int run = 0; run < 2; ++run) {
+        SettingsStore store;
+        QCOMPARE(store.open(path(), SettingsMap()), QString());
+        QCOMPARE(store.intValue("a", 0), 2);
+    }
+    QCOMPARE(onDisk().value("a"), QVariant(2));
 }
 
 void tst_SettingsStore::damageIsOneWarning() {
