@@ -96,6 +96,40 @@ void Sweep::fill(float *stereo, size_t frames) {
 
 namespace {
 
+constexpr uint64_t turnFrames = static_cast<uint64_t>(sampleRate);  ///< of a loudspeaker
+/// Silence at the end of a turn. The next loudspeaker is taken in its middle, as the engine and its delays come late.
+constexpr uint64_t gapFrames = static_cast<uint64_t>(0.2 * sampleRate);
+
+}  // namespace
+
+void LoudspeakerTone::fill(float *stereo, size_t frames) {
+    constexpr double level = 0.2;
+    constexpr double lowHz = 50;
+    constexpr double highHz = 600;
+    constexpr double edge = 0.02 * sampleRate;
+    for (size_t i = 0; i < frames; ++i, ++m_frame) {
+        const uint64_t place = m_frame % turnFrames;
+        const uint64_t left = turnFrames - gapFrames - std::min(place, turnFrames - gapFrames);
+        const double fade = std::min(1.0, static_cast<double>(std::min(place, left)) / edge);
+        const double seconds = static_cast<double>(place) / sampleRate;
+        const double sample = level * fade * (std::sin(2 * pi * lowHz * seconds) + std::sin(2 * pi * highHz * seconds));
+        stereo[2 * i] = stereo[2 * i + 1] = static_cast<float>(sample);
+    }
+}
+
+void LoudspeakerTone::select(float *out, size_t frames) {
+    for (size_t i = 0; i < frames; ++i, ++m_selected) {
+        const size_t turn = (m_selected + gapFrames / 2) / turnFrames % engine::outputCount;
+        for (size_t output = 0; output < engine::outputCount; ++output) {
+            if (output != turn) {
+                out[i * engine::outputCount + output] = 0;
+            }
+        }
+    }
+}
+
+namespace {
+
 struct Notes {
     double first;   // Hz
     double second;  // Hz

@@ -47,6 +47,18 @@ private:
     double m_phase = 0;
 };
 
+/// A tone that goes from loudspeaker to loudspeaker, a second on each, low and high enough for all of them.
+class LoudspeakerTone {
+public:
+    void fill(float *stereo, size_t frames);
+    /// Silences the other loudspeakers in the \a frames that the engine made of those that were filled in last.
+    void select(float *out, size_t frames);
+
+private:
+    uint64_t m_frame = 0;
+    uint64_t m_selected = 0;
+};
+
 /// A short sound for an input other than the main one, which tells them apart: two notes, or the click of a key.
 class Chime {
 public:

@@ -13,6 +13,8 @@ bool Player::choose(const std::string &what, std::string *error) {
         m_source.emplace<PinkNoise>();
     } else if (what == "sweep") {
         m_source.emplace<Sweep>();
+    } else if (what == "loudspeakers") {
+        m_source.emplace<LoudspeakerTone>();
     } else if (what == "silence") {
         m_source.emplace<Silence>();
     } else {
@@ -37,6 +39,9 @@ void Player::fill(float *out, size_t frames) {
             }
         }
         m_engine.process(inputs, out + done * outputCount, count);
+        if (const auto tone = std::get_if<LoudspeakerTone>(&m_source)) {
+            tone->select(out + done * outputCount, count);
+        }
         done += count;
     }
 }

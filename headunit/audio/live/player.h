@@ -15,8 +15,8 @@ namespace headunit {
 /// Everything that the unit plays, through the engine. fill() belongs to the audio thread, the rest to another.
 class Player {
 public:
-    /// \a what is "music", "noise", "sweep", "silence", or the name of a sound file. False, with a reason in \a error,
-    /// if it cannot be played. Before the first fill().
+    /// \a what is "music", "noise", "sweep", "loudspeakers", "silence", or the name of a sound file. False, with a
+    /// reason in \a error, if it cannot be played. Before the first fill().
     bool choose(const std::string &what, std::string *error);
 
     void setState(const SoundState &state) { m_engine.setParameters(engine::designParameters(state)); }
@@ -34,7 +34,7 @@ private:
     };
 
     engine::Engine m_engine{engine::Engine::Start::FadedIn};
-    std::variant<Silence, Music, PinkNoise, Sweep, FileLoop> m_source;
+    std::variant<Silence, Music, PinkNoise, Sweep, LoudspeakerTone, FileLoop> m_source;
     std::array<std::atomic<bool>, engine::inputCount> m_wanted{};
     std::array<Chime, engine::inputCount> m_chimes = {Chime(engine::MainInput),  Chime(engine::RingtoneInput),
                                                       Chime(engine::PhoneInput), Chime(engine::NavigationInput),

@@ -63,6 +63,7 @@ void TestGenerators::sameInAnyBlocks() {
     QVERIFY(isTheSameInAnyBlocks(Music()));
     QVERIFY(isTheSameInAnyBlocks(PinkNoise()));
     QVERIFY(isTheSameInAnyBlocks(Sweep()));
+    QVERIFY(isTheSameInAnyBlocks(LoudspeakerTone()));
     Chime chime(engine::PhoneInput);
     chime.restart();
     QVERIFY(isTheSameInAnyBlocks(chime));

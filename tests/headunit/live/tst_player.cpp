@@ -32,6 +32,7 @@ private Q_SLOTS:
     void everySourceIsHeard_data();
     void everySourceIsHeard();
     void chimesFollowTheirLevel();
+    void loudspeakersTakeTurns();
     void unknownSource();
 
 private:
@@ -81,6 +82,28 @@ void TestPlayer::chimesFollowTheirLevel() {
         heard(player);
         player.chime(static_cast<Input>(input));
         QVERIFY(std::abs(heard(player) / loud - fromDecibels(-6)) < 0.001);
+    }
+}
+
+void TestPlayer::loudspeakersTakeTurns() {
+    Player player;
+    QVERIFY(player.choose("loudspeakers", &m_error));
+    SoundState state = rendering::neutral();
+    state.delay.fill(99);
+    state.subwoofer = {4, 3, 12};
+    player.setState(state);
+    constexpr size_t second = 48000;
+    for (size_t turn = 0; turn < 2 * outputCount; ++turn) {
+        std::vector<float> samples(second * outputCount);
+        player.fill(samples.data(), second);
+        for (size_t output = 0; output < outputCount; ++output) {
+            float highest = 0;
+            for (size_t i = output; i < samples.size(); i += outputCount) {
+                highest = std::max(highest, std::abs(samples[i]));
+            }
+            QCOMPARE(highest > 0.1F, output == turn % outputCount);
+            QVERIFY(output == turn % outputCount || highest < 0.001F);
+        }
     }
 }
 
