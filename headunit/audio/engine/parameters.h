@@ -35,7 +35,7 @@ struct Parameters {
 };
 
 /// Works out what \a state means for the samples. Values beyond their ranges are clamped, what does not exist is off.
-/// Takes tens of microseconds: not for the audio thread.
+/// Takes about a tenth of a millisecond: not for the audio thread.
 Parameters designParameters(const SoundState &state);
 
 }  // namespace headunit::engine
