@@ -119,7 +119,6 @@ struct PulseOutput::Private {
     }
 
     void openStream(unsigned deviceChannels) {
-        saidSilent = false;
         folded = deviceChannels < outputCount;
         if (folded && !saidFolded) {
             saidFolded = true;
@@ -135,7 +134,7 @@ struct PulseOutput::Private {
             return;
         }
         pa_stream_set_state_callback(
-            stream, [](pa_stream *, void *data) { self(data).streamChanged(); }, this);
+            stream, [](pa_stream *changed, void *data) { self(data).streamChanged(changed); }, this);
         pa_stream_set_write_callback(
             stream, [](pa_stream *, size_t bytes, void *data) { self(data).write(bytes); }, this);
         pa_buffer_attr buffer;
@@ -146,9 +145,17 @@ struct PulseOutput::Private {
         }
     }
 
-    void streamChanged() {
-        if (!PA_STREAM_IS_GOOD(pa_stream_get_state(stream))) {
+    /// A stream that the server ended, as when its device is unplugged, is told a second time, within the first, that
+    /// its context ends too: by then it is no longer ours.
+    void streamChanged(const pa_stream *changed) {
+        if (changed != stream) {
+            return;
+        }
+        const pa_stream_state_t state = pa_stream_get_state(stream);
+        if (!PA_STREAM_IS_GOOD(state)) {
             connectLater();
+        } else if (state == PA_STREAM_READY) {
+            saidSilent = false;
         }
     }
 
