@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
+#include <system_error>
 
 namespace headunit {
 
@@ -103,6 +105,11 @@ SoundReader::~SoundReader() = default;
 bool SoundReader::open(const std::string &path, std::string *error) {
     constexpr int largestChannelCount = 64;
     d = std::make_unique<Private>();
+    std::error_code unknown;
+    if (std::filesystem::is_fifo(path, unknown)) {
+        *error = path + ": a pipe cannot be played";  // opening it would wait for whoever writes
+        return false;
+    }
     SF_INFO info{};
     d->file = sf_open(path.c_str(), SFM_READ, &info);
     if (!d->file) {

@@ -10,6 +10,8 @@
 #include <cmath>
 #include <limits>
 
+#include <sys/stat.h>
+
 using headunit::SoundReader;
 using soundfiletest::SoundFile;
 
@@ -25,6 +27,7 @@ private Q_SLOTS:
     void endsInTheMiddle();
     void refuses_data();
     void refuses();
+    void refusesAPipe();
 
 private:
     std::string path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)).toStdString(); }
@@ -160,6 +163,16 @@ void TestSoundReader::refuses() {
         QVERIFY2(error.find(name + ": ") == 0 && error.size() > name.size() + 5, error.c_str());
         QVERIFY(error.find('\n') == std::string::npos);
     }
+}
+
+/// Without waiting for somebody who writes into it
+void TestSoundReader::refusesAPipe() {
+    const std::string pipe = path("pipe");
+    QCOMPARE(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    SoundReader reader;
+    std::string error;
+    QVERIFY(!reader.open(pipe, &error));
+    QCOMPARE(error, pipe + ": a pipe cannot be played");
 }
 
 QTEST_APPLESS_MAIN(TestSoundReader)
