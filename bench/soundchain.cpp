@@ -28,8 +28,9 @@ int main(int argc, char **argv) {
     state.subwooferPhase = 1;
     state.delay = {10, 20, 30, 40, 50, 60};
     const engine::Kernel &kernel = std::strcmp(argv[1], "plain") == 0 ? engine::plainKernel : engine::bestKernel();
+    engine::Meters meters;
     std::string error;
-    if (!renderFile(argv[2], argv[3], state, &error, kernel)) {
+    if (!renderFile(argv[2], argv[3], state, &meters, &error, kernel)) {
         std::fprintf(stderr, "%s\n", error.c_str());
         return 1;
     }

@@ -177,7 +177,7 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
             // After the first screen
             QTimer::singleShot(0, &application, [&sound, &options] {
                 QString silentBecause;
-                sound.reset(startSound(options.play, &silentBecause));
+                sound.reset(startSound(options.play, options.meters, &silentBecause));
                 if (!silentBecause.isEmpty()) {
                     std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
                 }

@@ -27,6 +27,7 @@ constexpr OptionRow optionRows[] = {
     {"tour", "DIR", "Visit every screen, leave a picture of each in a folder, and end."},
     {"play", "WHAT",
      "What sounds: music, noise, sweep, loudspeakers (one by one), silence, or a file. Default: music."},
+    {"meters", nullptr, "Print what the loudspeakers and the limiter do, once a second, while the unit plays."},
     {"render", "IN", "Play a sound file under the current settings into another, --render IN.wav OUT.wav, and end."},
     {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
     {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
@@ -114,6 +115,7 @@ ParsedOptions parseOptions(const QStringList &arguments) {
     options.tour = parser.value(QStringLiteral("tour"));
     options.play =
         parser.isSet(QStringLiteral("play")) ? parser.value(QStringLiteral("play")) : QString::fromLatin1(defaultPlay);
+    options.meters = parser.isSet(QStringLiteral("meters"));
     options.soundJob.renderFrom = parser.value(QStringLiteral("render"));
     if (!options.soundJob.renderFrom.isEmpty()) {
         options.soundJob.renderTo = options.plugins.takeFirst();

@@ -17,6 +17,7 @@ struct Options {
     QString script;              ///< script to run
     QString tour;                ///< folder that the tour's pictures go to; empty: no tour
     QString play;                ///< what to play on the desk: music, noise, sweep, loudspeakers, silence, or a file
+    bool meters = false;         ///< print what the loudspeakers do
     SoundJob soundJob;           ///< what to do with the sound instead of showing the unit
     bool trace = false;          ///< print each call across the contract
     bool verbose = false;        ///< print debug lines

@@ -27,9 +27,9 @@ QString doSoundJob(const SoundJob &job) {
     return problem;
 }
 
-QObject *startSound(const QString &what, QString *problem) {
+QObject *startSound(const QString &what, bool meters, QString *problem) {
     const auto entry = resolve<StartSoundEntry>(startSoundEntryName, problem);
-    return entry ? entry(&what, problem) : nullptr;
+    return entry ? entry(&what, meters, problem) : nullptr;
 }
 
 }  // namespace headunit

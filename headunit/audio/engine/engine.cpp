@@ -69,21 +69,6 @@ void Engine::fadeInAtStart(double *out, size_t frames) {
     m_powerUp.advance(fading);
 }
 
-void Engine::meter(const float *out, size_t frames) {
-    for (size_t frame = 0; frame < frames; ++frame) {
-        for (size_t output = 0; output < outputCount; ++output) {
-            m_reading.peak[output] = std::max(m_reading.peak[output], std::abs(out[frame * outputCount + output]));
-        }
-    }
-    m_metered += frames;
-    if (m_metered >= meterSamples) {
-        m_reading.limiterGain = static_cast<float>(m_limiter.takeLowestGain());
-        m_meters.write(m_reading);
-        m_reading = Meters();
-        m_metered = 0;
-    }
-}
-
 size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, size_t frames) {
     if (m_fade.isOver()) {
         takeParameters();
@@ -103,7 +88,6 @@ size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, siz
     }
     fadeInAtStart(sound.data(), count);
     m_limiter.process(sound.data(), out, count);
-    meter(out, count);
     return count;
 }
 

@@ -78,16 +78,17 @@ int delaySamples(int steps) {
     return static_cast<int>(std::lround(within(steps, ranges::delay) * (sampleRate / delayStepsPerSecond)));
 }
 
+/// The loudness's sections come first, then the equaliser's.
 void designTone(const SoundState &state, ChainParameters *chain) {
+    if (state.loudness) {
+        const auto loudness = designLoudness(-levelDecibels(levelOf(state, mainChannel)));
+        std::copy(loudness.begin(), loudness.end(), chain->tone.begin());
+    }
     const Curve curve = curveInForce(state);
     BandGains gains;
     std::copy(curve.begin(), curve.end(), gains.begin());
     const auto equaliser = designEqualiser(gains);
-    const auto next = std::copy(equaliser.begin(), equaliser.end(), chain->tone.begin());
-    if (state.loudness) {
-        const auto loudness = designLoudness(-levelDecibels(levelOf(state, mainChannel)));
-        std::copy(loudness.begin(), loudness.end(), next);
-    }
+    std::copy(equaliser.begin(), equaliser.end(), chain->tone.begin() + loudnessSections);
 }
 
 /// Left and right of one place in the car.

@@ -12,7 +12,7 @@
 
 namespace headunit::engine {
 
-/// The equaliser's sections, the loudness's, and one to spare that rounds up to whole groups (kernel.h).
+/// The loudness's sections, the equaliser's, and one to spare that rounds up to whole groups (kernel.h).
 constexpr size_t toneSections = 20;
 static_assert(bandCount + loudnessSections <= toneSections, "the sections do not fit");
 

@@ -14,6 +14,9 @@ public:
         m_back = m_middle.exchange(m_back | freshMark, std::memory_order_acq_rel) & slotMask;
     }
 
+    /// Writer: whether the reader has taken what was written last. True, too, before anything was.
+    bool isTaken() const { return !(m_middle.load(std::memory_order_relaxed) & freshMark); }
+
     /// Reader: the value written last, or null if that has been taken already. Stays as it is until the next take().
     const T *take() {
         if (!(m_middle.load(std::memory_order_relaxed) & freshMark)) {

@@ -13,8 +13,8 @@ namespace headunit {
 
 using namespace engine;
 
-bool renderFile(const std::string &in, const std::string &out, const SoundState &state, std::string *error,
-                const Kernel &kernel) {
+bool renderFile(const std::string &in, const std::string &out, const SoundState &state, Meters *meters,
+                std::string *error, const Kernel &kernel) {
     constexpr size_t blockFrames = 4096;
     SoundReader reader;
     SoundWriter writer;
@@ -28,6 +28,12 @@ bool renderFile(const std::string &in, const std::string &out, const SoundState 
     Inputs inputs{};
     inputs[MainInput] = stereoBlock.data();
     const auto process = [&](size_t frames) { sound->process(inputs, block.data(), frames); };
+    *meters = Meters();
+    const auto write = [&](size_t cut, size_t frames) {
+        const float *const samples = block.data() + cut * outputCount;
+        meters->add(samples, frames - cut);
+        return writer.write(samples, frames - cut, error);
+    };
 
     // The engine comes late: what it gives first is cut off, and as much silence is put in at the end.
     size_t early = Engine::latency;
@@ -37,14 +43,15 @@ bool renderFile(const std::string &in, const std::string &out, const SoundState 
         process(frames);
         const size_t cut = std::min(early, frames);
         early -= cut;
-        if (!writer.write(block.data() + cut * outputCount, frames - cut, error)) {
+        if (!write(cut, frames)) {
             return false;
         }
     }
     // A file shorter than the latency has part of it still to be cut off.
     std::fill(stereoBlock.begin(), stereoBlock.end(), 0.0F);
     process(Engine::latency);
-    return writer.write(block.data() + early * outputCount, Engine::latency - early, error) && writer.finish(error);
+    meters->limiterGain = sound->takeLimiterGain();
+    return write(early, Engine::latency) && writer.finish(error);
 }
 
 }  // namespace headunit

@@ -9,6 +9,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -17,7 +19,8 @@ namespace headunit {
 
 struct SoundWriter::Private {
     SNDFILE *file = nullptr;
-    std::string path;
+    std::string path;      ///< as it was named
+    std::string target;    ///< where links lead
     std::string partPath;  ///< where the file grows
 
     ~Private() {
@@ -63,8 +66,16 @@ SoundWriter::~SoundWriter() = default;
 
 bool SoundWriter::open(const std::string &path, std::string *error) {
     d = std::make_unique<Private>();
-    d->path = path;
-    d->partPath = path + ".part";
+    d->path = d->target = path;
+    std::error_code unknown;
+    if (std::filesystem::exists(path, unknown)) {
+        if (!std::filesystem::is_regular_file(path, unknown)) {
+            return d->fail("this is no file that could be replaced", error);
+        }
+        // What a link leads to is replaced, not the link.
+        d->target = std::filesystem::canonical(path, unknown).string();
+    }
+    d->partPath = d->target + ".part";
     SF_INFO info{};
     info.samplerate = static_cast<int>(engine::sampleRate);
     info.channels = static_cast<int>(engine::outputCount);
@@ -97,7 +108,7 @@ bool SoundWriter::finish(std::string *error) {
     sf_write_sync(d->file);
     const bool closed = sf_close(d->file) == 0;
     d->file = nullptr;
-    if (closed && d->complete() && std::rename(d->partPath.c_str(), d->path.c_str()) == 0) {
+    if (closed && d->complete() && std::rename(d->partPath.c_str(), d->target.c_str()) == 0) {
         return true;
     }
     const std::string reason = errno != 0 ? std::strerror(errno) : "it cannot be written";

@@ -17,6 +17,16 @@ bool FileLoop::open(const std::string &path, std::string *error) {
     if (!m_reader.open(path, error)) {
         return false;
     }
+    const size_t frames = m_reader.read(m_ring.data(), ringFrames);
+    if (frames == 0) {
+        *error = path + ": nothing can be read of the file";
+        return false;
+    }
+    if (frames < ringFrames) {
+        m_shortFrames = frames;
+        return true;
+    }
+    m_written = frames;
     m_thread = std::thread([this] { readAhead(); });
     return true;
 }
@@ -25,7 +35,7 @@ void FileLoop::readAhead() {
     constexpr size_t pieceFrames = 4096;
     constexpr std::chrono::milliseconds pause(20);
     std::vector<float> piece(2 * pieceFrames);
-    bool readSome = false;  // since the file was opened
+    size_t sinceOpened = ringFrames;
     while (!m_ending) {
         const uint64_t written = m_written.load(std::memory_order_relaxed);
         if (written + pieceFrames > m_read.load(std::memory_order_acquire) + ringFrames) {
@@ -37,18 +47,31 @@ void FileLoop::readAhead() {
             m_ring[(2 * written + i) % m_ring.size()] = piece[i];
         }
         m_written.store(written + frames, std::memory_order_release);
-        readSome = readSome || frames > 0;
+        sinceOpened += frames;
         if (frames < pieceFrames) {
+            // A file that was cut short meanwhile must not be opened hundreds of times a second.
             std::string error;
-            if (!readSome || !m_reader.open(m_path, &error)) {
+            if (sinceOpened < pieceFrames || !m_reader.open(m_path, &error)) {
                 return;
             }
-            readSome = false;
+            sinceOpened = 0;
         }
     }
 }
 
+void FileLoop::fillFromShort(float *stereo, size_t frames) {
+    for (size_t frame = 0; frame < frames; ++frame) {
+        stereo[2 * frame] = m_ring[2 * m_place];
+        stereo[2 * frame + 1] = m_ring[2 * m_place + 1];
+        m_place = (m_place + 1) % m_shortFrames;
+    }
+}
+
 void FileLoop::fill(float *stereo, size_t frames) {
+    if (m_shortFrames > 0) {
+        fillFromShort(stereo, frames);
+        return;
+    }
     const uint64_t read = m_read.load(std::memory_order_relaxed);
     const uint64_t there = m_written.load(std::memory_order_acquire) - read;
     const size_t count = static_cast<size_t>(std::min<uint64_t>(frames, there));

@@ -4,6 +4,8 @@
 #include "generators.h"
 
 #include "headunit/audio/engine/engine.h"
+#include "headunit/audio/engine/meters.h"
+#include "headunit/audio/engine/triplebuffer.h"
 
 #include <array>
 #include <atomic>
@@ -23,7 +25,10 @@ public:
     /// Plays an input's own short sound; the main one has none.
     void chime(engine::Input input) { m_wanted[input] = true; }
 
-    /// Gives \a frames for the six outputs.
+    /// What was played since the last call, or null if nothing was. The reading stays as it is until the next call.
+    const engine::Meters *takeMeters() { return m_meters.take(); }
+
+    /// Gives \a frames for the six outputs. Never waits, allocates, or calls the system.
     void fill(float *out, size_t frames);
 
 private:
@@ -33,6 +38,9 @@ private:
         void fill(float *, size_t) {}
     };
 
+    void fillBlock(float *out, size_t frames);
+    void publishMeters(engine::Meters reading);
+
     engine::Engine m_engine{engine::Engine::Start::FadedIn};
     std::variant<Silence, Music, PinkNoise, Sweep, LoudspeakerTone, FileLoop> m_source;
     std::array<std::atomic<bool>, engine::inputCount> m_wanted{};
@@ -41,6 +49,8 @@ private:
                                                       Chime(engine::VoiceInput), Chime(engine::AnnouncementInput),
                                                       Chime(engine::BeepInput)};
     std::array<std::array<float, blockFrames * 2>, engine::inputCount> m_blocks{};
+    engine::Meters m_untaken;  ///< what has been played since the readings that were taken
+    engine::TripleBuffer<engine::Meters> m_meters;
 };
 
 }  // namespace headunit

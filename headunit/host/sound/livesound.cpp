@@ -1,9 +1,12 @@
 #include "headunit/host/sound/livesound.h"
 
 #include "headunit/audio/soundmodel.h"
+#include "headunit/host/sound/metertext.h"
 #include "headunit/host/soundlibrary.h"
 
 #include <QFile>
+
+#include <cstdio>
 
 namespace headunit {
 
@@ -62,8 +65,22 @@ void LiveSound::takeStateSoon() {
     }
 }
 
+void LiveSound::printMeters() {
+    constexpr int period = 1000;  // ms
+    connect(&m_meterTimer, &QTimer::timeout, this, [this] {
+        if (const engine::Meters *const meters = m_player.takeMeters()) {
+            std::printf("%s\n", meterText(*meters).constData());
+        }
+    });
+    m_meterTimer.start(period);
+}
+
 }  // namespace headunit
 
-extern "C" Q_DECL_EXPORT QObject *headunitStartSound(const QString *what, QString *problem) {
-    return new headunit::LiveSound(*what, problem);
+extern "C" Q_DECL_EXPORT QObject *headunitStartSound(const QString *what, bool meters, QString *problem) {
+    const auto sound = new headunit::LiveSound(*what, problem);
+    if (meters) {
+        sound->printMeters();
+    }
+    return sound;
 }

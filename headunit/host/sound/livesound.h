@@ -4,6 +4,7 @@
 #include "headunit/audio/live/pulseoutput.h"
 
 #include <QObject>
+#include <QTimer>
 
 namespace headunit {
 
@@ -15,6 +16,9 @@ public:
     /// heard all the same.
     LiveSound(const QString &what, QString *problem);
 
+    /// From now on a line a second goes to standard output while something plays.
+    void printMeters();
+
 private Q_SLOTS:
     void takeState();
 
@@ -23,6 +27,7 @@ private:
 
     bool m_statePending = false;
     Player m_player;
+    QTimer m_meterTimer;
     std::unique_ptr<PulseOutput> m_output;
 };
 

@@ -1,5 +1,7 @@
 #include "headunit/host/sound/responsetable.h"
 
+#include "headunit/host/sound/outputnames.h"
+
 #include <cmath>
 
 namespace headunit {

@@ -6,9 +6,6 @@
 
 namespace headunit {
 
-/// Names of the outputs, as on the loudspeakers.
-constexpr const char *outputNames[engine::outputCount] = {"FL", "FR", "RL", "RR", "SL", "SR"};
-
 /// Decibels of a response; -infinity for silence.
 double responseDecibels(std::complex<double> response);
 /// Its phase, -180 to 180 degrees.

@@ -1,3 +1,4 @@
+#include "headunit/host/sound/metertext.h"
 #include "headunit/host/sound/responseplot.h"
 #include "headunit/host/sound/responsetable.h"
 #include "headunit/host/soundlibrary.h"
@@ -9,14 +10,19 @@
 #include <QFile>
 #include <QSaveFile>
 
+#include <cstdio>
+
 namespace headunit {
 
 namespace {
 
 QString render(const SoundJob &job) {
     std::string problem;
-    renderFile(QFile::encodeName(job.renderFrom).toStdString(), QFile::encodeName(job.renderTo).toStdString(),
-               SoundModel::instance().state(), &problem);
+    engine::Meters meters;
+    if (renderFile(QFile::encodeName(job.renderFrom).toStdString(), QFile::encodeName(job.renderTo).toStdString(),
+                   SoundModel::instance().state(), &meters, &problem)) {
+        std::printf("%s: %s\n", qPrintable(job.renderTo), meterText(meters).constData());
+    }
     return QFile::decodeName(problem.c_str());
 }
 

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void sameAsTheEngine_data();
     void sameAsTheEngine();
     void sameFileEveryTime();
+    void saysHowLoudItBecame();
     void whatCannotBePlayedLeavesNothing();
 
 private:
@@ -27,6 +28,7 @@ private:
     }
 
     QTemporaryDir m_folder;
+    engine::Meters m_meters;
     std::string m_error;
 };
 
@@ -64,7 +66,7 @@ void TestRender::sameAsTheEngine() {
     QFETCH(int, frames);
     const SoundFile in = noise(static_cast<size_t>(frames));
     soundfiletest::write(path("in.wav"), in);
-    QVERIFY(renderFile(path("in.wav"), path("out.wav"), busy(), &m_error));
+    QVERIFY(renderFile(path("in.wav"), path("out.wav"), busy(), &m_meters, &m_error));
     const SoundFile out = soundfiletest::read(path("out.wav"));
     const rendering::Sound expected = rendering::render(busy(), in.samples);
     QCOMPARE(out.channels, 6);
@@ -76,16 +78,38 @@ void TestRender::sameAsTheEngine() {
 
 void TestRender::sameFileEveryTime() {
     soundfiletest::write(path("in.wav"), noise(10000));
-    QVERIFY(renderFile(path("in.wav"), path("one.wav"), busy(), &m_error));
-    QVERIFY(renderFile(path("in.wav"), path("two.wav"), busy(), &m_error));
+    QVERIFY(renderFile(path("in.wav"), path("one.wav"), busy(), &m_meters, &m_error));
+    QVERIFY(renderFile(path("in.wav"), path("two.wav"), busy(), &m_meters, &m_error));
     QVERIFY(contents("one.wav") == contents("two.wav"));
     QVERIFY(!contents("one.wav").isEmpty());
+}
+
+void TestRender::saysHowLoudItBecame() {
+    SoundFile in;
+    in.sampleRate = 48000;
+    in.channels = 2;
+    in.samples = std::vector<float>(2 * 10000, 0.5F);
+    in.samples.back() = 0.75F;  // right; it comes out after the file's end has been reached
+    soundfiletest::write(path("in.wav"), in);
+    SoundState state = rendering::neutral();
+    state.fader = 15;
+    state.subwooferLevel = 0;
+    const auto render = [&] { return renderFile(path("in.wav"), path("out.wav"), state, &m_meters, &m_error); };
+    QVERIFY(render());
+    const std::array<float, engine::outputCount> peaks = {0, 0, 0.5F, 0.75F, 0, 0};
+    QVERIFY(m_meters.peak == peaks);
+    QCOMPARE(m_meters.limiterGain, 1.0);
+    state.sourceGain[0] = 20;  // 10 dB
+    QVERIFY(render());
+    QVERIFY(std::abs(m_meters.limiterGain - 1 / (0.75 * engine::fromDecibels(10))) < 1e-3);
+    QVERIFY(m_meters.peak[engine::RearRight] > 0.99F && m_meters.peak[engine::RearRight] <= 1);
+    QCOMPARE(m_meters.peak[engine::FrontRight], 0.0F);
 }
 
 void TestRender::whatCannotBePlayedLeavesNothing() {
     QTemporaryDir folder;
     const std::string out = folder.filePath("out.wav").toStdString();
-    QVERIFY(!renderFile(path("missing.wav"), out, busy(), &m_error));
+    QVERIFY(!renderFile(path("missing.wav"), out, busy(), &m_meters, &m_error));
     QVERIFY(m_error.find(path("missing.wav")) == 0);
     QVERIFY(QDir(folder.path()).isEmpty());
 }

@@ -12,6 +12,7 @@
 
 #include <sndfile.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 using headunit::SoundWriter;
 
@@ -23,6 +24,9 @@ private Q_SLOTS:
     void nothingStandsThereBeforeTheEnd();
     void unfinishedLeavesNothing();
     void replaces();
+    void writesWhereALinkLeads();
+    void whatIsNoFileStays_data();
+    void whatIsNoFileStays();
     void noSuchFolder();
     void diskFull_data();
     void diskFull();
@@ -87,6 +91,38 @@ void TestSoundWriter::replaces() {
         QVERIFY(writer.finish(&m_error));
         QCOMPARE(soundfiletest::read(file().toStdString()).samples.size(), frames * 6);
     }
+}
+
+void TestSoundWriter::writesWhereALinkLeads() {
+    const QString link = m_folder->filePath("link.wav");
+    QFile before(file());
+    QVERIFY(before.open(QIODevice::WriteOnly));
+    before.close();
+    QVERIFY(QFile::link(file(), link));
+    SoundWriter writer;
+    QVERIFY(writer.open(link.toStdString(), &m_error));
+    QVERIFY(writer.write(m_samples.data(), 100, &m_error));
+    QVERIFY(writer.finish(&m_error));
+    QVERIFY(QFileInfo(link).isSymLink());
+    QCOMPARE(soundfiletest::read(file().toStdString()).samples.size(), size_t(600));
+}
+
+void TestSoundWriter::whatIsNoFileStays_data() {
+    QTest::addColumn<bool>("isFolder");
+    QTest::newRow("folder") << true;
+    QTest::newRow("pipe") << false;
+}
+
+void TestSoundWriter::whatIsNoFileStays() {
+    QFETCH(bool, isFolder);
+    const std::string path = file().toStdString();
+    QCOMPARE(isFolder ? mkdir(path.c_str(), S_IRWXU) : mkfifo(path.c_str(), S_IRWXU), 0);
+    SoundWriter writer;
+    QVERIFY(!writer.open(path, &m_error));
+    QVERIFY(m_error.find(path + ": ") == 0);
+    QCOMPARE(QFileInfo(file()).isDir(), isFolder);
+    QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot),
+             QStringList{"out.wav"});
 }
 
 void TestSoundWriter::noSuchFolder() {

@@ -35,7 +35,9 @@ class TestFileLoop : public QObject {
 private Q_SLOTS:
     void repeatsWithoutAGap();
     void missingFile();
+    void shortFileIsKept();
     void fileThatGoesAway();
+    void fileThatIsCutShort();
 
 private:
     std::string write(size_t frames) {
@@ -57,7 +59,8 @@ private:
 };
 
 void TestFileLoop::repeatsWithoutAGap() {
-    for (const size_t frames : {1, 1000, 4096, 200000}) {
+    // Short ones are kept, long ones are read ahead; the ring that decides holds 65536.
+    for (const size_t frames : {1, 1000, 4096, 65535, 65536, 65537, 200000}) {
         FileLoop loop;
         QVERIFY(loop.open(write(frames), &m_error));
         const std::vector<float> heard = take(loop, 2 * frames + 50);
@@ -74,6 +77,34 @@ void TestFileLoop::missingFile() {
     std::vector<float> piece(200, 1);
     loop.fill(piece.data(), 100);
     QVERIFY(std::all_of(piece.begin(), piece.end(), [](float sample) { return sample == 0; }));
+}
+
+/// A file of a few samples must not be opened hundreds of times a second.
+void TestFileLoop::shortFileIsKept() {
+    FileLoop loop;
+    const std::string path = write(10);
+    QVERIFY(loop.open(path, &m_error));
+    QVERIFY(QFile::remove(QString::fromStdString(path)));
+    std::vector<float> piece(2 * 100000);
+    loop.fill(piece.data(), 100000);
+    for (size_t i = 0; i < piece.size(); ++i) {
+        QCOMPARE(piece[i], m_samples[i % m_samples.size()]);
+    }
+}
+
+void TestFileLoop::fileThatIsCutShort() {
+    FileLoop loop;
+    const std::string path = write(200000);
+    QVERIFY(loop.open(path, &m_error));
+    QVERIFY(QFile::resize(QString::fromStdString(path), 1000));
+    std::vector<float> piece(200);
+    do {
+        loop.fill(piece.data(), 100);
+    } while (piece.back() != 0);
+    FileLoop other;
+    QVERIFY(QFile::resize(QString::fromStdString(path), 0));
+    QVERIFY(!other.open(path, &m_error));
+    QVERIFY(m_error.find(path + ": ") == 0);
 }
 
 void TestFileLoop::fileThatGoesAway() {

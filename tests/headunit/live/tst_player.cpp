@@ -33,6 +33,7 @@ private Q_SLOTS:
     void everySourceIsHeard();
     void chimesFollowTheirLevel();
     void loudspeakersTakeTurns();
+    void metersLoseNothing();
     void unknownSource();
 
 private:
@@ -105,6 +106,37 @@ void TestPlayer::loudspeakersTakeTurns() {
             QVERIFY(output == turn % outputCount || highest < 0.001F);
         }
     }
+}
+
+void TestPlayer::metersLoseNothing() {
+    Player player;
+    QVERIFY(!player.takeMeters());
+    QVERIFY(player.choose("silence", &m_error));
+    SoundState state = rendering::neutral();
+    state.balance = 15;
+    player.setState(state);
+    heard(player);
+    const Meters *meters = player.takeMeters();
+    QVERIFY(meters);
+    QVERIFY(meters->peak == Meters().peak);
+    QCOMPARE(meters->limiterGain, 1.0);
+    QVERIFY(!player.takeMeters());
+    // A chime in the first of many readings that nobody takes
+    player.chime(PhoneInput);
+    const float loud = heard(player);
+    QCOMPARE(loud, 0.0F);  // on the left
+    for (int half = 0; half < 10; ++half) {
+        heard(player);
+    }
+    meters = player.takeMeters();
+    QVERIFY(meters);
+    QCOMPARE(meters->peak[FrontLeft], 0.0F);
+    QVERIFY(meters->peak[FrontRight] > 0.05F);
+    // What was taken is not in the next reading.
+    heard(player);
+    meters = player.takeMeters();
+    QVERIFY(meters);
+    QVERIFY(meters->peak == Meters().peak);
 }
 
 void TestPlayer::unknownSource() {

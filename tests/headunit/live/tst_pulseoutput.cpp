@@ -1,122 +1,181 @@
 #include "headunit/audio/live/pulseoutput.h"
 
 #include "headunit/audio/live/player.h"
+#include "soundserver.h"
 #include "tests/headunit/engine/rendering.h"
 
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QSignalSpy>
 #include <QTest>
 
-#include <cstdio>
-
+#include <fcntl.h>
 #include <unistd.h>
 
 using namespace headunit;
 
 namespace {
 
-constexpr int patience = 30000;  // ms; two tries of the output are two seconds apart
+constexpr int patience = 30000;                       // ms
+constexpr auto retry = std::chrono::milliseconds(5);  // between two looks for what is missing
 
-/// A sound server of its own, without a device at first; nothing is heard.
-class SoundServer {
+/// Standard error goes into a file as long as this lives.
+class StandardError {
 public:
-    explicit SoundServer(const QTemporaryDir &folder) : m_environment(QProcessEnvironment::systemEnvironment()) {
-        const QString socket = folder.filePath("server");
-        for (const char *name : {"HOME", "XDG_RUNTIME_DIR"}) {
-            m_environment.insert(name, folder.path());
-        }
-        m_environment.remove("PULSE_SERVER");  // with one, the program would not be a server itself
-        m_process.setProcessEnvironment(m_environment);
-        m_process.start("pulseaudio",
-                        {"-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm", "-L",
-                         "module-native-protocol-unix auth-anonymous=1 socket=" + socket});
-        m_environment.insert("PULSE_SERVER", "unix:" + socket);
+    explicit StandardError(const QString &file) : m_file(file) {
+        const int descriptor =
+            open(qPrintable(file), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        dup2(descriptor, STDERR_FILENO);
+        close(descriptor);
+    }
+    ~StandardError() {
+        dup2(m_usual, STDERR_FILENO);
+        close(m_usual);
     }
 
-    ~SoundServer() {
-        m_process.terminate();
-        m_process.waitForFinished(patience);
+    QByteArray text() {
+        QFile file(m_file);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-
-    bool answers() { return control({"info"}).contains("Server Name"); }
-    void plugIn(int channels) { control({"load-module", "module-null-sink", QString("channels=%1").arg(channels)}); }
-    void unplug() { control({"unload-module", "module-null-sink"}); }
-    /// What plays, a line each, with the number of its channels.
-    QByteArray streams() { return control({"list", "short", "sink-inputs"}); }
 
 private:
-    QByteArray control(const QStringList &arguments) {
-        QProcess pactl;
-        pactl.setProcessEnvironment(m_environment);
-        pactl.start("pactl", arguments);
-        pactl.waitForFinished(patience);
-        return pactl.readAllStandardOutput();
-    }
-
-    QProcessEnvironment m_environment;
-    QProcess m_process;
+    const QString m_file;
+    const int m_usual = dup(STDERR_FILENO);
 };
+
+const QByteArray noServer = "headunit: no sound server answers, so the unit is silent until one does\n";
+const QByteArray noDevice = "headunit: the sound server has no device, so the unit is silent until it has one\n";
+const QByteArray folded =
+    "headunit: the sound device lacks front, rear or side channels; all six loudspeakers play on two channels\n";
 
 }  // namespace
 
 class TestPulseOutput : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void saysOnceThatItIsSilent();
+    void init();
+    void saysOnceThatNoServerAnswers();
+    void saysOnceThatThereIsNoDevice();
     void endsAtOnce();
-    void playsOnWhatIsThere();
+    void playsWithTheChannelsOfTheDevice_data();
+    void playsWithTheChannelsOfTheDevice();
+    void followsTheDefaultDevice();
+    void devicesAndServersComeAndGo();
 
 private:
-    QTemporaryDir m_folder;
+    QString file(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
     Player m_player;
 };
 
-void TestPulseOutput::saysOnceThatItIsSilent() {
-    qputenv("PULSE_SERVER", "unix:" + m_folder.filePath("nobody").toLocal8Bit());
-    const QString log = m_folder.filePath("log");
-    std::fflush(stderr);
-    const int usual = dup(STDERR_FILENO);
-    QVERIFY(std::freopen(qPrintable(log), "w", stderr));
-    std::setvbuf(stderr, nullptr, _IONBF, 0);
-    {
-        const PulseOutput output(m_player);
-        QTRY_VERIFY(QFile(log).size() > 0);
-        QTest::qWait(5000);  // two more tries
-    }
-    std::fflush(stderr);
-    dup2(usual, STDERR_FILENO);
-    close(usual);
-    QFile file(log);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("headunit: no sound server answers, so the unit is silent until one does\n"));
+#define WAIT_FOR(what) QTRY_VERIFY_WITH_TIMEOUT(what, patience)
+#define WAIT_FOR_STREAM(expected) QTRY_COMPARE_WITH_TIMEOUT(server.streams(), QString(expected), patience)
+
+void TestPulseOutput::init() {
+    m_folder = std::make_unique<QTemporaryDir>();
+    qputenv("PULSE_SERVER", SoundServer::address(*m_folder));
+}
+
+void TestPulseOutput::saysOnceThatNoServerAnswers() {
+    // One that hangs up whenever it is called, so that the tries can be counted
+    QLocalServer server;
+    QVERIFY(server.listen(file("server")));
+    int calls = 0;
+    connect(&server, &QLocalServer::newConnection, this, [&] {
+        ++calls;
+        delete server.nextPendingConnection();
+    });
+    StandardError said(file("log"));
+    const PulseOutput output(m_player, retry);
+    WAIT_FOR(calls >= 5);
+    QCOMPARE(said.text(), noServer);
+}
+
+void TestPulseOutput::saysOnceThatThereIsNoDevice() {
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    StandardError said(file("log"));
+    const PulseOutput output(m_player, retry);
+    WAIT_FOR(said.text() == noDevice);
+    server.plugIn("car", SoundServer::sixChannels);
+    WAIT_FOR_STREAM("6ch on car");
+    QCOMPARE(said.text(), noDevice);
+    server.unplug("car");
+    WAIT_FOR(said.text() == noDevice + noDevice);
 }
 
 void TestPulseOutput::endsAtOnce() {
-    qputenv("PULSE_SERVER", "unix:" + m_folder.filePath("nobody").toLocal8Bit());
     for (int i = 0; i < 20; ++i) {
-        const PulseOutput output(m_player);
+        const PulseOutput output(m_player, retry);
     }
 }
 
-/// Devices and servers come and go.
-void TestPulseOutput::playsOnWhatIsThere() {
-    qputenv("PULSE_SERVER", "unix:" + m_folder.filePath("server").toLocal8Bit());
-    const PulseOutput output(m_player);
-    {
-        SoundServer server(m_folder);
-        QTRY_VERIFY_WITH_TIMEOUT(server.answers(), patience);
-        server.plugIn(6);
-        QTRY_VERIFY_WITH_TIMEOUT(server.streams().contains(" 6ch 48000Hz"), patience);
-        server.unplug();
-        QCOMPARE(server.streams(), QByteArray());
-        server.plugIn(2);
-        QTRY_VERIFY_WITH_TIMEOUT(server.streams().contains(" 2ch 48000Hz"), patience);
+void TestPulseOutput::playsWithTheChannelsOfTheDevice_data() {
+    QTest::addColumn<QString>("channels");
+    QTest::addColumn<QString>("stream");
+    QTest::addColumn<QByteArray>("said");
+    QTest::newRow("six") << SoundServer::sixChannels << "6ch on car" << QByteArray();
+    QTest::newRow("7.1") << SoundServer::surround71 << "6ch on car" << QByteArray();
+    QTest::newRow("5.1") << SoundServer::surround51 << "2ch on car" << folded;
+    QTest::newRow("stereo") << SoundServer::stereo << "2ch on car" << folded;
+    QTest::newRow("mono") << "mono"
+                          << "2ch on car" << folded;
+    // What a server without a device plays to
+    QTest::newRow("none") << ""
+                          << "2ch on auto_null" << noDevice;
+}
+
+void TestPulseOutput::playsWithTheChannelsOfTheDevice() {
+    QFETCH(QString, channels);
+    QFETCH(QString, stream);
+    QFETCH(QByteArray, said);
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    if (channels.isEmpty()) {
+        server.plugIn("auto_null", SoundServer::stereo);
+    } else {
+        server.plugIn("car", channels);
     }
-    SoundServer server(m_folder);
-    QTRY_VERIFY_WITH_TIMEOUT(server.answers(), patience);
-    server.plugIn(6);
-    QTRY_VERIFY_WITH_TIMEOUT(server.streams().contains(" 6ch 48000Hz"), patience);
+    StandardError log(file("log"));
+    const PulseOutput output(m_player, retry);
+    WAIT_FOR_STREAM(stream);
+    QCOMPARE(log.text(), said);
+}
+
+void TestPulseOutput::followsTheDefaultDevice() {
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    server.plugIn("car", SoundServer::sixChannels);
+    StandardError said(file("log"));
+    const PulseOutput output(m_player, retry);
+    WAIT_FOR_STREAM("6ch on car");
+    server.plugIn("headphones", SoundServer::stereo);
+    server.makeDefault("headphones");
+    WAIT_FOR_STREAM("2ch on headphones");
+    QCOMPARE(said.text(), folded);
+    server.makeDefault("car");
+    WAIT_FOR_STREAM("6ch on car");
+    QCOMPARE(said.text(), folded);
+}
+
+void TestPulseOutput::devicesAndServersComeAndGo() {
+    const PulseOutput output(m_player, retry);
+    {
+        SoundServer server(*m_folder);
+        WAIT_FOR(server.answers());
+        server.plugIn("car", SoundServer::sixChannels);
+        WAIT_FOR_STREAM("6ch on car");
+        server.unplug("car");
+        QCOMPARE(server.streams(), QString());
+        server.plugIn("headphones", SoundServer::stereo);
+        WAIT_FOR_STREAM("2ch on headphones");
+    }
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    server.plugIn("car", SoundServer::sixChannels);
+    WAIT_FOR_STREAM("6ch on car");
 }
 
 QTEST_GUILESS_MAIN(TestPulseOutput)

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "format.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace headunit::engine {
+
+/// What came out of the unit during some time, for whoever wants to look.
+struct Meters {
+    std::array<float, outputCount> peak{};  ///< highest sample of each output, 0 to 1
+    double limiterGain = 1;                 ///< lowest gain of the limiter, 0 to 1
+
+    void add(const float *out, size_t frames) {
+        for (size_t frame = 0; frame < frames; ++frame) {
+            for (size_t output = 0; output < outputCount; ++output) {
+                peak[output] = std::max(peak[output], std::abs(out[frame * outputCount + output]));
+            }
+        }
+    }
+
+    /// Makes the time longer by that of \a other.
+    void add(const Meters &other) {
+        std::transform(peak.begin(), peak.end(), other.peak.begin(), peak.begin(),
+                       [](float a, float b) { return std::max(a, b); });
+        limiterGain = std::min(limiterGain, other.limiterGain);
+    }
+};
+
+}  // namespace headunit::engine

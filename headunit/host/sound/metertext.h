@@ -1,0 +1,12 @@
+#pragma once
+
+#include "headunit/audio/engine/meters.h"
+
+#include <QByteArray>
+
+namespace headunit {
+
+/// A line with the peak of each output in dB of full scale, and the limiter's gain in dB; -inf is silence.
+QByteArray meterText(const engine::Meters &meters);
+
+}  // namespace headunit

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "headunit/audio/engine/format.h"
+
+namespace headunit {
+
+/// Names of the outputs, as on the loudspeakers.
+constexpr const char *outputNames[engine::outputCount] = {"FL", "FR", "RL", "RR", "SL", "SR"};
+
+}  // namespace headunit

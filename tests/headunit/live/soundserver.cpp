@@ -1,0 +1,100 @@
+#include "soundserver.h"
+
+#include <QHash>
+
+#include <csignal>
+
+#include <sys/prctl.h>
+
+namespace {
+
+constexpr int patience = 30000;  // ms
+
+QString socketIn(const QTemporaryDir &folder) {
+    return folder.filePath("server");
+}
+
+/// Of "12\tname\t…" the entry at a place.
+QString column(const QString &line, int place) {
+    return line.section('\t', place, place);
+}
+
+}  // namespace
+
+void SoundServer::Process::setupChildProcess() {
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+}
+
+SoundServer::SoundServer(const QTemporaryDir &folder) : m_environment(QProcessEnvironment::systemEnvironment()) {
+    for (const char *name : {"HOME", "XDG_RUNTIME_DIR"}) {
+        m_environment.insert(name, folder.path());
+    }
+    m_environment.insert("LC_ALL", "C");
+    m_environment.remove("PULSE_SERVER");  // with one, the program would not be a server itself
+    m_process.setProcessEnvironment(m_environment);
+    m_process.start("pulseaudio", {"-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm",
+                                   "-L", "module-native-protocol-unix auth-anonymous=1 socket=" + socketIn(folder)});
+    m_environment.insert("PULSE_SERVER", QString::fromLocal8Bit(address(folder)));
+}
+
+SoundServer::~SoundServer() {
+    m_process.terminate();
+    m_process.waitForFinished(patience);
+}
+
+QByteArray SoundServer::address(const QTemporaryDir &folder) {
+    return "unix:" + socketIn(folder).toLocal8Bit();
+}
+
+bool SoundServer::answers() const {
+    return control({"info"}).contains("Server Name");
+}
+
+void SoundServer::plugIn(const QString &device, const QString &channels) {
+    control({"load-module", "module-null-sink", "sink_name=" + device, "rate=48000", "format=float32le",
+             QStringLiteral("channels=%1").arg(channels.count(',') + 1), "channel_map=" + channels});
+}
+
+void SoundServer::unplug(const QString &device) {
+    const QStringList modules = control({"list", "short", "modules"}).split('\n');
+    for (const QString &module : modules) {
+        if (module.contains("sink_name=" + device + ' ')) {
+            control({"unload-module", column(module, 0)});
+        }
+    }
+}
+
+void SoundServer::makeDefault(const QString &device) {
+    control({"set-default-sink", device});
+}
+
+QString SoundServer::streams() const {
+    QHash<QString, QString> names;
+    const QStringList devices = control({"list", "short", "sinks"}).split('\n');
+    for (const QString &device : devices) {
+        names.insert(column(device, 0), column(device, 1));
+    }
+    QStringList found;
+    const QStringList streams = control({"list", "short", "sink-inputs"}).split('\n', Qt::SkipEmptyParts);
+    for (const QString &stream : streams) {
+        const QString format = column(stream, 4);  // "float32le 6ch 48000Hz"
+        found << format.section(' ', 1, 1) + " on " + names.value(column(stream, 1));
+    }
+    return found.join(", ");
+}
+
+std::unique_ptr<QProcess> SoundServer::record(const QString &device, int channels) const {
+    auto recorder = std::make_unique<Process>();
+    recorder->setProcessEnvironment(m_environment);
+    recorder->start("parec", {"--raw", "--format=float32le", "--rate=48000", "--no-remix",
+                              QStringLiteral("--channels=%1").arg(channels), "--device=" + device + ".monitor"});
+    return recorder;
+}
+
+QString SoundServer::control(const QStringList &arguments) const {
+    Process pactl;
+    pactl.setProcessEnvironment(m_environment);
+    pactl.start("pactl", arguments);
+    pactl.waitForFinished(patience);
+    return QString::fromLocal8Bit(pactl.readAllStandardOutput());
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// A sound server of the test's own, without a device at first; nothing is heard.
+class SoundServer {
+public:
+    /// Its socket and whatever it keeps are in \a folder.
+    explicit SoundServer(const QTemporaryDir &folder);
+    ~SoundServer();
+
+    /// What PULSE_SERVER must be for a program to play here.
+    static QByteArray address(const QTemporaryDir &folder);
+
+    bool answers() const;
+    /// Plugs a device in, with channels like "front-left,front-right". The first one is the default.
+    void plugIn(const QString &device, const QString &channels);
+    void unplug(const QString &device);
+    void makeDefault(const QString &device);
+    /// What plays, as "6ch on NAME", where NAME is the device; joined by commas.
+    QString streams() const;
+    /// Starts to record what a device plays, in raw floats; stops when the process is deleted.
+    std::unique_ptr<QProcess> record(const QString &device, int channels) const;
+
+    static constexpr char sixChannels[] = "front-left,front-right,rear-left,rear-right,side-left,side-right";
+    static constexpr char surround51[] = "front-left,front-right,rear-left,rear-right,front-center,lfe";
+    static constexpr char surround71[] =
+        "front-left,front-right,rear-left,rear-right,front-center,lfe,side-left,side-right";
+    static constexpr char stereo[] = "front-left,front-right";
+
+private:
+    QString control(const QStringList &arguments) const;
+
+    /// Ends when the test does, however that ends.
+    class Process : public QProcess {
+    protected:
+        void setupChildProcess() override;
+    };
+
+    QProcessEnvironment m_environment;
+    Process m_process;
+};
