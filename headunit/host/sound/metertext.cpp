@@ -9,11 +9,10 @@ namespace headunit {
 namespace {
 
 QByteArray decibels(double gain) {
-    constexpr int width = 6;
-    constexpr int decimals = 1;
-    // Written so that full scale is not "-0.0".
-    const double value = 20 * std::log10(gain) + 0.0;
-    return QByteArray::number(value, 'f', decimals).rightJustified(width);
+    constexpr int width = 7;
+    // In tenths; what is added makes "0.0" of "-0.0".
+    const double tenths = std::round(10 * 20 * std::log10(gain)) + 0.0;
+    return QByteArray::number(tenths / 10, 'f', 1).rightJustified(width);
 }
 
 }  // namespace

@@ -19,7 +19,16 @@ QString column(const QString &line, int place) {
     return line.section('\t', place, place);
 }
 
+int channelCount(const QString &channels) {
+    return channels.count(',') + 1;
+}
+
 }  // namespace
+
+SoundServer::Process::~Process() {
+    terminate();
+    waitForFinished(patience);
+}
 
 void SoundServer::Process::setupChildProcess() {
     prctl(PR_SET_PDEATHSIG, SIGTERM);
@@ -37,11 +46,6 @@ SoundServer::SoundServer(const QTemporaryDir &folder) : m_environment(QProcessEn
     m_environment.insert("PULSE_SERVER", QString::fromLocal8Bit(address(folder)));
 }
 
-SoundServer::~SoundServer() {
-    m_process.terminate();
-    m_process.waitForFinished(patience);
-}
-
 QByteArray SoundServer::address(const QTemporaryDir &folder) {
     return "unix:" + socketIn(folder).toLocal8Bit();
 }
@@ -52,7 +56,7 @@ bool SoundServer::answers() const {
 
 void SoundServer::plugIn(const QString &device, const QString &channels) {
     control({"load-module", "module-null-sink", "sink_name=" + device, "rate=48000", "format=float32le",
-             QStringLiteral("channels=%1").arg(channels.count(',') + 1), "channel_map=" + channels});
+             QStringLiteral("channels=%1").arg(channelCount(channels)), "channel_map=" + channels});
 }
 
 void SoundServer::unplug(const QString &device) {
@@ -83,11 +87,12 @@ QString SoundServer::streams() const {
     return found.join(", ");
 }
 
-std::unique_ptr<QProcess> SoundServer::record(const QString &device, int channels) const {
+std::unique_ptr<QProcess> SoundServer::record(const QString &device, const QString &channels) const {
     auto recorder = std::make_unique<Process>();
     recorder->setProcessEnvironment(m_environment);
-    recorder->start("parec", {"--raw", "--format=float32le", "--rate=48000", "--no-remix",
-                              QStringLiteral("--channels=%1").arg(channels), "--device=" + device + ".monitor"});
+    recorder->start("parec", {"--raw", "--format=float32le", "--rate=48000", "--no-remix", "--latency-msec=20",
+                              QStringLiteral("--channels=%1").arg(channelCount(channels)), "--channel-map=" + channels,
+                              "--device=" + device + ".monitor"});
     return recorder;
 }
 

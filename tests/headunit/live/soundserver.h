@@ -10,7 +10,6 @@ class SoundServer {
 public:
     /// Its socket and whatever it keeps are in \a folder.
     explicit SoundServer(const QTemporaryDir &folder);
-    ~SoundServer();
 
     /// What PULSE_SERVER must be for a program to play here.
     static QByteArray address(const QTemporaryDir &folder);
@@ -22,8 +21,8 @@ public:
     void makeDefault(const QString &device);
     /// What plays, as "6ch on NAME", where NAME is the device; joined by commas.
     QString streams() const;
-    /// Starts to record what a device plays, in raw floats; stops when the process is deleted.
-    std::unique_ptr<QProcess> record(const QString &device, int channels) const;
+    /// Starts to record what a device plays on \a channels, in raw floats; stops when the process is deleted.
+    std::unique_ptr<QProcess> record(const QString &device, const QString &channels) const;
 
     static constexpr char sixChannels[] = "front-left,front-right,rear-left,rear-right,side-left,side-right";
     static constexpr char surround51[] = "front-left,front-right,rear-left,rear-right,front-center,lfe";
@@ -36,6 +35,9 @@ private:
 
     /// Ends when the test does, however that ends.
     class Process : public QProcess {
+    public:
+        ~Process() override;
+
     protected:
         void setupChildProcess() override;
     };
