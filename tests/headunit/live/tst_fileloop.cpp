@@ -97,10 +97,18 @@ void TestFileLoop::fileThatIsCutShort() {
     const std::string path = write(200000);
     QVERIFY(loop.open(path, &m_error));
     QVERIFY(QFile::resize(QString::fromStdString(path), 1000));
+    // Once it has come to the new end, what little there is sounds a last time.
     std::vector<float> piece(200);
-    do {
+    int starts = 0;
+    for (int silent = 0; silent < 100; ++silent) {
         loop.fill(piece.data(), 100);
-    } while (piece.back() != 0);
+        starts += static_cast<int>(std::count(piece.begin(), piece.end(), m_samples.front()));
+        if (piece.front() != 0) {
+            silent = 0;
+        }
+        QTest::qSleep(1);  // as much as the reading thread pauses, in all
+    }
+    QVERIFY(starts == 1 || starts == 2);
     FileLoop other;
     QVERIFY(QFile::resize(QString::fromStdString(path), 0));
     QVERIFY(!other.open(path, &m_error));
