@@ -14,7 +14,8 @@
 
 namespace headunit {
 
-/// Everything that the unit plays, through the engine. fill() belongs to the audio thread, the rest to another.
+/// Everything that the unit plays, through the engine. fill() belongs to the audio thread, setState() to one other at a
+/// time, the rest to one other.
 class Player {
 public:
     /// \a what is "music", "noise", "sweep", "loudspeakers", "silence", or the name of a sound file. False, with a

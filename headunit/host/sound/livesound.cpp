@@ -48,13 +48,13 @@ LiveSound::LiveSound(const QString &what, QString *problem) {
         }
     });
     connect(&model, &SoundModel::beeped, this, [this] { m_player.chime(engine::BeepInput); });
-    takeState();
+    m_player.setState(model.state());  // before the first sample
     m_output = std::make_unique<PulseOutput>(m_player);
 }
 
 void LiveSound::takeState() {
     m_statePending = false;
-    m_player.setState(SoundModel::instance().state());
+    m_control.setState(SoundModel::instance().state());
 }
 
 /// A touch may change many values one after the other.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "headunit/audio/live/controlthread.h"
 #include "headunit/audio/live/player.h"
 #include "headunit/audio/live/pulseoutput.h"
 
@@ -27,6 +28,7 @@ private:
 
     bool m_statePending = false;
     Player m_player;
+    ControlThread m_control{[this](const SoundState &state) { m_player.setState(state); }};
     QTimer m_meterTimer;
     std::unique_ptr<PulseOutput> m_output;
 };
