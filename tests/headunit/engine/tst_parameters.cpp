@@ -38,11 +38,14 @@ private Q_SLOTS:
     void fader();
     void subwoofer();
     void crossoverLevels();
+    void crossoverFilters();
     void delays();
     void curves();
     void customCurve();
     void loudnessFollowsTheMainLevel();
     void defeat();
+    void beyondTheRangeIsItsEnd();
+    void whatDoesNotExistIsOff();
     void anyValueIsSafe();
 };
 
@@ -101,7 +104,9 @@ void TestParameters::mute() {
     state.muted = true;
     const auto gains = designParameters(state).inputGain;
     QCOMPARE(gains[MainInput], 0.0);
-    QCOMPARE(gains[PhoneInput], 1.0);
+    for (size_t other = RingtoneInput; other < inputCount; ++other) {
+        QCOMPARE(gains[other], 1.0);  // calls, guidance and the beep go on
+    }
 }
 
 void TestParameters::balance() {
@@ -135,39 +140,65 @@ void TestParameters::subwoofer() {
     for (int level = 0; level <= 15; ++level) {
         SoundState state = neutral();
         state.subwooferLevel = level;
-        const double gain = chainOf(state).gain[SubRight];
-        QVERIFY(level == 0 ? gain == 0 : isGain(gain, (level - 10) * 1.5));
+        const auto upright = chainOf(state).gain;
         state.subwooferPhase = 1;
-        QCOMPARE(chainOf(state).gain[SubRight], -gain);
-        QCOMPARE(chainOf(state).gain[RearRight], 1.0);
+        const auto turned = chainOf(state).gain;
+        for (size_t output = 0; output < outputCount; ++output) {
+            if (output < SubLeft) {
+                QCOMPARE(upright[output], 1.0);
+                QCOMPARE(turned[output], 1.0);
+            } else {
+                QVERIFY(level == 0 ? upright[output] == 0 : isGain(upright[output], (level - 10) * 1.5));
+                QCOMPARE(turned[output], -upright[output]);
+            }
+        }
     }
 }
 
 void TestParameters::crossoverLevels() {
-    for (int level = 0; level <= 12; ++level) {
-        SoundState state = neutral();
-        state.front.level = level;
-        QVERIFY(isGain(chainOf(state).gain[FrontRight], level - 12));
-        QCOMPARE(chainOf(state).gain[RearRight], 1.0);
-        state = neutral();
-        state.rear.level = level;
-        QVERIFY(isGain(chainOf(state).gain[RearLeft], level - 12));
-        state = neutral();
-        state.subwoofer.level = level;
-        QVERIFY(isGain(chainOf(state).gain[SubLeft], level - 12));
-        QCOMPARE(chainOf(state).gain[FrontLeft], 1.0);
+    constexpr CrossoverFilter SoundState::*filters[] = {&SoundState::front, &SoundState::rear, &SoundState::subwoofer};
+    for (size_t filter = 0; filter < std::size(filters); ++filter) {
+        for (int freq = 0; freq <= 1; ++freq) {  // off or not
+            for (int level = 0; level <= 12; ++level) {
+                SoundState state = neutral();
+                state.*filters[filter] = {freq, 1, level};
+                const auto gains = chainOf(state).gain;
+                for (size_t output = 0; output < outputCount; ++output) {
+                    QVERIFY(isGain(gains[output], output / 2 == filter ? level - 12 : 0));
+                }
+            }
+        }
     }
 }
 
+void TestParameters::crossoverFilters() {
+    const auto verify = [](CrossoverFilter SoundState::*filter, size_t left, const auto &frequencies, auto design) {
+        for (int slope = 1; slope <= 3; ++slope) {
+            for (size_t freq = 0; freq < frequencies.size(); ++freq) {
+                SoundState state = neutral();
+                state.*filter = {static_cast<int>(freq), slope, 12};
+                ChainParameters expected = chainOf(neutral());
+                if (freq > 0) {
+                    expected.crossover[left] = expected.crossover[left + 1] = design(slope, frequencies[freq]);
+                }
+                QVERIFY(chainOf(state) == expected);
+            }
+        }
+    };
+    verify(&SoundState::front, FrontLeft, frontFrequencies, butterworthHighPass);
+    verify(&SoundState::rear, RearLeft, rearFrequencies, butterworthHighPass);
+    verify(&SoundState::subwoofer, SubLeft, subwooferFrequencies, butterworthLowPass);
+}
+
 void TestParameters::delays() {
-    for (int steps = 0; steps <= 99; ++steps) {
-        SoundState state = neutral();
-        state.delay = {steps, 0, 99 - steps, 0, 0, steps};
-        const auto delay = chainOf(state).delay;
-        QVERIFY(std::abs(delay[0] - steps * 4.8) <= 0.5);
-        QVERIFY(std::abs(delay[2] - (99 - steps) * 4.8) <= 0.5);
-        QCOMPARE(delay[5], delay[0]);
-        QCOMPARE(delay[1], 0);
+    for (size_t output = 0; output < outputCount; ++output) {
+        for (int steps = 0; steps <= 99; ++steps) {
+            SoundState state = neutral();
+            state.delay[output] = steps;
+            ChainParameters expected = chainOf(neutral());
+            expected.delay[output] = (steps * 48 + 5) / 10;
+            QVERIFY(chainOf(state) == expected);
+        }
     }
 }
 
@@ -201,14 +232,15 @@ void TestParameters::customCurve() {
 }
 
 void TestParameters::loudnessFollowsTheMainLevel() {
-    SoundState state = neutral();
-    state.loudness = true;
-    QVERIFY(chainOf(state) == chainOf(neutral()));  // nothing to make up for at full volume
-    state.channelLevel[0] = 34;
-    const auto loudness = designLoudness(9);
-    const ChainParameters chain = chainOf(state);
-    for (size_t i = 0; i < loudnessSections; ++i) {
-        QVERIFY(chain.tone[bandCount + i] == loudness[i]);
+    for (int level = 0; level <= 40; ++level) {
+        SoundState state = neutral();
+        state.channelLevel[0] = level;
+        ChainParameters expected = chainOf(state);
+        QVERIFY(expected == chainOf(neutral()));
+        state.loudness = true;
+        const auto loudness = designLoudness((40 - level) * 1.5);
+        std::copy(loudness.begin(), loudness.end(), expected.tone.begin() + bandCount);
+        QVERIFY(chainOf(state) == expected);
     }
 }
 
@@ -233,6 +265,66 @@ void TestParameters::defeat() {
     expected.gain = {1, 1, 1, 1, -fromDecibels(-3) * fromDecibels(3), -fromDecibels(-3) * fromDecibels(3)};
     QVERIFY(parameters.chain == expected);
     QVERIFY(isGain(parameters.inputGain[MainInput], -30 + 3));
+}
+
+void TestParameters::beyondTheRangeIsItsEnd() {
+    struct Control {
+        const char *name;
+        int low;
+        int high;
+        void (*set)(SoundState &state, int value);
+    };
+    using S = SoundState &;
+    const Control controls[] = {
+        {"balance", -15, 15, [](S s, int value) { s.balance = value; }},
+        {"fader", -15, 15, [](S s, int value) { s.fader = value; }},
+        {"channel levels", 0, 40, [](S s, int value) { s.channelLevel.fill(value); }},
+        {"main level under loudness", 0, 40,
+         [](S s, int value) {
+             s.loudness = true;
+             s.channelLevel[0] = value;
+         }},
+        {"source gains", 0, 20, [](S s, int value) { s.sourceGain.fill(value); }},
+        {"bands", 0, 24, [](S s, int value) { s.customEq.fill(value); }},
+        {"subwoofer level", 0, 15, [](S s, int value) { s.subwooferLevel = value; }},
+        {"delays", 0, 99, [](S s, int value) { s.delay.fill(value); }},
+        {"slopes", 1, 3,
+         [](S s, int value) {
+             s.front = {4, value, 12};
+             s.rear = s.subwoofer = {3, value, 12};
+         }},
+        {"filter levels", 0, 12, [](S s, int value) { s.front.level = s.rear.level = s.subwoofer.level = value; }}};
+    for (const Control &control : controls) {
+        const auto at = [&control](int value) {
+            SoundState state = neutral();
+            control.set(state, value);
+            return designParameters(state);
+        };
+        const auto same = [&at](int value, int other) {
+            return at(value).inputGain == at(other).inputGain && at(value).chain == at(other).chain;
+        };
+        QVERIFY2(!same(control.low, control.low + 1) && !same(control.high, control.high - 1), control.name);
+        for (const int below : {control.low - 1, control.low - 100, std::numeric_limits<int>::min()}) {
+            QVERIFY2(same(below, control.low), control.name);
+        }
+        for (const int above : {control.high + 1, control.high + 100, std::numeric_limits<int>::max()}) {
+            QVERIFY2(same(above, control.high), control.name);
+        }
+    }
+}
+
+void TestParameters::whatDoesNotExistIsOff() {
+    const ChainParameters flat = chainOf(neutral());
+    for (const int beyond : {-1, 6, 12, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+        SoundState state = neutral();
+        state.rear = state.subwoofer = {beyond, 3, 12};
+        state.front = {beyond == 6 ? 12 : beyond, 3, 12};
+        QVERIFY(chainOf(state) == flat);
+        state = neutral();
+        state.sourceGain.fill(20);
+        state.activeSource = beyond == 6 ? SoundState::sources : beyond;
+        QCOMPARE(designParameters(state).inputGain[MainInput], 1.0);
+    }
 }
 
 void TestParameters::anyValueIsSafe() {
