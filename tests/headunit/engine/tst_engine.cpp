@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <random>
 
 using namespace headunit;
@@ -48,13 +49,16 @@ private Q_SLOTS:
     void silentWithoutParameters();
     void firstParametersHoldAtOnce();
     void anyBlockSizeGivesTheSame();
+    void powerUpInAnyBlockSize();
     void everyInputIsHeard();
     void inputsAdd();
     void changeIsOverIn50Milliseconds();
     void changesDuringAFadeAreTakenAfterIt();
     void fadesInAtPowerUp();
     void meters();
+    void metersStartAnew();
     void damagedSamples();
+    void damagedSamplesAreTamed();
     void neverBeyondFullScale();
 };
 
@@ -68,6 +72,14 @@ void TestEngine::silentWithoutParameters() {
 void TestEngine::firstParametersHoldAtOnce() {
     const Stereo signal = noise(100);
     QCOMPARE(render(neutral(), signal)[0][0], signal[0]);
+    // Of several the last ones, without a fade from the first
+    SoundState state = neutral();
+    state.channelLevel[0] = 20;
+    Engine engine;
+    engine.setParameters(designParameters(neutral()));
+    engine.setParameters(designParameters(state));
+    const float expected = static_cast<float>(signal[0] * fromDecibels(-30));
+    QCOMPARE(process(engine, signal)[Engine::latency * outputCount], expected);
 }
 
 void TestEngine::anyBlockSizeGivesTheSame() {
@@ -76,13 +88,35 @@ void TestEngine::anyBlockSizeGivesTheSame() {
     other.eqType = 3;
     other.front.slope = 1;
     other.channelLevel[0] = 40;
-    const std::vector<Change> changes = {{3000, other}, {9000, busy()}};
+    SoundState third = other;
+    third.rear = {1, 1, 3};
+    // The third one comes while the second one fades in.
+    const std::vector<Change> changes = {{3000, other}, {9000, busy()}, {9700, third}};
     const Sound whole = render(busy(), signal, changes);
     const std::vector<std::vector<size_t>> divisions = {{1}, {64}, {480}, {7, 1, 300, 65, 63}, {1024}};
     for (const auto &blocks : divisions) {
         QVERIFY(render(busy(), signal, changes, blocks) == whole);
     }
     QVERIFY(render(busy(), signal, changes) == whole);  // and again
+}
+
+void TestEngine::powerUpInAnyBlockSize() {
+    const Stereo signal = noise(24000, 0.9F);
+    const auto poweredUp = [&signal](size_t block) {
+        Engine engine(Engine::Start::FadedIn);
+        engine.setParameters(designParameters(busy()));
+        std::vector<float> all;
+        for (size_t i = 0; i < signal.size(); i += block * stereo) {
+            const auto end = signal.begin() + static_cast<long>(std::min(signal.size(), i + block * stereo));
+            const std::vector<float> out = process(engine, Stereo(signal.begin() + static_cast<long>(i), end));
+            all.insert(all.end(), out.begin(), out.end());
+        }
+        return all;
+    };
+    const std::vector<float> whole = poweredUp(24000);
+    for (const size_t block : {1, 100, 480, 1024}) {
+        QVERIFY(poweredUp(block) == whole);
+    }
 }
 
 void TestEngine::everyInputIsHeard() {
@@ -184,6 +218,66 @@ void TestEngine::meters() {
     QVERIFY(loud);
     QVERIFY(std::abs(loud->limiterGain - fromDecibels(-10) / 0.9) < 0.01);
     QVERIFY(loud->peak[FrontRight] <= 1);
+}
+
+/// Twenty readings a second, each of what came since the one before, peaks of either sign.
+void TestEngine::metersStartAnew() {
+    constexpr size_t interval = 2400;
+    Engine engine;
+    engine.setParameters(designParameters(neutral()));
+    const auto readingOf = [&engine](float left, float right) -> std::optional<Meters> {
+        Stereo signal(interval * stereo);
+        signal[200] = left;
+        signal[201] = right;
+        process(engine, Stereo(signal.begin(), signal.end() - stereo));
+        if (engine.takeMeters()) {
+            return std::nullopt;  // too early
+        }
+        process(engine, Stereo(stereo));
+        const Meters *const meters = engine.takeMeters();
+        return meters ? std::optional(*meters) : std::nullopt;
+    };
+    struct Case {
+        float left;
+        float right;
+    };
+    for (const Case &one : {Case{-0.5F, 0.25F}, {0, -0.125F}, {0, 0}, {0.75F, -1}}) {
+        const std::optional<Meters> meters = readingOf(one.left, one.right);
+        QVERIFY(meters);
+        for (size_t output = 0; output < outputCount; ++output) {
+            QCOMPARE(meters->peak[output], std::abs(output % stereo == 0 ? one.left : one.right));
+        }
+        QCOMPARE(meters->limiterGain, 1.0F);
+    }
+    const std::optional<Meters> limited = readingOf(4, 0);
+    QVERIFY(limited && std::abs(limited->limiterGain - 0.25F) < 1e-6F);
+    const std::optional<Meters> recovering = readingOf(0, 0);
+    QVERIFY(recovering && recovering->limiterGain > 0.25F && recovering->limiterGain < 1);
+}
+
+void TestEngine::damagedSamplesAreTamed() {
+    constexpr float infinity = std::numeric_limits<float>::infinity();
+    constexpr float nan = std::numeric_limits<float>::quiet_NaN();
+    constexpr float largest = 16;
+    const std::pair<float, float> samples[] = {
+        {nan, 0}, {-nan, 0}, {infinity, largest}, {-infinity, -largest}, {1e30F, largest},
+        {17, 16}, {-3, -3},  {0.5F, 0.5F}};
+    for (size_t input = 0; input < inputCount; ++input) {
+        SoundState state = neutral();
+        state.channelLevel.fill(20);
+        Engine engine;
+        engine.setParameters(designParameters(state));
+        Stereo signal;
+        for (const auto &sample : samples) {
+            signal.insert(signal.end(), stereo, sample.first);
+        }
+        signal.resize((std::size(samples) + Engine::latency) * stereo);
+        const std::vector<float> out = process(engine, signal, static_cast<Input>(input));
+        for (size_t i = 0; i < std::size(samples); ++i) {
+            const float expected = static_cast<float>(samples[i].second * fromDecibels(-30));
+            QCOMPARE(out[(i + Engine::latency) * outputCount + RearRight], expected);
+        }
+    }
 }
 
 void TestEngine::damagedSamples() {

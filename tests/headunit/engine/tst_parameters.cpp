@@ -100,12 +100,15 @@ void TestParameters::sourceGains() {
 }
 
 void TestParameters::mute() {
-    SoundState state = neutral();
-    state.muted = true;
-    const auto gains = designParameters(state).inputGain;
-    QCOMPARE(gains[MainInput], 0.0);
-    for (size_t other = RingtoneInput; other < inputCount; ++other) {
-        QCOMPARE(gains[other], 1.0);  // calls, guidance and the beep go on
+    for (const bool defeat : {false, true}) {
+        SoundState state = neutral();
+        state.defeat = defeat;
+        state.muted = true;
+        const auto gains = designParameters(state).inputGain;
+        QCOMPARE(gains[MainInput], 0.0);
+        for (size_t other = RingtoneInput; other < inputCount; ++other) {
+            QCOMPARE(gains[other], 1.0);  // calls, guidance and the beep go on
+        }
     }
 }
 
