@@ -251,6 +251,8 @@ private Q_SLOTS:
     void steadyToneIsSilentAbove();
     void change_data();
     void change();
+    void changeDuringAChange_data() { change_data(); }
+    void changeDuringAChange();
     void changeIsOverInTime_data() { change_data(); }
     void changeIsOverInTime();
 };
@@ -282,6 +284,20 @@ void TestClicks::change() {
     const double worst = worstResidual(before, after, input);
     qInfo("%s: %.1f dB", QTest::currentDataTag(), worst);
     QVERIFY(worst <= goal);
+}
+
+/// Back again in the middle of the way
+void TestClicks::changeDuringAChange() {
+    QFETCH(SoundState, before);
+    QFETCH(SoundState, after);
+    QFETCH(double, goal);
+    QFETCH(Input, input);
+    constexpr double amplitude = 0.2;
+    const Stereo signal = tone(tones[0], frames, amplitude);
+    const size_t middle = changeAt + Engine::fadeSamples / 2;
+    for (const auto &samples : render(before, signal, {{changeAt, after}, {middle, before}}, {}, input)) {
+        QVERIFY(residual(samples, amplitude) <= goal);
+    }
 }
 
 /// What comes in 50 ms after a change sounds as if the settings had never been others, bit for bit, even if another
