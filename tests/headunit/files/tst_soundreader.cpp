@@ -100,6 +100,12 @@ void TestSoundReader::manyChannelsAreFoldedDown_data() {
     QTest::newRow("a place above") << QByteArray("LRc")
                                    << std::vector<int>{SF_CHANNEL_MAP_LEFT, SF_CHANNEL_MAP_RIGHT,
                                                        SF_CHANNEL_MAP_TOP_CENTER};
+    QTest::newRow("more on the left") << QByteArray("LRl")
+                                      << std::vector<int>{SF_CHANNEL_MAP_LEFT, SF_CHANNEL_MAP_RIGHT,
+                                                          SF_CHANNEL_MAP_SIDE_LEFT};
+    QTest::newRow("more on the right") << QByteArray("LRr")
+                                       << std::vector<int>{SF_CHANNEL_MAP_LEFT, SF_CHANNEL_MAP_RIGHT,
+                                                           SF_CHANNEL_MAP_SIDE_RIGHT};
     QTest::newRow("sides only") << QByteArray("-lr")
                                 << std::vector<int>{SF_CHANNEL_MAP_LFE, SF_CHANNEL_MAP_SIDE_LEFT,
                                                     SF_CHANNEL_MAP_SIDE_RIGHT};
