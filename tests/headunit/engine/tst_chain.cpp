@@ -73,13 +73,17 @@ void TestChain::flatIsTransparent() {
 void TestChain::levelIsTheOnlyChange() {
     SoundState state = neutral();
     state.channelLevel[0] = 27;
-    const double gain = designParameters(state).inputGain[MainInput];
+    state.balance = 4;
+    state.front.level = 7;
+    state.subwooferLevel = 3;
+    const Parameters parameters = designParameters(state);
     const Stereo signal = noise(5000, 0.99F);
     const Sound sound = render(state, signal);
     for (size_t output = 0; output < outputCount; ++output) {
         for (size_t frame = 0; frame < sound[output].size(); ++frame) {
-            const double in = signal[frame * stereo + output % stereo];
-            QCOMPARE(sound[output][frame], static_cast<float>(in * gain));
+            // Rounded once, at the very end
+            const double mixed = signal[frame * stereo + output % stereo] * parameters.inputGain[MainInput];
+            QCOMPARE(sound[output][frame], static_cast<float>(mixed * parameters.chain.gain[output]));
         }
     }
 }

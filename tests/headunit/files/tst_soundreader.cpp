@@ -33,6 +33,7 @@ private Q_SLOTS:
     void refuses_data();
     void refuses();
     void refusesAPipe();
+    void refusesWhatItCannotConvert();
 
 private:
     std::string path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)).toStdString(); }
@@ -231,6 +232,17 @@ void TestSoundReader::refusesAPipe() {
     std::string error;
     QVERIFY(!reader.open(pipe, &error));
     QCOMPARE(error, pipe + ": a pipe cannot be played");
+}
+
+void TestSoundReader::refusesWhatItCannotConvert() {
+    for (const auto &[rate, channels] : {std::pair(100, 1), std::pair(20000000, 2), std::pair(48000, 65)}) {
+        soundfiletest::write(path("strange.wav"), soundfiletest::tone(rate, channels, 10, 20.0 / rate));
+        SoundReader reader;
+        std::string error;
+        QVERIFY(!reader.open(path("strange.wav"), &error));
+        QCOMPARE(error, path("strange.wav") + ": a file of " + std::to_string(channels) + " channels at " +
+                            std::to_string(rate) + " Hz cannot be played");
+    }
 }
 
 QTEST_APPLESS_MAIN(TestSoundReader)
