@@ -1,14 +1,11 @@
 #include "headunit/audio/engine/parameters.h"
 
-#include "headunit/audio/engine/eqcurves.h"
 #include "platform/audioeqtype.h"
 #include "rendering.h"
 
 #include <QTest>
 
 #include <cmath>
-#include <limits>
-#include <random>
 
 using namespace headunit;
 using namespace headunit::engine;
@@ -40,13 +37,8 @@ private Q_SLOTS:
     void crossoverLevels();
     void crossoverFilters();
     void delays();
-    void curves();
-    void customCurve();
     void loudnessFollowsTheMainLevel();
     void defeat();
-    void beyondTheRangeIsItsEnd();
-    void whatDoesNotExistIsOff();
-    void anyValueIsSafe();
 };
 
 void TestParameters::neutralPassesEverything() {
@@ -205,35 +197,6 @@ void TestParameters::delays() {
     }
 }
 
-void TestParameters::curves() {
-    SoundState state = neutral();
-    const auto is = [&state](int type, const Curve &gains) {
-        state.eqType = type;
-        return curveInForce(state) == gains;
-    };
-    QVERIFY(is(AudioEQFlat, {}));
-    QVERIFY(is(1, {1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 3, 1}));
-    QVERIFY(is(AudioEQPop, {2, 4, 6, 4, 0, 0, 1, 1, 0, 0, 2, 3, 4}));
-    QVERIFY(is(AudioEQRock, {5, 2, 2, 2, -2, -4, -3, -3, 0, 2, 4, 2, 4}));
-    QVERIFY(is(4, {1, 2, 2, 1, 0, -1, 1, 1, 2, 2, 1, 2, 2}));
-    QVERIFY(is(AudioEQElectronic, {6, 4, 6, 0, 2, 0, 0, 1, 2, 4, 6, 2, 4}));
-    QVERIFY(is(AudioEQJazz, {6, 2, 6, 0, -4, -1, 0, -1, 4, 0, -2, -2, 4}));
-    QVERIFY(is(AudioEQHipHop, {10, 6, 0, 0, 6, 2, -2, -1, -4, 2, 6, 2, 4}));
-    QVERIFY(is(6, {}));
-    QVERIFY(is(15, {}));
-    QVERIFY(is(-1, {}));
-}
-
-void TestParameters::customCurve() {
-    SoundState state = neutral();
-    state.customEq = {0, 1, 11, 12, 13, 24, -12, -1, 12, 12, 12, 12, 12};
-    const Curve expected = {-12, -11, -1, 0, 1, 12, -12, -12, 0, 0, 0, 0, 0};
-    for (const int type : {16, 20, std::numeric_limits<int>::max()}) {
-        state.eqType = type;
-        QVERIFY(curveInForce(state) == expected);
-    }
-}
-
 void TestParameters::loudnessFollowsTheMainLevel() {
     for (int level = 0; level <= 40; ++level) {
         SoundState state = neutral();
@@ -268,108 +231,6 @@ void TestParameters::defeat() {
     expected.gain = {1, 1, 1, 1, -fromDecibels(-3) * fromDecibels(3), -fromDecibels(-3) * fromDecibels(3)};
     QVERIFY(parameters.chain == expected);
     QVERIFY(isGain(parameters.inputGain[MainInput], -30 + 3));
-}
-
-void TestParameters::beyondTheRangeIsItsEnd() {
-    struct Control {
-        const char *name;
-        int low;
-        int high;
-        void (*set)(SoundState &state, int value);
-    };
-    using S = SoundState &;
-    const Control controls[] = {
-        {"balance", -15, 15, [](S s, int value) { s.balance = value; }},
-        {"fader", -15, 15, [](S s, int value) { s.fader = value; }},
-        {"channel levels", 0, 40, [](S s, int value) { s.channelLevel.fill(value); }},
-        {"main level under loudness", 0, 40,
-         [](S s, int value) {
-             s.loudness = true;
-             s.channelLevel[0] = value;
-         }},
-        {"source gains", 0, 20, [](S s, int value) { s.sourceGain.fill(value); }},
-        {"bands", 0, 24, [](S s, int value) { s.customEq.fill(value); }},
-        {"subwoofer level", 0, 15, [](S s, int value) { s.subwooferLevel = value; }},
-        {"delays", 0, 99, [](S s, int value) { s.delay.fill(value); }},
-        {"slopes", 1, 3,
-         [](S s, int value) {
-             s.front = {4, value, 12};
-             s.rear = s.subwoofer = {3, value, 12};
-         }},
-        {"filter levels", 0, 12, [](S s, int value) { s.front.level = s.rear.level = s.subwoofer.level = value; }}};
-    for (const Control &control : controls) {
-        const auto at = [&control](int value) {
-            SoundState state = neutral();
-            control.set(state, value);
-            return designParameters(state);
-        };
-        const auto same = [&at](int value, int other) {
-            return at(value).inputGain == at(other).inputGain && at(value).chain == at(other).chain;
-        };
-        QVERIFY2(!same(control.low, control.low + 1) && !same(control.high, control.high - 1), control.name);
-        for (const int below : {control.low - 1, control.low - 100, std::numeric_limits<int>::min()}) {
-            QVERIFY2(same(below, control.low), control.name);
-        }
-        for (const int above : {control.high + 1, control.high + 100, std::numeric_limits<int>::max()}) {
-            QVERIFY2(same(above, control.high), control.name);
-        }
-    }
-}
-
-void TestParameters::whatDoesNotExistIsOff() {
-    const ChainParameters flat = chainOf(neutral());
-    for (const int beyond : {-1, 6, 12, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
-        SoundState state = neutral();
-        state.rear = state.subwoofer = {beyond, 3, 12};
-        state.front = {beyond == 6 ? 12 : beyond, 3, 12};
-        QVERIFY(chainOf(state) == flat);
-        state = neutral();
-        state.sourceGain.fill(20);
-        state.activeSource = beyond == 6 ? SoundState::sources : beyond;
-        QCOMPARE(designParameters(state).inputGain[MainInput], 1.0);
-    }
-}
-
-void TestParameters::anyValueIsSafe() {
-    std::mt19937 random(3);
-    const auto any = [&random] {
-        const int extremes[] = {std::numeric_limits<int>::min(), std::numeric_limits<int>::max(), -1};
-        return random() % 2 ? extremes[random() % 3] : static_cast<int>(random());
-    };
-    for (int i = 0; i < 2000; ++i) {
-        SoundState state;
-        state.eqType = any();
-        state.balance = any();
-        state.fader = any();
-        state.activeSource = any();
-        state.loudness = random() % 2;
-        state.defeat = random() % 2;
-        state.subwooferLevel = any();
-        state.subwooferPhase = any();
-        for (CrossoverFilter *filter : {&state.front, &state.rear, &state.subwoofer}) {
-            *filter = {any(), any(), any()};
-        }
-        const auto fill = [&any](auto &values) {
-            for (int &value : values) {
-                value = any();
-            }
-        };
-        fill(state.customEq);
-        fill(state.channelLevel);
-        fill(state.sourceGain);
-        fill(state.delay);
-        const Parameters parameters = designParameters(state);
-        for (const double gain : parameters.inputGain) {
-            QVERIFY(gain >= 0 && gain <= fromDecibels(10.001));
-        }
-        for (size_t output = 0; output < outputCount; ++output) {
-            QVERIFY(std::abs(parameters.chain.gain[output]) <= fromDecibels(7.501));
-            QVERIFY(parameters.chain.delay[output] >= 0 && parameters.chain.delay[output] <= 475);
-        }
-        for (const Biquad &section : parameters.chain.tone) {
-            QVERIFY(std::isfinite(section.b0 + section.b1 + section.b2 + section.a1 + section.a2));
-        }
-    }
 }
 
 QTEST_APPLESS_MAIN(TestParameters)
