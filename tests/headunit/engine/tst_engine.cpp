@@ -62,13 +62,13 @@ private Q_SLOTS:
 void TestEngine::silentWithoutParameters() {
     Engine engine;
     for (const float sample : process(engine, noise(1000))) {
-        QCOMPARE(sample, 0.0F);
+        QVERIFY(sample == 0.0F);
     }
 }
 
 void TestEngine::firstParametersHoldAtOnce() {
     const Stereo signal = noise(100);
-    QCOMPARE(render(neutral(), signal)[0][0], signal[0]);
+    QVERIFY(render(neutral(), signal)[0][0] == signal[0]);
     // Of several the last ones, without a fade from the first
     SoundState state = neutral();
     state.channelLevel[0] = 20;
@@ -76,7 +76,7 @@ void TestEngine::firstParametersHoldAtOnce() {
     engine.setParameters(designParameters(neutral()));
     engine.setParameters(designParameters(state));
     const float expected = static_cast<float>(signal[0] * fromDecibels(-30));
-    QCOMPARE(process(engine, signal)[Engine::latency * outputCount], expected);
+    QVERIFY(process(engine, signal)[Engine::latency * outputCount] == expected);
 }
 
 void TestEngine::anyBlockSizeGivesTheSame() {
@@ -140,7 +140,7 @@ void TestEngine::inputsAdd() {
     inputs[VoiceInput] = voice.data();
     std::vector<float> out(200 * outputCount);
     engine.process(inputs, out.data(), 200);
-    QCOMPARE(out.back(), 0.375F);
+    QVERIFY(out.back() == 0.375F);
 }
 
 void TestEngine::changeIsOverIn50Milliseconds() {
@@ -155,8 +155,8 @@ void TestEngine::changeIsOverIn50Milliseconds() {
     const Sound expected = render(quiet, signal);
     constexpr size_t transition = 2400;
     for (size_t output = 0; output < outputCount; ++output) {
-        QCOMPARE(sound[output][4800 - Engine::latency - 1], 0.5F);
-        QCOMPARE(sound[output][4801 + transition], expected[output][4801 + transition]);
+        QVERIFY(sound[output][4800 - Engine::latency - 1] == 0.5F);
+        QVERIFY(sound[output][4801 + transition] == expected[output][4801 + transition]);
     }
 }
 
@@ -175,7 +175,7 @@ void TestEngine::changesDuringAFadeAreTakenAfterIt() {
         QVERIFY(level > 38 || (lowest <= before && before - lowest < 0.1F));
     }
     process(engine, Stereo(4800 * stereo, 0.5F));
-    QCOMPARE(process(engine, signal).back(), static_cast<float>(0.5 * fromDecibels(-30)));
+    QVERIFY(process(engine, signal).back() == static_cast<float>(0.5 * fromDecibels(-30)));
 }
 
 void TestEngine::fadesInAtPowerUp() {
@@ -215,7 +215,7 @@ void TestEngine::damagedSamplesAreTamed() {
         const std::vector<float> out = process(engine, signal, static_cast<Input>(input));
         for (size_t i = 0; i < std::size(samples); ++i) {
             const float expected = static_cast<float>(samples[i].second * fromDecibels(-30));
-            QCOMPARE(out[(i + Engine::latency) * outputCount + RearRight], expected);
+            QVERIFY(out[(i + Engine::latency) * outputCount + RearRight] == expected);
         }
     }
 }

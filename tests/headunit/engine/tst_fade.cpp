@@ -36,7 +36,7 @@ void TestFade::startsAtItsEnd() {
 void TestFade::risesEvenly() {
     const Fade fade = started();
     QCOMPARE(fade.remaining(), length);
-    QCOMPARE(fade.weights()[length - 1], 1.0);
+    QVERIFY(fade.weights()[length - 1] == 1.0);
     QVERIFY(fade.weights()[0] > 0);
     for (size_t i = 1; i < length; ++i) {
         QVERIFY(fade.weights()[i] > fade.weights()[i - 1] || fade.weights()[i - 1] > 1 - 1e-9);

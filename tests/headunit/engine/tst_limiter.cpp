@@ -55,9 +55,9 @@ void TestLimiter::transparentUpToFullScale() {
     const std::vector<float> out = limited(limiter, in);
     const size_t late = Limiter::latency * outputCount;
     for (size_t i = late; i < out.size(); ++i) {
-        QCOMPARE(out[i], static_cast<float>(in[i - late]));
+        QVERIFY(out[i] == static_cast<float>(in[i - late]));
     }
-    QCOMPARE(limiter.takeLowestGain(), 1.0);
+    QVERIFY(limiter.takeLowestGain() == 1.0);
 }
 
 void TestLimiter::neverBeyondFullScale() {
@@ -123,7 +123,7 @@ void TestLimiter::sameGainForAllOutputs() {
     const std::vector<float> out = limited(limiter, in);
     size_t reduced = 0;
     for (size_t i = 0; i < out.size(); i += outputCount) {
-        QCOMPARE(out[i + FrontLeft], out[i + SubRight]);
+        QVERIFY(out[i + FrontLeft] == out[i + SubRight]);
         const size_t before = i - Limiter::latency * outputCount;
         reduced += i > Limiter::latency * outputCount && std::abs(out[i]) < std::abs(in[before]) * 0.9;
     }
@@ -139,9 +139,9 @@ void TestLimiter::gainComesBackExactly() {
     const std::vector<float> out = limited(limiter, in);
     const size_t late = Limiter::latency * outputCount;
     for (size_t i = late; i < out.size(); ++i) {
-        QCOMPARE(out[i], static_cast<float>(in[i - late]));
+        QVERIFY(out[i] == static_cast<float>(in[i - late]));
     }
-    QCOMPARE(limiter.takeLowestGain(), 1.0);
+    QVERIFY(limiter.takeLowestGain() == 1.0);
 }
 
 void TestLimiter::reportsItsGain() {
@@ -157,7 +157,7 @@ void TestLimiter::reportsItsGain() {
     limited(limiter, tone(4, 2000));
     limited(limiter, tone(0.1, static_cast<size_t>(3 * sampleRate)));
     QVERIFY(std::abs(limiter.takeLowestGain() - 0.25) < 0.001);
-    QCOMPARE(limiter.takeLowestGain(), 1.0);
+    QVERIFY(limiter.takeLowestGain() == 1.0);
 }
 
 void TestLimiter::holdsThroughLowTones() {

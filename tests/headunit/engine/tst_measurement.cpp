@@ -66,7 +66,7 @@ void TestMeasurement::magnitudeAndPhase() {
     const std::vector<MeasuredPoint> points = measure(state, asked);
     QCOMPARE(points.size(), asked.size());
     for (size_t i = 0; i < asked.size(); ++i) {
-        QCOMPARE(points[i].hz, asked[i]);
+        QVERIFY(points[i].hz == asked[i]);
         std::complex<double> sum = 0;
         for (size_t output = 0; output < outputCount; ++output) {
             const CrossoverSections &filter = sections[output / stereo];
@@ -108,7 +108,7 @@ void TestMeasurement::arrival() {
 void TestMeasurement::frequencies() {
     const std::vector<double> list = audibleFrequencies();
     constexpr size_t perOctave = 24;
-    QCOMPARE(list.front(), 20.0);
+    QVERIFY(list.front() == 20.0);
     QVERIFY(list.back() <= 20000 && list.back() > 20000 / std::pow(2, 1.0 / perOctave));
     for (size_t i = perOctave; i < list.size(); ++i) {
         QVERIFY(std::abs(list[i] / list[i - perOctave] - 2) < 1e-12);

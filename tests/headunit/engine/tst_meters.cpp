@@ -42,9 +42,9 @@ void TestMeters::peaksAndLimiter() {
     process(engine, tone(440, 4800, 0.2));
     const Meters *const meters = engine.takeMeters();
     QVERIFY(meters);
-    QCOMPARE(meters->peak[FrontLeft], 0.0F);
+    QVERIFY(meters->peak[FrontLeft] == 0.0F);
     QVERIFY(std::abs(meters->peak[RearRight] - 0.2 * fromDecibels(10)) < 0.001);
-    QCOMPARE(meters->limiterGain, 1.0F);
+    QVERIFY(meters->limiterGain == 1.0F);
     QVERIFY(!engine.takeMeters());
     process(engine, tone(440, 4800, 0.9));
     const Meters *const loud = engine.takeMeters();
@@ -78,9 +78,9 @@ void TestMeters::eachReadingStartsAnew() {
         const std::optional<Meters> meters = readingOf(one.left, one.right);
         QVERIFY(meters);
         for (size_t output = 0; output < outputCount; ++output) {
-            QCOMPARE(meters->peak[output], std::abs(output % stereo == 0 ? one.left : one.right));
+            QVERIFY(meters->peak[output] == (std::abs(output % stereo == 0 ? one.left : one.right)));
         }
-        QCOMPARE(meters->limiterGain, 1.0F);
+        QVERIFY(meters->limiterGain == 1.0F);
     }
     const std::optional<Meters> limited = readingOf(4, 0);
     QVERIFY(limited && std::abs(limited->limiterGain - 0.25F) < 1e-6F);

@@ -77,7 +77,7 @@ void TestParameterRanges::whatDoesNotExistIsOff() {
         state = neutral();
         state.sourceGain.fill(20);
         state.activeSource = beyond == 6 ? SoundState::sources : beyond;
-        QCOMPARE(designParameters(state).inputGain[MainInput], 1.0);
+        QVERIFY(designParameters(state).inputGain[MainInput] == 1.0);
     }
 }
 

@@ -47,7 +47,7 @@ void TestParameters::neutralPassesEverything() {
     expected.gain.fill(1);
     QVERIFY(parameters.chain == expected);
     for (const double gain : parameters.inputGain) {
-        QCOMPARE(gain, 1.0);
+        QVERIFY(gain == 1.0);
     }
 }
 
@@ -97,9 +97,9 @@ void TestParameters::mute() {
         state.defeat = defeat;
         state.muted = true;
         const auto gains = designParameters(state).inputGain;
-        QCOMPARE(gains[MainInput], 0.0);
+        QVERIFY(gains[MainInput] == 0.0);
         for (size_t other = RingtoneInput; other < inputCount; ++other) {
-            QCOMPARE(gains[other], 1.0);  // calls, guidance and the beep go on
+            QVERIFY(gains[other] == 1.0);  // calls, guidance and the beep go on
         }
     }
 }
@@ -126,7 +126,7 @@ void TestParameters::fader() {
                                 : isGain(gains[FrontLeft + side], -2 * std::max(fader, 0)));
             QVERIFY(fader == -15 ? gains[RearLeft + side] == 0
                                  : isGain(gains[RearLeft + side], -2 * std::max(-fader, 0)));
-            QCOMPARE(gains[SubLeft + side], 1.0);
+            QVERIFY(gains[SubLeft + side] == 1.0);
         }
     }
 }
@@ -140,11 +140,11 @@ void TestParameters::subwoofer() {
         const auto turned = chainOf(state).gain;
         for (size_t output = 0; output < outputCount; ++output) {
             if (output < SubLeft) {
-                QCOMPARE(upright[output], 1.0);
-                QCOMPARE(turned[output], 1.0);
+                QVERIFY(upright[output] == 1.0);
+                QVERIFY(turned[output] == 1.0);
             } else {
                 QVERIFY(level == 0 ? upright[output] == 0 : isGain(upright[output], (level - 10) * 1.5));
-                QCOMPARE(turned[output], -upright[output]);
+                QVERIFY(turned[output] == -upright[output]);
             }
         }
     }

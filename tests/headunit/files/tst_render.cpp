@@ -81,7 +81,7 @@ void TestRender::sameAsTheEngine() {
     QCOMPARE(out.channels, 6);
     QCOMPARE(out.samples.size(), static_cast<size_t>(frames) * 6);
     for (size_t i = 0; i < out.samples.size(); ++i) {
-        QCOMPARE(out.samples[i], expected[i % 6][i / 6]);
+        QVERIFY(out.samples[i] == expected[i % 6][i / 6]);
     }
 }
 
@@ -95,7 +95,7 @@ void TestRender::loudUpToTheEnd() {
         const SoundFile out = soundfiletest::read(path("out.wav"));
         const rendering::Sound expected = rendering::render(loud(), in.samples);
         for (size_t i = 0; i < out.samples.size(); ++i) {
-            QCOMPARE(out.samples[i], expected[i % 6][i / 6]);
+            QVERIFY(out.samples[i] == expected[i % 6][i / 6]);
         }
     }
 }

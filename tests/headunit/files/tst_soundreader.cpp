@@ -76,7 +76,7 @@ void TestSoundReader::oneChannelGoesToBothSides() {
     const std::vector<float> samples = readAll(path("mono.wav"));
     QCOMPARE(samples.size(), 2 * file.samples.size());
     for (size_t i = 0; i < samples.size(); ++i) {
-        QCOMPARE(samples[i], file.samples[i / 2]);
+        QVERIFY(samples[i] == file.samples[i / 2]);
     }
 }
 
