@@ -68,8 +68,14 @@ def impulse(height=1 / 64):
     return samples
 
 
+def column(table, name):
+    """What --measure's table says of an output, as complex numbers."""
+    return np.array([10 ** (float(row[name + " dB"]) / 20) * np.exp(1j * np.radians(float(row[name + " deg"])))
+                     for row in table])
+
+
 def crossovers():
-    worst = {"magnitude": 0, "delay": 0, "table": 0}
+    worst = {"magnitude": 0, "delay": 0, "table": 0, "sum": 0}
     frequencies = np.geomspace(20, 20000, 500)
     delays = [0, 7, 13, 42, 99, 66]
     for step in range(1, 12):
@@ -85,6 +91,8 @@ def crossovers():
         answers = rendered(root, impulse()) * 64
         run("--root", root, "--measure", folder / "measured.csv")
         table = list(csv.DictReader(open(folder / "measured.csv")))
+        hertz = np.array([float(row["Hz"]) for row in table])
+        total = np.zeros(len(hertz), complex)
         for output, name in enumerate(OUTPUTS):
             _, cut_off, _, kind = filters[output // 2]
             sections = signal.butter(order, cut_off, kind, fs=RATE, output="sos")
@@ -94,15 +102,15 @@ def crossovers():
             loud = decibels(expected) > -80
             worst["magnitude"] = max(worst["magnitude"], np.max(np.abs(decibels(heard) - decibels(expected))[loud]))
             worst["delay"] = max(worst["delay"], np.max(np.abs(answers[output][:late]), initial=0))
-            hertz = np.array([float(row["Hz"]) for row in table])
             _, expected = signal.sosfreqz(sections, hertz, fs=RATE)
             expected = expected * np.exp(-2j * np.pi * hertz / RATE * late)
-            measured = np.array([10 ** (float(row[name + " dB"]) / 20) *
-                                 np.exp(1j * np.radians(float(row[name + " deg"]))) for row in table])
-            worst["table"] = max(worst["table"], np.max(np.abs(measured - expected)))
+            worst["table"] = max(worst["table"], np.max(np.abs(column(table, name) - expected)))
+            total += expected
+        worst["sum"] = max(worst["sum"], np.max(np.abs(column(table, "sum") - total)))
     check("crossovers against scipy's Butterworth (dB)", worst["magnitude"], 0.02)
     check("samples ahead of the delay", worst["delay"], 0)
     check("--measure against scipy, magnitude and phase", worst["table"], 1e-4)
+    check("its sum of all outputs", worst["sum"], 6e-4)
 
 
 def equaliser():

@@ -36,11 +36,12 @@ public:
     /// All that has come.
     const std::vector<Frame> &frames() {
         m_bytes += m_process->readAllStandardOutput();
-        const size_t there = static_cast<size_t>(m_bytes.size()) / sizeof(Frame);
-        const size_t before = m_frames.size();
-        m_frames.resize(before + there);
-        std::memcpy(m_frames.data() + before, m_bytes.constData(), there * sizeof(Frame));
-        m_bytes.remove(0, static_cast<int>(there * sizeof(Frame)));
+        constexpr int frameBytes = static_cast<int>(sizeof(Frame));
+        int done = 0;
+        for (; m_bytes.size() - done >= frameBytes; done += frameBytes) {
+            std::memcpy(m_frames.emplace_back().data(), m_bytes.constData() + done, sizeof(Frame));
+        }
+        m_bytes.remove(0, done);
         return m_frames;
     }
 

@@ -26,34 +26,96 @@ struct Share {
     float right;
 };
 
-/// Front left, front right, centre, low frequencies, then pairs from the sides and behind, as files order them. One
-/// channel goes to both sides; the low frequencies of a film are left out, as the unit makes its own.
-std::vector<Share> shares(size_t channels) {
+/// What a place in a listening room adds. The low frequencies of a film are left out, as the unit makes its own.
+struct Place {
+    int name;
+    Share share;
+};
+constexpr Share onlyLeft = {1, 0};
+constexpr Share onlyRight = {0, 1};
+constexpr Share besideLeft = {minusThreeDecibels, 0};
+constexpr Share besideRight = {0, minusThreeDecibels};
+constexpr Share middle = {minusThreeDecibels, minusThreeDecibels};
+constexpr Place places[] = {{SF_CHANNEL_MAP_LEFT, onlyLeft},
+                            {SF_CHANNEL_MAP_RIGHT, onlyRight},
+                            {SF_CHANNEL_MAP_FRONT_LEFT, onlyLeft},
+                            {SF_CHANNEL_MAP_FRONT_RIGHT, onlyRight},
+                            {SF_CHANNEL_MAP_CENTER, middle},
+                            {SF_CHANNEL_MAP_FRONT_CENTER, middle},
+                            {SF_CHANNEL_MAP_REAR_CENTER, middle},
+                            {SF_CHANNEL_MAP_LFE, {0, 0}},
+                            {SF_CHANNEL_MAP_REAR_LEFT, besideLeft},
+                            {SF_CHANNEL_MAP_REAR_RIGHT, besideRight},
+                            {SF_CHANNEL_MAP_SIDE_LEFT, besideLeft},
+                            {SF_CHANNEL_MAP_SIDE_RIGHT, besideRight},
+                            {SF_CHANNEL_MAP_FRONT_LEFT_OF_CENTER, besideLeft},
+                            {SF_CHANNEL_MAP_FRONT_RIGHT_OF_CENTER, besideRight}};
+
+/// How files order so many channels, two or more, if they do not say it; beyond eight more pairs follow.
+std::vector<int> usualOrder(size_t channels) {
+    constexpr int left = SF_CHANNEL_MAP_LEFT;
+    constexpr int right = SF_CHANNEL_MAP_RIGHT;
+    constexpr int centre = SF_CHANNEL_MAP_CENTER;
+    constexpr int low = SF_CHANNEL_MAP_LFE;
+    constexpr int rearLeft = SF_CHANNEL_MAP_REAR_LEFT;
+    constexpr int rearRight = SF_CHANNEL_MAP_REAR_RIGHT;
+    constexpr int rearCentre = SF_CHANNEL_MAP_REAR_CENTER;
+    constexpr int sideLeft = SF_CHANNEL_MAP_SIDE_LEFT;
+    constexpr int sideRight = SF_CHANNEL_MAP_SIDE_RIGHT;
+    static const std::vector<int> orders[] = {{left, right},
+                                              {left, right, centre},
+                                              {left, right, rearLeft, rearRight},
+                                              {left, right, centre, rearLeft, rearRight},
+                                              {left, right, centre, low, rearLeft, rearRight},
+                                              {left, right, centre, low, rearCentre, sideLeft, sideRight},
+                                              {left, right, centre, low, rearLeft, rearRight, sideLeft, sideRight}};
+    std::vector<int> order = orders[std::min(channels - 2, std::size(orders) - 1)];
+    while (order.size() < channels) {
+        order.push_back(order.size() % 2 == 0 ? sideLeft : sideRight);
+    }
+    return order;
+}
+
+/// The shares of channels in that \a order; none if one of them has no place, or nothing could be heard.
+std::vector<Share> sharesOf(const std::vector<int> &order) {
+    std::vector<Share> list;
+    float left = 0;
+    float right = 0;
+    for (const int name : order) {
+        const auto place =
+            std::find_if(std::begin(places), std::end(places), [name](const Place &one) { return one.name == name; });
+        if (place == std::end(places)) {
+            return {};
+        }
+        list.push_back(place->share);
+        left += place->share.left;
+        right += place->share.right;
+    }
+    const float louder = std::max(left, right);
+    if (louder == 0) {
+        return {};
+    }
+    for (Share &share : list) {
+        share.left /= louder;  // what is full scale everywhere stays full scale
+        share.right /= louder;
+    }
+    return list;
+}
+
+/// The shares of a file's channels. One channel goes to both sides, whatever it is said to be; two are left and right.
+std::vector<Share> shares(SNDFILE *file, size_t channels) {
     if (channels == 1) {
         return {{1, 1}};
     }
-    std::vector<Share> list = {{1, 0}, {0, 1}};
-    for (size_t channel = stereo; channel < channels; ++channel) {
-        constexpr size_t centre = 2;
-        constexpr size_t lowFrequencies = 3;
-        if (channel == centre) {
-            list.push_back({minusThreeDecibels, minusThreeDecibels});
-        } else if (channel == lowFrequencies && channels > lowFrequencies + 1) {
-            list.push_back({0, 0});
-        } else {
-            const bool left = channel % 2 == 0;
-            list.push_back({left ? minusThreeDecibels : 0, left ? 0 : minusThreeDecibels});
+    std::vector<int> order(channels);
+    const int size = static_cast<int>(channels * sizeof(int));
+    if (channels > stereo && sf_command(file, SFC_GET_CHANNEL_MAP_INFO, order.data(), size) == SF_TRUE) {
+        const std::vector<Share> said = sharesOf(order);
+        if (!said.empty()) {
+            return said;
         }
     }
-    float sum = 0;
-    for (const Share &share : list) {
-        sum += share.left;
-    }
-    for (Share &share : list) {
-        share.left /= sum;  // what is full scale everywhere stays full scale
-        share.right /= sum;
-    }
-    return list;
+    return sharesOf(usualOrder(channels));
 }
 
 }  // namespace
@@ -126,7 +188,7 @@ bool SoundReader::open(const std::string &path, std::string *error) {
                  std::to_string(info.samplerate) + " Hz cannot be played";
         return false;
     }
-    d->list = shares(static_cast<size_t>(info.channels));
+    d->list = shares(d->file, static_cast<size_t>(info.channels));
     d->raw.resize(chunkFrames * d->list.size());
     if (d->ratio != 1) {
         int code = 0;

@@ -4,7 +4,6 @@
 
 #include <sndfile.h>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
@@ -35,24 +34,10 @@ struct SoundWriter::Private {
         return false;
     }
 
-    /// The library puts a PEAK chunk with the time of day into every file of this kind; a second run must give the same
-    /// file. True if there is no such chunk.
-    static bool clearTimeStamp(int descriptor) {
-        constexpr char name[] = "PEAK";
-        constexpr ptrdiff_t stampAfterName = 12;  // behind name, size and version
-        constexpr char noTime[4] = {};
-        std::array<char, 512> head{};
-        const ssize_t size = pread(descriptor, head.data(), head.size(), 0);
-        const auto end = head.begin() + std::max<ssize_t>(0, size);
-        const auto chunk = std::search(head.begin(), end, name, name + 4);
-        return chunk == end || pwrite(descriptor, noTime, sizeof(noTime), chunk - head.begin() + stampAfterName) ==
-                                   static_cast<ssize_t>(sizeof(noTime));
-    }
-
-    /// Makes the closed file what it is to be, and brings it to the disk, where it may turn out not to fit.
-    bool complete() const {
+    /// Brings the closed file to the disk, where it may turn out not to fit.
+    bool sync() const {
         const int descriptor = ::open(partPath.c_str(), O_RDWR | O_CLOEXEC);
-        const bool good = descriptor >= 0 && clearTimeStamp(descriptor) && fsync(descriptor) == 0;
+        const bool good = descriptor >= 0 && fsync(descriptor) == 0;
         if (descriptor >= 0) {
             close(descriptor);
         }
@@ -79,6 +64,7 @@ bool SoundWriter::open(const std::string &path, std::string *error) {
     SF_INFO info{};
     info.samplerate = static_cast<int>(engine::sampleRate);
     info.channels = static_cast<int>(engine::outputCount);
+    // Unlike plain WAV without a PEAK chunk, which holds the time of day: the same samples give the same file.
     info.format = SF_FORMAT_RF64 | SF_FORMAT_FLOAT;
     d->file = sf_open(d->partPath.c_str(), SFM_WRITE, &info);
     if (!d->file) {
@@ -108,7 +94,7 @@ bool SoundWriter::finish(std::string *error) {
     sf_write_sync(d->file);
     const bool closed = sf_close(d->file) == 0;
     d->file = nullptr;
-    if (closed && d->complete() && std::rename(d->partPath.c_str(), d->target.c_str()) == 0) {
+    if (closed && d->sync() && std::rename(d->partPath.c_str(), d->target.c_str()) == 0) {
         return true;
     }
     const std::string reason = errno != 0 ? std::strerror(errno) : "it cannot be written";

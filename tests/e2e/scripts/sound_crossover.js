@@ -111,3 +111,28 @@ arrives("Flat");
 use("key_preset_2");
 steps = kept;
 arrives("preset");
+
+// Defeat takes delays and high-passes away, not what protects the subwoofer.
+function lowPassed(front) {
+    var low = filtered(40, 25, 1, false);
+    return flat.map(function (db, i) {
+        return db + (i < 2 ? front : i < 4 ? 0 : low);
+    });
+}
+
+use("key_crossover");
+use("key_front");
+use("key_preset_1");
+use("key_sub");
+use("key_freq_plus");
+var frontHigh = filtered(40, 40, 1, true);
+hears("before Defeat", 40, lowPassed(frontHigh));
+use("key_general");
+use("key_defeat");
+steps = [0, 0, 0, 0, 0, 0];
+arrives("Defeat");
+hears("Defeat", 40, lowPassed(0));
+use("key_defeat");
+steps = kept;
+arrives("after Defeat");
+hears("after Defeat", 40, lowPassed(frontHigh));

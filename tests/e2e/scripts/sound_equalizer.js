@@ -81,3 +81,10 @@ hearsCurve("Flat", flat);
 use("key_custom3");
 wait(400);
 hearsCurve("slot", gains);
+
+// Defeat
+use("key_general");
+use("key_defeat");
+hearsCurve("Defeat", flat);
+use("key_defeat");
+hearsCurve("after Defeat", gains);

@@ -50,7 +50,7 @@ Stereo noise(size_t frames, float amplitude) {
 }
 
 Sound render(const SoundState &state, const Stereo &signal, const std::vector<Change> &changes,
-             const std::vector<size_t> &blocks) {
+             const std::vector<size_t> &blocks, Input input) {
     Engine engine;
     engine.setParameters(designParameters(state));
     const size_t frames = signal.size() / stereo;
@@ -72,7 +72,7 @@ Sound render(const SoundState &state, const Stereo &signal, const std::vector<Ch
             count = std::min(count, changes[next].frame - done);
         }
         Inputs inputs{};
-        inputs[MainInput] = padded.data() + done * stereo;
+        inputs[input] = padded.data() + done * stereo;
         engine.process(inputs, out.data() + done * outputCount, count);
         done += count;
     }

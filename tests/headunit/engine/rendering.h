@@ -23,14 +23,14 @@ Stereo impulse(size_t frames, float height = 0.25F);
 /// The same at every run.
 Stereo noise(size_t frames, float amplitude = 0.25F);
 
-/// What a change of settings, after that many frames, makes of a signal on the main input. The engine's latency is cut
-/// off, and as many frames come out as go in.
+/// What a change of settings, after that many frames, makes of a signal on an input. The engine's latency is cut off,
+/// and as many frames come out as go in.
 struct Change {
     size_t frame;
     SoundState state;
 };
 Sound render(const SoundState &state, const Stereo &signal, const std::vector<Change> &changes = {},
-             const std::vector<size_t> &blocks = {});
+             const std::vector<size_t> &blocks = {}, headunit::engine::Input input = headunit::engine::MainInput);
 
 /// Complex amplitude of \a hz in samples from \a first on, by a Hann window over \a count of them.
 std::complex<double> component(const std::vector<float> &samples, double hz, size_t first, size_t count);

@@ -47,7 +47,7 @@ void TestChain::flatIsTransparent() {
     const Sound sound = render(neutral(), signal);
     for (size_t output = 0; output < outputCount; ++output) {
         for (size_t frame = 0; frame < sound[output].size(); ++frame) {
-            QCOMPARE(sound[output][frame], signal[frame * stereo + output % stereo]);
+            QVERIFY(sound[output][frame] == signal[frame * stereo + output % stereo]);
         }
     }
 }
@@ -55,13 +55,17 @@ void TestChain::flatIsTransparent() {
 void TestChain::levelIsTheOnlyChange() {
     SoundState state = neutral();
     state.channelLevel[0] = 27;
-    const double gain = designParameters(state).inputGain[MainInput];
+    state.balance = 4;
+    state.front.level = 7;
+    state.subwooferLevel = 3;
+    const Parameters parameters = designParameters(state);
     const Stereo signal = noise(5000, 0.99F);
     const Sound sound = render(state, signal);
     for (size_t output = 0; output < outputCount; ++output) {
         for (size_t frame = 0; frame < sound[output].size(); ++frame) {
-            const double in = signal[frame * stereo + output % stereo];
-            QCOMPARE(sound[output][frame], static_cast<float>(in * gain));
+            // Rounded once, at the very end
+            const double mixed = signal[frame * stereo + output % stereo] * parameters.inputGain[MainInput];
+            QVERIFY(sound[output][frame] == static_cast<float>(mixed * parameters.chain.gain[output]));
         }
     }
 }
@@ -120,7 +124,7 @@ void TestChain::phaseTurnsTheSubwooferOnly() {
     const Sound after = render(state, signal);
     for (size_t output = 0; output < outputCount; ++output) {
         for (size_t frame = 0; frame < after[output].size(); ++frame) {
-            QCOMPARE(after[output][frame], output >= SubLeft ? -before[output][frame] : before[output][frame]);
+            QVERIFY(after[output][frame] == (output >= SubLeft ? -before[output][frame] : before[output][frame]));
         }
     }
 }
@@ -154,7 +158,7 @@ void TestChain::sidesStayApart() {
     const Sound sound = render(state, signal);
     for (const size_t left : {FrontLeft, RearLeft, SubLeft}) {
         for (size_t frame = 0; frame < sound[left].size(); ++frame) {
-            QCOMPARE(sound[left][frame], 0.0F);
+            QVERIFY(sound[left][frame] == 0.0F);
         }
         QVERIFY(std::abs(component(sound[left + 1], 1000, 0, 4800)) > 0);
     }
@@ -173,7 +177,7 @@ void TestChain::defeatIsBitExact() {
     const Sound sound = render(state, signal);
     for (size_t output = 0; output < outputCount; ++output) {
         for (size_t frame = 0; frame < sound[output].size(); ++frame) {
-            QCOMPARE(sound[output][frame], signal[frame * stereo + output % stereo]);
+            QVERIFY(sound[output][frame] == signal[frame * stereo + output % stereo]);
         }
     }
 }

@@ -1,5 +1,6 @@
 // A change of any control under a steady low tone must not be heard far above the tone.
 
+#include "changesofcontrols.h"
 #include "rendering.h"
 
 #include "headunit/audio/engine/filterdesign.h"
@@ -46,7 +47,7 @@ double residual(const std::vector<float> &samples, double amplitude) {
     return toDecibels(highest / amplitude);
 }
 
-double worstResidual(const SoundState &before, const SoundState &after) {
+double worstResidual(const SoundState &before, const SoundState &after, Input input = MainInput) {
     constexpr double amplitude = 0.2;
     double worst = -1000;
     for (const double hz : tones) {
@@ -54,7 +55,7 @@ double worstResidual(const SoundState &before, const SoundState &after) {
         for (const auto &[from, to] : {std::pair(before, after), std::pair(after, before)}) {
             // At a crest, where a jump is largest.
             const size_t crest = changeAt + static_cast<size_t>(std::lround(sampleRate / hz / 4));
-            const Sound sound = render(from, signal, {{crest, to}});
+            const Sound sound = render(from, signal, {{crest, to}}, {}, input);
             for (const auto &samples : sound) {
                 worst = std::max(worst, residual(samples, amplitude));
             }
@@ -65,14 +66,16 @@ double worstResidual(const SoundState &before, const SoundState &after) {
 
 }  // namespace
 
-Q_DECLARE_METATYPE(headunit::SoundState)
-
 class TestClicks : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void steadyToneIsSilentAbove();
     void change_data();
     void change();
+    void changeDuringAChange_data() { change_data(); }
+    void changeDuringAChange();
+    void changeIsOverInTime_data() { change_data(); }
+    void changeIsOverInTime();
 };
 
 void TestClicks::steadyToneIsSilentAbove() {
@@ -82,130 +85,51 @@ void TestClicks::steadyToneIsSilentAbove() {
 }
 
 void TestClicks::change_data() {
-    QTest::addColumn<SoundState>("before");
-    QTest::addColumn<SoundState>("after");
-    QTest::addColumn<double>("goal");
-    constexpr double any = -90;
-    constexpr double oneDecibel = -110;
-    const auto row = [](const char *name, double goal, auto change, auto prepare) {
-        SoundState before = neutral();
-        before.delay = {3, 17, 41, 68, 99, 5};  // what changes before a delay comes out later
-        prepare(before);
-        SoundState after = before;
-        change(after);
-        QTest::newRow(name) << before << after << goal;
-    };
-    using S = SoundState &;
-    const auto nothing = [](S) {};
-    row(
-        "source gain, 1 dB", oneDecibel, [](S s) { s.sourceGain[0] = 11; }, nothing);
-    row(
-        "source gain, 20 dB", any, [](S s) { s.sourceGain[0] = 20; }, [](S s) { s.sourceGain[0] = 0; });
-    row(
-        "volume, 1.5 dB", any, [](S s) { s.channelLevel[0] = 39; }, nothing);
-    row(
-        "volume to nothing", any, [](S s) { s.channelLevel[0] = 0; }, nothing);
-    row(
-        "mute", any, [](S s) { s.muted = true; }, nothing);
-    row(
-        "balance, a step", any, [](S s) { s.balance = 1; }, nothing);
-    row(
-        "balance, all the way", any, [](S s) { s.balance = 15; }, [](S s) { s.balance = -15; });
-    row(
-        "fader, all the way", any, [](S s) { s.fader = 15; }, [](S s) { s.fader = -15; });
-    row(
-        "crossover level, 1 dB", oneDecibel, [](S s) { s.front.level = s.rear.level = s.subwoofer.level = 11; },
-        nothing);
-    row(
-        "crossover level, 12 dB", any, [](S s) { s.front.level = 0; }, nothing);
-    row(
-        "subwoofer off", any, [](S s) { s.subwooferLevel = 0; }, nothing);
-    row(
-        "subwoofer level", any, [](S s) { s.subwooferLevel = 15; }, [](S s) { s.subwooferLevel = 1; });
-    row(
-        "subwoofer phase", any, [](S s) { s.subwooferPhase = 1; }, nothing);
-    row(
-        "loudness", any, [](S s) { s.loudness = true; }, [](S s) { s.channelLevel[0] = 16; });
-    row(
-        "volume under loudness", any, [](S s) { s.channelLevel[0] = 30; },
-        [](S s) {
-            s.channelLevel[0] = 29;
-            s.loudness = true;
-        });
-    row(
-        "delay, a step", any, [](S s) { s.delay[0] = 4; }, nothing);
-    row(
-        "delay, all the way", any, [](S s) { s.delay.fill(99); }, [](S s) { s.delay.fill(0); });
-    row(
-        "high-pass on", any,
-        [](S s) {
-            s.front = {4, 3, 12};
-        },
-        nothing);
-    row(
-        "high-pass frequency", any, [](S s) { s.front.freq = 11; },
-        [](S s) {
-            s.front = {1, 3, 12};
-        });
-    row(
-        "high-pass slope", any, [](S s) { s.rear.slope = 3; },
-        [](S s) {
-            s.rear = {5, 1, 12};
-        });
-    row(
-        "low-pass on", any,
-        [](S s) {
-            s.subwoofer = {5, 3, 12};
-        },
-        nothing);
-    row(
-        "low-pass frequency", any, [](S s) { s.subwoofer.freq = 5; },
-        [](S s) {
-            s.subwoofer = {1, 2, 12};
-        });
-    row(
-        "low-pass slope", any, [](S s) { s.subwoofer.slope = 3; },
-        [](S s) {
-            s.subwoofer = {2, 1, 12};
-        });
-    row(
-        "factory curve", any, [](S s) { s.eqType = 3; }, [](S s) { s.eqType = 8; });
-    row(
-        "Flat", any, [](S s) { s.eqType = 0; }, [](S s) { s.eqType = 5; });
-    row(
-        "all bands from one end to the other", any, [](S s) { s.customEq.fill(24); },
-        [](S s) {
-            s.customEq.fill(0);
-            s.channelLevel[0] = 30;
-        });
-    row(
-        "Defeat", any, [](S s) { s.defeat = true; },
-        [](S s) {
-            s.eqType = 7;
-            s.front = {4, 2, 9};
-            s.balance = 6;
-        });
-    for (size_t band = 0; band < bandCount; ++band) {
-        row(
-            qPrintable(QStringLiteral("band %1 Hz, 1 dB").arg(bandFrequencies[band])), oneDecibel,
-            [band](S s) { s.customEq[band] = 13; }, nothing);
-        row(
-            qPrintable(QStringLiteral("band %1 Hz, 24 dB").arg(bandFrequencies[band])), any,
-            [band](S s) { s.customEq[band] = 24; },
-            [band](S s) {
-                s.customEq[band] = 0;
-                s.channelLevel[0] = 32;
-            });
-    }
+    addChangesOfControls();
 }
 
 void TestClicks::change() {
     QFETCH(SoundState, before);
     QFETCH(SoundState, after);
     QFETCH(double, goal);
-    const double worst = worstResidual(before, after);
+    QFETCH(Input, input);
+    QVERIFY(before != after);
+    const double worst = worstResidual(before, after, input);
     qInfo("%s: %.1f dB", QTest::currentDataTag(), worst);
     QVERIFY(worst <= goal);
+}
+
+/// Back again in the middle of the way
+void TestClicks::changeDuringAChange() {
+    QFETCH(SoundState, before);
+    QFETCH(SoundState, after);
+    QFETCH(double, goal);
+    QFETCH(Input, input);
+    constexpr double amplitude = 0.2;
+    const Stereo signal = tone(tones[0], frames, amplitude);
+    const size_t middle = changeAt + Engine::fadeSamples / 2;
+    for (const auto &samples : render(before, signal, {{changeAt, after}, {middle, before}}, {}, input)) {
+        QVERIFY(residual(samples, amplitude) <= goal);
+    }
+}
+
+/// What comes in 50 ms after a change sounds as if the settings had never been others, bit for bit, even if another
+/// change was just under way.
+void TestClicks::changeIsOverInTime() {
+    QFETCH(SoundState, before);
+    QFETCH(SoundState, after);
+    QFETCH(Input, input);
+    constexpr size_t first = 100;
+    constexpr size_t transition = static_cast<size_t>(0.05 * sampleRate);
+    Stereo signal((first + 1 + transition) * stereo);
+    const Stereo heard = noise(2000);
+    signal.insert(signal.end(), heard.begin(), heard.end());
+    for (const auto &[from, to] : {std::pair(before, after), std::pair(after, before)}) {
+        SoundState between = from;
+        between.balance = -from.balance - 2;
+        QVERIFY(render(from, signal, {{first, between}, {first + 1, to}}, {}, input) ==
+                render(to, signal, {}, {}, input));
+    }
 }
 
 QTEST_APPLESS_MAIN(TestClicks)

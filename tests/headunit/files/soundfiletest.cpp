@@ -11,10 +11,14 @@ void write(const std::string &path, const SoundFile &file) {
     SF_INFO info{};
     info.samplerate = file.sampleRate;
     info.channels = file.channels;
-    info.format = SF_FORMAT_WAV | SF_FORMAT_FLOAT;
+    info.format = (file.channelMap.empty() ? SF_FORMAT_WAV : SF_FORMAT_WAVEX) | SF_FORMAT_FLOAT;
     SNDFILE *const handle = sf_open(path.c_str(), SFM_WRITE, &info);
     if (!handle) {
         throw std::runtime_error(sf_strerror(nullptr));
+    }
+    if (!file.channelMap.empty()) {
+        std::vector<int> map = file.channelMap;
+        sf_command(handle, SFC_SET_CHANNEL_MAP_INFO, map.data(), static_cast<int>(map.size() * sizeof(int)));
     }
     sf_write_float(handle, file.samples.data(), static_cast<sf_count_t>(file.samples.size()));
     sf_close(handle);

@@ -10,7 +10,7 @@ struct SoundFile {
     int sampleRate = 0;
     int channels = 0;
     std::vector<float> samples;
-    std::vector<int> channelMap;
+    std::vector<int> channelMap;  ///< none if empty
 };
 
 /// Writes a file of 32-bit floats (WAV).

@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace headunit;
 using soundfiletest::SoundFile;
 
@@ -16,9 +18,11 @@ class TestRender : public QObject {
 private Q_SLOTS:
     void sameAsTheEngine_data();
     void sameAsTheEngine();
+    void loudUpToTheEnd();
     void sameFileEveryTime();
     void saysHowLoudItBecame();
     void whatCannotBePlayedLeavesNothing();
+    void whatCannotBeWrittenIsSaid();
 
 private:
     std::string path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)).toStdString(); }
@@ -44,11 +48,18 @@ SoundState busy() {
     return state;
 }
 
-SoundFile noise(size_t frames) {
+/// Beyond full scale, so that the limiter looks ahead at what comes.
+SoundState loud() {
+    SoundState state = rendering::neutral();
+    state.sourceGain[0] = 20;
+    return state;
+}
+
+SoundFile noise(size_t frames, float amplitude = 0.25F) {
     SoundFile file;
     file.sampleRate = 48000;
     file.channels = 2;
-    file.samples = rendering::noise(frames);
+    file.samples = rendering::noise(frames, amplitude);
     return file;
 }
 
@@ -72,7 +83,22 @@ void TestRender::sameAsTheEngine() {
     QCOMPARE(out.channels, 6);
     QCOMPARE(out.samples.size(), static_cast<size_t>(frames) * 6);
     for (size_t i = 0; i < out.samples.size(); ++i) {
-        QCOMPARE(out.samples[i], expected[i % 6][i / 6]);
+        QVERIFY(out.samples[i] == expected[i % 6][i / 6]);
+    }
+}
+
+/// Behind the end comes silence, whatever was there before in the block.
+void TestRender::loudUpToTheEnd() {
+    for (const size_t frames : {1000, 4096, 6000}) {
+        SoundFile in = noise(frames, 1);
+        std::fill(in.samples.end() - 1000, in.samples.end(), 0.1F);
+        soundfiletest::write(path("in.wav"), in);
+        QVERIFY(renderFile(path("in.wav"), path("out.wav"), loud(), &m_error));
+        const SoundFile out = soundfiletest::read(path("out.wav"));
+        const rendering::Sound expected = rendering::render(loud(), in.samples);
+        for (size_t i = 0; i < out.samples.size(); ++i) {
+            QVERIFY(out.samples[i] == expected[i % 6][i / 6]);
+        }
     }
 }
 
@@ -112,6 +138,15 @@ void TestRender::whatCannotBePlayedLeavesNothing() {
     QVERIFY(!renderFile(path("missing.wav"), out, busy(), &m_meters, &m_error));
     QVERIFY(m_error.find(path("missing.wav")) == 0);
     QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+void TestRender::whatCannotBeWrittenIsSaid() {
+    soundfiletest::write(path("in.wav"), noise(100));
+    for (const std::string &out : {m_folder.path().toStdString(), path("in.wav") + "/out.wav"}) {
+        m_error.clear();
+        QVERIFY(!renderFile(path("in.wav"), out, busy(), &m_error));
+        QVERIFY(m_error.find(out + ": ") == 0);
+    }
 }
 
 QTEST_APPLESS_MAIN(TestRender)

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void whatIsNoFileStays_data();
     void whatIsNoFileStays();
     void noSuchFolder();
+    void nameOfAFolder();
     void diskFull_data();
     void diskFull();
 
@@ -60,9 +61,9 @@ void TestSoundWriter::sixNamedChannels() {
     QFile raw(file());
     QVERIFY(raw.open(QIODevice::ReadOnly));
     const QByteArray head = raw.read(300);
-    QVERIFY(head.startsWith("RIFF"));  // what every player knows, as long as it fits
-    const int peak = head.indexOf("PEAK");
-    QVERIFY(peak < 0 || head.mid(peak + 12, 4) == QByteArray(4, '\0'));  // no time of day
+    QVERIFY(head.startsWith("RIFF"));               // what every player knows, as long as it fits
+    QCOMPARE(head.mid(12, 4), QByteArray("JUNK"));  // room for the sizes of a file that has grown beyond 4 GiB
+    QVERIFY(!head.contains("PEAK"));                // no time of day
 }
 
 void TestSoundWriter::nothingStandsThereBeforeTheEnd() {
@@ -130,6 +131,16 @@ void TestSoundWriter::noSuchFolder() {
     const std::string path = file().toStdString() + "/below/a/file.wav";
     QVERIFY(!writer.open(path, &m_error));
     QVERIFY(m_error.find(path + ": ") == 0);
+}
+
+/// Which shows only at the very end
+void TestSoundWriter::nameOfAFolder() {
+    QVERIFY(QDir().mkdir(file()));
+    SoundWriter writer;
+    QVERIFY(writer.open(file().toStdString(), &m_error) && writer.write(m_samples.data(), 10000, &m_error));
+    QVERIFY(!writer.finish(&m_error));
+    QVERIFY(m_error.find(file().toStdString() + ": ") == 0);
+    QCOMPARE(files(), QStringList());
 }
 
 void TestSoundWriter::diskFull_data() {
