@@ -93,7 +93,7 @@ void TestRender::loudUpToTheEnd() {
         SoundFile in = noise(frames, 1);
         std::fill(in.samples.end() - 1000, in.samples.end(), 0.1F);
         soundfiletest::write(path("in.wav"), in);
-        QVERIFY(renderFile(path("in.wav"), path("out.wav"), loud(), &m_error));
+        QVERIFY(renderFile(path("in.wav"), path("out.wav"), loud(), &m_meters, &m_error));
         const SoundFile out = soundfiletest::read(path("out.wav"));
         const rendering::Sound expected = rendering::render(loud(), in.samples);
         for (size_t i = 0; i < out.samples.size(); ++i) {
@@ -144,7 +144,7 @@ void TestRender::whatCannotBeWrittenIsSaid() {
     soundfiletest::write(path("in.wav"), noise(100));
     for (const std::string &out : {m_folder.path().toStdString(), path("in.wav") + "/out.wav"}) {
         m_error.clear();
-        QVERIFY(!renderFile(path("in.wav"), out, busy(), &m_error));
+        QVERIFY(!renderFile(path("in.wav"), out, busy(), &m_meters, &m_error));
         QVERIFY(m_error.find(out + ": ") == 0);
     }
 }

@@ -28,7 +28,7 @@ private Q_SLOTS:
     void whatIsNoFileStays_data();
     void whatIsNoFileStays();
     void noSuchFolder();
-    void nameOfAFolder();
+    void nameThatWasTakenMeanwhile();
     void diskFull_data();
     void diskFull();
 
@@ -134,10 +134,10 @@ void TestSoundWriter::noSuchFolder() {
 }
 
 /// Which shows only at the very end
-void TestSoundWriter::nameOfAFolder() {
-    QVERIFY(QDir().mkdir(file()));
+void TestSoundWriter::nameThatWasTakenMeanwhile() {
     SoundWriter writer;
     QVERIFY(writer.open(file().toStdString(), &m_error) && writer.write(m_samples.data(), 10000, &m_error));
+    QVERIFY(QDir().mkdir(file()));
     QVERIFY(!writer.finish(&m_error));
     QVERIFY(m_error.find(file().toStdString() + ": ") == 0);
     QCOMPARE(files(), QStringList());

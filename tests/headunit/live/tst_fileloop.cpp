@@ -65,7 +65,7 @@ void TestFileLoop::repeatsWithoutAGap() {
         QVERIFY(loop.open(write(frames), &m_error));
         const std::vector<float> heard = take(loop, 2 * frames + 50);
         for (size_t i = 0; i < heard.size(); ++i) {
-            QCOMPARE(heard[i], m_samples[i % m_samples.size()]);
+            QVERIFY(heard[i] == m_samples[i % m_samples.size()]);
         }
     }
 }
@@ -88,7 +88,7 @@ void TestFileLoop::shortFileIsKept() {
     std::vector<float> piece(2 * 100000);
     loop.fill(piece.data(), 100000);
     for (size_t i = 0; i < piece.size(); ++i) {
-        QCOMPARE(piece[i], m_samples[i % m_samples.size()]);
+        QVERIFY(piece[i] == m_samples[i % m_samples.size()]);
     }
 }
 

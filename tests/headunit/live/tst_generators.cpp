@@ -123,8 +123,8 @@ void TestGenerators::chimesDifferAndEnd() {
 void TestGenerators::foldDownKeepsSides() {
     std::vector<float> samples = {1, -1, 1, -1, 1, -1, 0.3F, 0, 0, 0, 0, 0.6F};
     foldDown(samples.data(), 2);
-    QCOMPARE(samples[0], 1.0F);
-    QCOMPARE(samples[1], -1.0F);
+    QVERIFY(samples[0] == 1.0F);
+    QVERIFY(samples[1] == -1.0F);
     QCOMPARE(samples[2], 0.1F);
     QCOMPARE(samples[3], 0.2F);
 }
