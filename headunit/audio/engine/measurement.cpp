@@ -69,10 +69,9 @@ std::array<int, outputCount> measureArrival(const SoundState &state) {
     return arrival;
 }
 
-std::vector<double> audibleFrequencies() {
+std::vector<double> audibleFrequencies(int pointsPerOctave) {
     constexpr double lowest = 20;
     constexpr double highest = 20000;
-    constexpr int pointsPerOctave = 24;
     std::vector<double> frequencies;
     for (int i = 0;; ++i) {
         const double hz = lowest * std::pow(2, static_cast<double>(i) / pointsPerOctave);

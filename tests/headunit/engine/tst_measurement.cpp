@@ -106,7 +106,7 @@ void TestMeasurement::arrival() {
 }
 
 void TestMeasurement::frequencies() {
-    const std::vector<double> list = audibleFrequencies();
+    const std::vector<double> list = audibleFrequencies(24);
     constexpr size_t perOctave = 24;
     QVERIFY(list.front() == 20.0);
     QVERIFY(list.back() <= 20000 && list.back() > 20000 / std::pow(2, 1.0 / perOctave));
