@@ -96,7 +96,7 @@ DiskResult writeFileDurably(const QString &path, const QByteArray &bytes) {
         return lastError();
     }
     if (!writeAll(file.get(), bytes) || fsync(file.get()) != 0) {
-        const DiskResult result = lastError();
+        DiskResult result = lastError();
         unlink(name.constData());
         return result;
     }

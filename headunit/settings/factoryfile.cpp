@@ -11,7 +11,7 @@ namespace headunit {
 
 namespace {
 
-constexpr qint64 sizeLimit = 256 * 1024;
+constexpr qint64 sizeLimit = qint64(256) * 1024;
 
 QVariant factoryValue(const QString &text) {
     if (text == QLatin1String("true") || text == QLatin1String("false")) {

@@ -8,7 +8,7 @@ namespace headunit {
 
 namespace {
 
-constexpr qint64 sizeLimit = 4 * 1024 * 1024;
+constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
 constexpr int asideLimit = 1000;
 
 }  // namespace

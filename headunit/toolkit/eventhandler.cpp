@@ -2,11 +2,15 @@
 
 #include "srcdsplctrl.h"
 
-struct EventHandler::Private {};
+struct EventHandler::Private {
+    SrcDsplCtrl control;
+};
 
-EventHandler::EventHandler() : d(nullptr) {}
+EventHandler::EventHandler() : d(new Private) {}
 
-EventHandler::~EventHandler() = default;
+EventHandler::~EventHandler() {
+    delete d;
+}
 
 EventHandler *EventHandler::instance() {
     static EventHandler handler;
@@ -14,6 +18,5 @@ EventHandler *EventHandler::instance() {
 }
 
 SrcDsplCtrl *EventHandler::control() {
-    static SrcDsplCtrl controller;
-    return &controller;
+    return &d->control;
 }

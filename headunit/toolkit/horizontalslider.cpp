@@ -26,7 +26,8 @@ struct HorizontalSlider::Private : public QObject {
 
     int valueAt(int x) const {
         const int way = travel();
-        const int step = way > 0 ? qRound(double(x - knobWidth() / 2) * lastIndex() / way) : 0;
+        const int fromFirst = x - knobWidth() / 2;
+        const int step = way > 0 ? qRound(double(fromFirst) * lastIndex() / way) : 0;
         return min + qBound(0, step, lastIndex());
     }
 
@@ -180,7 +181,8 @@ void HorizontalSlider::paintEvent(QPaintEvent *) {
         }
         const qreal ratio = track.devicePixelRatioF();
         const int trackHeight = headunit::pictureSize(track).height();
-        painter.drawPixmap(QRectF(from, (height() - trackHeight) / 2, to - from, trackHeight), track,
+        const int top = (height() - trackHeight) / 2;  // on a whole pixel
+        painter.drawPixmap(QRectF(from, top, to - from, trackHeight), track,
                            QRectF(from * ratio, 0, (to - from) * ratio, trackHeight * ratio));
     };
     drawTrack(d->filledTrack, 0, edge);

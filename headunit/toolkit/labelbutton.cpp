@@ -12,6 +12,11 @@ namespace {
 
 const int stateCount = LabelButton::Disabled + 1;
 
+/// Applications come in binary form, so any number may be meant to be a state.
+bool exists(int state) {
+    return state >= 0 && state < stateCount;
+}
+
 }  // namespace
 
 struct LabelButton::Private : public QObject {
@@ -66,7 +71,7 @@ LabelButton::~LabelButton() {
 }
 
 void LabelButton::setIcon(IconStateID state, const QUrl &picture) {
-    if (state < 0 || state >= stateCount || d->pictures[state].url == picture) {
+    if (!exists(state) || d->pictures[state].url == picture) {
         return;
     }
     d->pictures[state] = Private::Picture{picture, QPixmap(), false};
@@ -74,7 +79,7 @@ void LabelButton::setIcon(IconStateID state, const QUrl &picture) {
 }
 
 QUrl LabelButton::icon(IconStateID state) const {
-    return state >= 0 && state < stateCount ? d->pictures[state].url : QUrl();
+    return exists(state) ? d->pictures[state].url : QUrl();
 }
 
 void LabelButton::setGroupId(int id) {

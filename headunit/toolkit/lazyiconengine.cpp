@@ -128,5 +128,5 @@ QIconEngine *LazyIconEnginePlugin::create(const QString &) {
 
 }  // namespace headunit
 
-using headunit::LazyIconEnginePlugin;
+using headunit::LazyIconEnginePlugin;  // NOLINT(misc-unused-using-decls): the macro names it
 Q_IMPORT_PLUGIN(LazyIconEnginePlugin)

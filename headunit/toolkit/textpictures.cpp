@@ -20,20 +20,17 @@ void TextPictures::draw(QPainter *painter, const QRect &rect, int flags, const Q
         return;
     }
     const Key key{text, painter->font(), colour.rgba(), rect.size(), flags, painter->device()->devicePixelRatioF()};
-    const Picture *picture = m_pictures.object(key);
-    if (!picture) {
-        auto *rendered = new Picture(render(key));
-        const QSize size = rendered->pixmap.size();
-        const int bytes = size.width() * size.height() * 4;
-        if (bytes > maxBytes || bytes == 0) {
-            painter->drawPixmap(rect.topLeft() + rendered->offset, rendered->pixmap);
-            delete rendered;
-            return;
-        }
-        m_pictures.insert(key, rendered, bytes);
-        picture = rendered;
+    if (const Picture *const known = m_pictures.object(key)) {
+        painter->drawPixmap(rect.topLeft() + known->offset, known->pixmap);
+        return;
     }
-    painter->drawPixmap(rect.topLeft() + picture->offset, picture->pixmap);
+    const Picture rendered = render(key);
+    painter->drawPixmap(rect.topLeft() + rendered.offset, rendered.pixmap);
+    const QSize size = rendered.pixmap.size();
+    const int bytes = size.width() * size.height() * 4;
+    if (bytes > 0 && bytes <= maxBytes) {
+        m_pictures.insert(key, new Picture(rendered), bytes);
+    }
 }
 
 TextPictures::Picture TextPictures::render(const Key &key) const {

@@ -47,7 +47,7 @@ QString TextTables::text(int id) {
 
 QString TextTables::translate(const char *context, const char *source, const char *disambiguation, int n) const {
     for (const Table *table : {&m_ids, &m_forms, &m_english}) {
-        const QString text = *table ? (*table)->translate(context, source, disambiguation, n) : QString();
+        QString text = *table ? (*table)->translate(context, source, disambiguation, n) : QString();
         if (!text.isNull()) {
             return text;
         }
