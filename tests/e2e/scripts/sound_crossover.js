@@ -48,30 +48,49 @@ use("key_crossover");
         });
     });
     var last = row[3][row[3].length - 1];
-    [2, 3].forEach(function (slope) {
-        use("key_slope_plus");
+    [["plus", 2], ["plus", 3], ["minus", 2], ["minus", 1]].forEach(function (step) {
+        use("key_slope_" + step[0]);
         var hz = row[2] ? last / 2 : last * 2;
-        hears(row[0] + " slope " + slope, hz, withPair(row[1], filtered(hz, last, slope, row[2])));
+        hears(row[0] + " slope " + step[1], hz, withPair(row[1], filtered(hz, last, step[1], row[2])));
     });
     for (var level = -1; level >= -12; --level) {
         use("key_level_minus");
-        hears(row[0] + " level " + level, last, withPair(row[1], level + filtered(last, last, 3, row[2])));
+        hears(row[0] + " level " + level, last, withPair(row[1], level + filtered(last, last, 1, row[2])));
     }
+    for (level = -11; level <= 0; ++level) {
+        use("key_level_plus");
+        hears(row[0] + " level " + level, last, withPair(row[1], level + filtered(last, last, 1, row[2])));
+    }
+    row[3].slice(0, -1).reverse().forEach(function (cutOff) {
+        use("key_freq_minus");
+        hears(row[0] + " down to " + cutOff + " Hz", cutOff, withPair(row[1], filtered(cutOff, cutOff, 1, row[2])));
+    });
+    use("key_freq_minus");
+    hears(row[0] + " off", last, flat);
+    use("key_freq_plus");
     use("Key_update");
     hears(row[0] + " after Flat", last, flat);
 });
 
-// A preset
+// The presets
+function keep(preset) {
+    press(preset);
+    wait(1600);
+    release();
+}
+
 use("key_front");
 use("key_freq_plus");
 use("key_freq_plus");
-press("key_preset_1");
-wait(1600);
-release();
+keep("key_preset_1");
+use("key_freq_plus");
+keep("key_preset_2");
 use("Key_update");
 hears("Flat", 40, flat);
 use("key_preset_1");
-hears("preset", 40, withPair(0, filtered(40, 40, 1, true)));
+hears("preset 1", 40, withPair(0, filtered(40, 40, 1, true)));
+use("key_preset_2");
+hears("preset 2", 63, withPair(0, filtered(63, 63, 1, true)));
 use("Key_update");
 
 // Delays: 48 samples a millisecond, each loudspeaker on its own.
@@ -101,16 +120,23 @@ release();
 steps[1] = 99;
 arrives("the longest");
 hears("delayed", 100, flat);
-press("key_preset_2");
-wait(1600);
-release();
+keep("key_preset_2");
 var kept = steps;
 use("Key_update");
 steps = [0, 0, 0, 0, 0, 0];
 arrives("Flat");
+use("key_sl_plus");
+steps = [0, 0, 0, 0, 1, 0];
+keep("key_preset_1");
 use("key_preset_2");
 steps = kept;
-arrives("preset");
+arrives("preset 2");
+use("key_preset_1");
+steps = [0, 0, 0, 0, 1, 0];
+arrives("preset 1");
+use("key_preset_2");
+steps = kept;
+arrives("preset 2 again");
 
 // Defeat takes delays and high-passes away, not what protects the subwoofer.
 function lowPassed(front) {
