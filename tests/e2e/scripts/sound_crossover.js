@@ -37,9 +37,9 @@ use("key_Subwoofer");
 hears("flat", 100, flat);
 
 use("key_crossover");
-[["key_front", 0, true, [25, 40, 63, 80, 100, 160, 250, 500, 1000, 3500, 5000]],
- ["key_rear", 2, true, [25, 40, 63, 100, 250]],
- ["key_sub", 4, false, [25, 40, 63, 100, 250]]].forEach(function (row) {
+var filters = [["key_front", 0, true, [25, 40, 63, 80, 100, 160, 250, 500, 1000, 3500, 5000]],
+               ["key_rear", 2, true, [25, 40, 63, 100, 250]], ["key_sub", 4, false, [25, 40, 63, 100, 250]]];
+filters.forEach(function (row) {
     use(row[0]);
     row[3].forEach(function (cutOff) {
         use("key_freq_plus");
@@ -72,25 +72,45 @@ use("key_crossover");
     hears(row[0] + " after Flat", last, flat);
 });
 
-// The presets
 function keep(preset) {
     press(preset);
     wait(1600);
     release();
 }
 
-use("key_front");
-use("key_freq_plus");
-use("key_freq_plus");
-keep("key_preset_1");
-use("key_freq_plus");
-keep("key_preset_2");
-use("Key_update");
-hears("Flat", 40, flat);
-use("key_preset_1");
-hears("preset 1", 40, withPair(0, filtered(40, 40, 1, true)));
-use("key_preset_2");
-hears("preset 2", 63, withPair(0, filtered(63, 63, 1, true)));
+// Each preset keeps frequency, slope and level of all three filters: steps that differ from one to the next.
+function stepsOf(preset, place) {
+    return {freq: preset + place, slope: (preset + place) % 3, level: 2 * preset + place};
+}
+
+[1, 2].forEach(function (preset) {
+    filters.forEach(function (row, place) {
+        use(row[0]);
+        var count = stepsOf(preset, place);
+        for (var i = 0; i < count.freq; ++i) {
+            use("key_freq_plus");
+        }
+        for (i = 0; i < count.slope; ++i) {
+            use("key_slope_plus");
+        }
+        for (i = 0; i < count.level; ++i) {
+            use("key_level_minus");
+        }
+    });
+    keep("key_preset_" + preset);
+    use("Key_update");
+    hears("Flat", 40, flat);
+});
+[2, 1].forEach(function (preset) {
+    use("key_preset_" + preset);
+    [30, 60, 120].forEach(function (hz) {
+        hears("preset " + preset, hz, flat.map(function (db, i) {
+            var row = filters[Math.floor(i / 2)];
+            var count = stepsOf(preset, Math.floor(i / 2));
+            return db - count.level + filtered(hz, row[3][count.freq - 1], 1 + count.slope, row[2]);
+        }));
+    });
+});
 use("Key_update");
 
 // Delays: 48 samples a millisecond, each loudspeaker on its own.
@@ -148,7 +168,8 @@ function lowPassed(front) {
 
 use("key_crossover");
 use("key_front");
-use("key_preset_1");
+use("key_freq_plus");
+use("key_freq_plus");
 use("key_sub");
 use("key_freq_plus");
 var frontHigh = filtered(40, 40, 1, true);
