@@ -96,14 +96,18 @@ int restartWithoutDisplay(char **argv) {
     return refuse(QStringLiteral("the display does not answer"));
 }
 
-/// Qt wants a folder for the running session and prints a warning where nobody set one, as in a container.
-void provideRuntimeFolder() {
-    if (qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) {
-        const QByteArray folder =
-            QFile::encodeName(QDir::tempPath()) + "/headunit-runtime-" + QByteArray::number(getuid());
-        mkdir(folder.constData(), S_IRWXU);
-        qputenv("XDG_RUNTIME_DIR", folder);
+const char runtimeFolder[] = "XDG_RUNTIME_DIR";
+
+/// Qt wants a folder for the running session when it starts, and prints a warning where nobody set one, as in a
+/// container. Whether it had to be provided.
+bool provideRuntimeFolder() {
+    if (!qEnvironmentVariableIsEmpty(runtimeFolder)) {
+        return false;
     }
+    const QByteArray folder = QFile::encodeName(QDir::tempPath()) + "/headunit-runtime-" + QByteArray::number(getuid());
+    mkdir(folder.constData(), S_IRWXU);
+    qputenv(runtimeFolder, folder);
+    return true;
 }
 
 /// Why the files that the options name cannot be used, or an empty text.
@@ -217,11 +221,14 @@ int main(int argc, char **argv) {
     if (options.scale != 1) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
     }
-    provideRuntimeFolder();
+    const bool providedRuntimeFolder = provideRuntimeFolder();
     prepareUnitApplication();
     const bool virtualTime = options.scripted() && qgetenv("QT_QPA_PLATFORM") == offscreen;
     VirtualTime *const time = virtualTime ? new VirtualTime : nullptr;
     HostApplication application(argc, argv);
+    if (providedRuntimeFolder) {
+        qunsetenv(runtimeFolder);  // the sound server would be looked for in it, and in no other place
+    }
     if (displayFailed()) {
         return restartWithoutDisplay(argv);
     }

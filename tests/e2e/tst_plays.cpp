@@ -12,6 +12,7 @@ class TestPlays : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void playsLive();
+    void findsTheServerOfASessionWithoutAFolder();
     void saysHowLoudAFileBecame();
 
 private:
@@ -58,6 +59,21 @@ void TestPlays::playsLive() {
         }
     }
     QVERIFY2(steady(), qPrintable(lines.join('\n') + unit.readAllStandardError()));
+    unit.terminate();
+    QVERIFY(unit.waitForFinished(patience));
+    QCOMPARE(unit.readAllStandardError(), QByteArray());
+}
+
+void TestPlays::findsTheServerOfASessionWithoutAFolder() {
+    SoundServer server(m_folder, SoundServer::Socket::Usual);
+    QTRY_VERIFY_WITH_TIMEOUT(server.answers(), patience);
+    server.plugIn("car", SoundServer::sixChannels);
+    QProcess unit;
+    QProcessEnvironment environment = server.environment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    unit.setProcessEnvironment(environment);
+    unit.start(HEADUNIT, {"--root", m_folder.filePath("root")});
+    QTRY_COMPARE_WITH_TIMEOUT(server.streams(), QString("6ch on car"), patience);
     unit.terminate();
     QVERIFY(unit.waitForFinished(patience));
     QCOMPARE(unit.readAllStandardError(), QByteArray());

@@ -59,11 +59,12 @@ void Engine::mix(const Inputs &inputs, size_t offset, double *mixed, size_t fram
     }
 }
 
-void Engine::fadeInAtStart(double *out, size_t frames) {
+/// Behind the limiter, which would give back at once what the fade takes from a sound that is too loud.
+void Engine::fadeInAtStart(float *out, size_t frames) {
     const size_t fading = std::min(frames, m_powerUp.remaining());
     for (size_t frame = 0; frame < fading; ++frame) {
-        for (size_t output = 0; output < outputCount; ++output) {
-            out[frame * outputCount + output] *= m_powerUp.weights()[frame];
+        for (size_t i = frame * outputCount; i < (frame + 1) * outputCount; ++i) {
+            out[i] = static_cast<float>(static_cast<double>(out[i]) * m_powerUp.weights()[frame]);
         }
     }
     m_powerUp.advance(fading);
@@ -86,8 +87,8 @@ size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, siz
             m_chain.endFade();
         }
     }
-    fadeInAtStart(sound.data(), count);
     m_limiter.process(sound.data(), out, count);
+    fadeInAtStart(out, count);
     return count;
 }
 

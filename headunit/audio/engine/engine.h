@@ -39,7 +39,7 @@ private:
     void takeParameters();
     size_t processBlock(const Inputs &inputs, size_t offset, float *out, size_t frames);
     void mix(const Inputs &inputs, size_t offset, double *mixed, size_t frames) const;
-    void fadeInAtStart(double *out, size_t frames);
+    void fadeInAtStart(float *out, size_t frames);
 
     TripleBuffer<Parameters> m_parameters;
     bool m_started = false;

@@ -2,6 +2,7 @@
 
 #include "engine.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <numeric>
@@ -69,17 +70,16 @@ std::array<int, outputCount> measureArrival(const SoundState &state) {
     return arrival;
 }
 
-std::vector<double> audibleFrequencies(int pointsPerOctave) {
+std::vector<double> audibleFrequencies() {
     constexpr double lowest = 20;
     constexpr double highest = 20000;
+    const double ratio = std::pow(2, 1.0 / 24);
+    constexpr double widestStep = 25;  // the longest delay turns the phase by a quarter
     std::vector<double> frequencies;
-    for (int i = 0;; ++i) {
-        const double hz = lowest * std::pow(2, static_cast<double>(i) / pointsPerOctave);
-        if (hz > highest) {
-            return frequencies;
-        }
+    for (double hz = lowest; hz <= highest; hz = std::min(hz * ratio, hz + widestStep)) {
         frequencies.push_back(hz);
     }
+    return frequencies;
 }
 
 }  // namespace headunit::engine

@@ -27,7 +27,7 @@ std::vector<MeasuredPoint> measure(const SoundState &state, const std::vector<do
 /// After how many samples each output begins to answer to the main input; -1 if it stays silent.
 std::array<int, outputCount> measureArrival(const SoundState &state);
 
-/// From 20 Hz to 20 kHz, evenly over the octaves.
-std::vector<double> audibleFrequencies(int pointsPerOctave);
+/// From 20 Hz to 20 kHz, 24 an octave, but close enough to follow the phase of the longest delay.
+std::vector<double> audibleFrequencies();
 
 }  // namespace headunit::engine

@@ -37,15 +37,21 @@ bool renderFile(const std::string &in, const std::string &out, const SoundState 
 
     // The engine comes late: what it gives first is cut off, and as much silence is put in at the end.
     size_t early = Engine::latency;
+    bool nothingRead = true;
     for (bool ended = false; !ended;) {
-        size_t frames = reader.read(stereoBlock.data(), blockFrames);
+        const size_t frames = reader.read(stereoBlock.data(), blockFrames);
         ended = frames < blockFrames;
+        nothingRead = nothingRead && frames == 0;
         process(frames);
         const size_t cut = std::min(early, frames);
         early -= cut;
         if (!write(cut, frames)) {
             return false;
         }
+    }
+    if (nothingRead) {
+        *error = in + ": nothing can be read of the file";
+        return false;
     }
     // A file shorter than the latency has part of it still to be cut off.
     std::fill(stereoBlock.begin(), stereoBlock.end(), 0.0F);

@@ -168,8 +168,8 @@ bool SoundReader::open(const std::string &path, std::string *error) {
     constexpr int largestChannelCount = 64;
     d = std::make_unique<Private>();
     std::error_code unknown;
-    if (std::filesystem::is_fifo(path, unknown)) {
-        *error = path + ": a pipe cannot be played";  // opening it would wait for whoever writes
+    if (std::filesystem::exists(path, unknown) && !std::filesystem::is_regular_file(path, unknown)) {
+        *error = path + ": this is no file that could be played";  // a pipe or a device would wait for whoever writes
         return false;
     }
     SF_INFO info{};

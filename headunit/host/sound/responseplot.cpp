@@ -33,6 +33,7 @@ struct Diagram {
     double highest;
     double step;
     const char *unit;
+    bool wraps;  ///< what leaves the range at one end comes back at the other
 
     double x(double hz) const {
         return area.left() + area.width() * std::log(hz / lowestHz) / std::log(highestHz / lowestHz);
@@ -68,27 +69,34 @@ void paintGrid(QPainter &painter, const Diagram &diagram) {
     }
 }
 
-/// Silence, and where the phase jumps from one end of its range to the other, leave gaps.
+/// Silence leaves gaps.
 void paintCurve(QPainter &painter, const Diagram &diagram, const std::vector<engine::MeasuredPoint> &points,
                 size_t curve, double (*value)(std::complex<double>)) {
-    const double largestJump = (diagram.highest - diagram.lowest) / 2;
+    const double range = diagram.highest - diagram.lowest;
     QPainterPath path;
     bool drawing = false;
+    double xBefore = 0;
     double before = 0;
     for (const engine::MeasuredPoint &point : points) {
         const std::complex<double> there = response(point, curve);
-        const double now = value(there);
         if (std::norm(there) == 0) {
             drawing = false;
             continue;
         }
-        const QPointF position(diagram.x(point.hz), diagram.y(now));
-        if (drawing && std::abs(now - before) < largestJump) {
-            path.lineTo(position);
+        const double x = diagram.x(point.hz);
+        const double now = value(there);
+        if (drawing) {
+            const double wrapped = diagram.wraps ? std::round((now - before) / range) * range : 0;
+            path.lineTo(x, diagram.y(now - wrapped));
+            if (wrapped != 0) {
+                path.moveTo(xBefore, diagram.y(before + wrapped));
+                path.lineTo(x, diagram.y(now));
+            }
         } else {
-            path.moveTo(position);
+            path.moveTo(x, diagram.y(now));
         }
         drawing = true;
+        xBefore = x;
         before = now;
     }
     // Where curves coincide, the dashes of the later one show the earlier one through.
@@ -128,14 +136,14 @@ Diagram magnitudeDiagram(const std::vector<engine::MeasuredPoint> &points) {
         }
     }
     const double top = highest > -1000 ? std::ceil(highest / step + 0.5) * step : 0;
-    return {QRect(left, 70, right - left, 420), top - range, top, step, " dB"};
+    return {QRect(left, 70, right - left, 420), top - range, top, step, " dB", false};
 }
 
 }  // namespace
 
 QImage responsePlot(const std::vector<engine::MeasuredPoint> &points) {
     const Diagram magnitude = magnitudeDiagram(points);
-    const Diagram phase = {QRect(left, 560, right - left, 280), -180, 180, 90, "\u00B0"};
+    const Diagram phase = {QRect(left, 560, right - left, 280), -180, 180, 90, "\u00B0", true};
     QImage image(width, height, QImage::Format_RGB32);
     image.fill(colour::ground);
     QPainter painter(&image);

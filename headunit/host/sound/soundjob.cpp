@@ -31,11 +31,7 @@ QString measureInto(const QString &name) {
     if (!plotted && !name.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
         return QStringLiteral("--measure %1: the name must end in .csv or .png").arg(name);
     }
-    // A point for each pixel of a plot, where delays turn the phase many times within an octave.
-    constexpr int plottedPerOctave = 120;
-    constexpr int listedPerOctave = 24;
-    const auto points = engine::measure(SoundModel::instance().state(),
-                                        engine::audibleFrequencies(plotted ? plottedPerOctave : listedPerOctave));
+    const auto points = engine::measure(SoundModel::instance().state(), engine::audibleFrequencies());
     QSaveFile file(name);
     if (!file.open(QIODevice::WriteOnly)) {
         return QStringLiteral("%1: %2").arg(name, file.errorString());

@@ -37,9 +37,9 @@ use("key_Subwoofer");
 hears("flat", 100, flat);
 
 use("key_crossover");
-[["key_front", 0, true, [25, 40, 63, 80, 100, 160, 250, 500, 1000, 3500, 5000]],
- ["key_rear", 2, true, [25, 40, 63, 100, 250]],
- ["key_sub", 4, false, [25, 40, 63, 100, 250]]].forEach(function (row) {
+var filters = [["key_front", 0, true, [25, 40, 63, 80, 100, 160, 250, 500, 1000, 3500, 5000]],
+               ["key_rear", 2, true, [25, 40, 63, 100, 250]], ["key_sub", 4, false, [25, 40, 63, 100, 250]]];
+filters.forEach(function (row) {
     use(row[0]);
     row[3].forEach(function (cutOff) {
         use("key_freq_plus");
@@ -48,30 +48,69 @@ use("key_crossover");
         });
     });
     var last = row[3][row[3].length - 1];
-    [2, 3].forEach(function (slope) {
-        use("key_slope_plus");
+    [["plus", 2], ["plus", 3], ["minus", 2], ["minus", 1]].forEach(function (step) {
+        use("key_slope_" + step[0]);
         var hz = row[2] ? last / 2 : last * 2;
-        hears(row[0] + " slope " + slope, hz, withPair(row[1], filtered(hz, last, slope, row[2])));
+        hears(row[0] + " slope " + step[1], hz, withPair(row[1], filtered(hz, last, step[1], row[2])));
     });
     for (var level = -1; level >= -12; --level) {
         use("key_level_minus");
-        hears(row[0] + " level " + level, last, withPair(row[1], level + filtered(last, last, 3, row[2])));
+        hears(row[0] + " level " + level, last, withPair(row[1], level + filtered(last, last, 1, row[2])));
     }
+    for (level = -11; level <= 0; ++level) {
+        use("key_level_plus");
+        hears(row[0] + " level " + level, last, withPair(row[1], level + filtered(last, last, 1, row[2])));
+    }
+    row[3].slice(0, -1).reverse().forEach(function (cutOff) {
+        use("key_freq_minus");
+        hears(row[0] + " down to " + cutOff + " Hz", cutOff, withPair(row[1], filtered(cutOff, cutOff, 1, row[2])));
+    });
+    use("key_freq_minus");
+    hears(row[0] + " off", last, flat);
+    use("key_freq_plus");
     use("Key_update");
     hears(row[0] + " after Flat", last, flat);
 });
 
-// A preset
-use("key_front");
-use("key_freq_plus");
-use("key_freq_plus");
-press("key_preset_1");
-wait(1600);
-release();
-use("Key_update");
-hears("Flat", 40, flat);
-use("key_preset_1");
-hears("preset", 40, withPair(0, filtered(40, 40, 1, true)));
+function keep(preset) {
+    press(preset);
+    wait(1600);
+    release();
+}
+
+// Each preset keeps frequency, slope and level of all three filters: steps that differ from one to the next.
+function stepsOf(preset, place) {
+    return {freq: preset + place, slope: (preset + place) % 3, level: 2 * preset + place};
+}
+
+[1, 2].forEach(function (preset) {
+    filters.forEach(function (row, place) {
+        use(row[0]);
+        var count = stepsOf(preset, place);
+        for (var i = 0; i < count.freq; ++i) {
+            use("key_freq_plus");
+        }
+        for (i = 0; i < count.slope; ++i) {
+            use("key_slope_plus");
+        }
+        for (i = 0; i < count.level; ++i) {
+            use("key_level_minus");
+        }
+    });
+    keep("key_preset_" + preset);
+    use("Key_update");
+    hears("Flat", 40, flat);
+});
+[2, 1].forEach(function (preset) {
+    use("key_preset_" + preset);
+    [30, 60, 120].forEach(function (hz) {
+        hears("preset " + preset, hz, flat.map(function (db, i) {
+            var row = filters[Math.floor(i / 2)];
+            var count = stepsOf(preset, Math.floor(i / 2));
+            return db - count.level + filtered(hz, row[3][count.freq - 1], 1 + count.slope, row[2]);
+        }));
+    });
+});
 use("Key_update");
 
 // Delays: 48 samples a millisecond, each loudspeaker on its own.
@@ -101,16 +140,23 @@ release();
 steps[1] = 99;
 arrives("the longest");
 hears("delayed", 100, flat);
-press("key_preset_2");
-wait(1600);
-release();
+keep("key_preset_2");
 var kept = steps;
 use("Key_update");
 steps = [0, 0, 0, 0, 0, 0];
 arrives("Flat");
+use("key_sl_plus");
+steps = [0, 0, 0, 0, 1, 0];
+keep("key_preset_1");
 use("key_preset_2");
 steps = kept;
-arrives("preset");
+arrives("preset 2");
+use("key_preset_1");
+steps = [0, 0, 0, 0, 1, 0];
+arrives("preset 1");
+use("key_preset_2");
+steps = kept;
+arrives("preset 2 again");
 
 // Defeat takes delays and high-passes away, not what protects the subwoofer.
 function lowPassed(front) {
@@ -122,7 +168,8 @@ function lowPassed(front) {
 
 use("key_crossover");
 use("key_front");
-use("key_preset_1");
+use("key_freq_plus");
+use("key_freq_plus");
 use("key_sub");
 use("key_freq_plus");
 var frontHigh = filtered(40, 40, 1, true);

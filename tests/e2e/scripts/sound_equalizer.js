@@ -1,4 +1,4 @@
-// Every band of the equaliser, every factory curve, a slot and Flat, by finger, heard at the loudspeakers.
+// Every band of the equaliser, every factory curve, every slot and Flat, by finger, heard at the loudspeakers.
 var guard = 200;
 
 function use(place, y) {
@@ -46,41 +46,56 @@ Object.keys(curves).forEach(function (key) {
 use("Audiosetting_right_factoryeq_widget/key_flat");
 hearsCurve("factory Flat", flat);
 
-// The keys above and below each band's slider: columns of 68 pixels.
+// Each band by its slider to the lowest and to the highest level, then by the keys above and below it: columns of 68
+// pixels.
 use("key_eq");
 var gains = flat.slice();
 bands.forEach(function (hz, band) {
+    var x = 177 + 68 * band;
     var steps = 1 + band % 3;
+    press(x, 345);
+    wait(guard);
+    gains[band] = -12;
+    hearsCurve("slider of " + hz + " Hz down", gains);
+    release();
     for (var i = 0; i < steps; ++i) {
-        use(177 + 68 * band, band % 2 ? 416 : 156);
+        use(x, 156);
+        ++gains[band];
     }
-    gains[band] = band % 2 ? -steps : steps;
     wait(400);
-    var there = main + gains[band];
-    hears("band of " + hz + " Hz", hz, [there, there, there, there, -Infinity, -Infinity]);
+    hearsCurve("key above " + hz + " Hz", gains);
+    press(x, 300);
+    move(x, 205);
+    release();
+    wait(400);
+    gains[band] = 12;
+    hearsCurve("slider of " + hz + " Hz up", gains);
+    for (i = 0; i < 12 - (band % 2 ? -steps : steps); ++i) {
+        use(x, 416);
+        --gains[band];
+    }
+    wait(400);
+    hearsCurve("key below " + hz + " Hz", gains);
 });
-hearsCurve("all bands", gains);
 
-// By its slider to the lowest and to the highest level
-press(177, 345);
-wait(guard);
-hearsCurve("slider down", [-12].concat(gains.slice(1)));
-move(177, 205);
-release();
-wait(400);
-gains[0] = 12;
-hearsCurve("slider up", gains);
-
-// A slot keeps the curve; Flat and back.
-press("key_custom3");
-wait(1500);
-release();
+// Each slot keeps a curve of its own; Flat and back.
+var slots = [1, 2, 3, 4, 5].map(function (number) {
+    use(177 + 68 * number, 156);
+    ++gains[number];
+    wait(400);
+    press("key_custom" + number);
+    wait(1500);
+    release();
+    return gains.slice();
+});
 use("Audiosetting_right_eq_widget/key_flat");
 wait(400);
 hearsCurve("Flat", flat);
-use("key_custom3");
-wait(400);
-hearsCurve("slot", gains);
+slots.forEach(function (kept, i) {
+    use("key_custom" + (i + 1));
+    wait(400);
+    hearsCurve("slot " + (i + 1), kept);
+});
 
 // Defeat
 use("key_general");

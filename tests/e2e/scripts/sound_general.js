@@ -82,6 +82,11 @@ expect(Math.abs(heard(1000).db[2] - main) < 0.2);
 var bass = heard(50).db[0];
 expect(bass > main + 6 && bass < main + 12, "bass under loudness " + bass);
 expect(heard(10000).db[3] > main + 1);
+use("Key_001_loudness");
+[50, 1000, 10000].forEach(function (hz) {
+    hears("loudness off", hz, field(0, 0, 0, 0));
+});
+use("Key_001_loudness");
 use("key_return");
 
 // Defeat takes all that away but the subwoofer's own settings.

@@ -54,6 +54,7 @@ private Q_SLOTS:
     void changeIsOverIn50Milliseconds();
     void changesDuringAFadeAreTakenAfterIt();
     void fadesInAtPowerUp();
+    void fadesInHoweverLoud();
     void saysHowMuchItLimits();
     void damagedSamples();
     void damagedSamplesAreTamed();
@@ -194,6 +195,25 @@ void TestEngine::fadesInAtPowerUp() {
     }
     QVERIFY(half > 9000 && half < 10000);
     QVERIFY(whole > 18000 && whole <= 19200 + Engine::latency);
+}
+
+/// What the limiter holds at full scale fades in like everything else.
+void TestEngine::fadesInHoweverLoud() {
+    SoundState loud = neutral();
+    loud.sourceGain[0] = 20;
+    Engine engine(Engine::Start::FadedIn);
+    engine.setParameters(designParameters(loud));
+    const std::vector<float> out = process(engine, rendering::noise(24000, 1));
+    Fade fade(Engine::powerUpSamples);
+    fade.restart();
+    float highest = 0;
+    for (size_t i = 0; i < out.size(); ++i) {
+        const size_t frame = i / outputCount;
+        const double most = frame < Engine::powerUpSamples ? fade.weights()[frame] : 1;
+        QVERIFY(static_cast<double>(std::abs(out[i])) <= most + 1e-7);
+        highest = std::max(highest, std::abs(out[i]));
+    }
+    QVERIFY(highest > 0.99F);
 }
 
 void TestEngine::saysHowMuchItLimits() {

@@ -7,19 +7,35 @@
 
 namespace soundfiletest {
 
-void write(const std::string &path, const SoundFile &file) {
+namespace {
+
+SNDFILE *create(const std::string &path, const SoundFile &file, int format) {
     SF_INFO info{};
     info.samplerate = file.sampleRate;
     info.channels = file.channels;
-    info.format = (file.channelMap.empty() ? SF_FORMAT_WAV : SF_FORMAT_WAVEX) | SF_FORMAT_FLOAT;
+    info.format = format;
     SNDFILE *const handle = sf_open(path.c_str(), SFM_WRITE, &info);
     if (!handle) {
         throw std::runtime_error(sf_strerror(nullptr));
     }
+    return handle;
+}
+
+}  // namespace
+
+void write(const std::string &path, const SoundFile &file) {
+    const int container = file.channelMap.empty() ? SF_FORMAT_WAV : SF_FORMAT_WAVEX;
+    SNDFILE *const handle = create(path, file, container | SF_FORMAT_FLOAT);
     if (!file.channelMap.empty()) {
         std::vector<int> map = file.channelMap;
         sf_command(handle, SFC_SET_CHANNEL_MAP_INFO, map.data(), static_cast<int>(map.size() * sizeof(int)));
     }
+    sf_write_float(handle, file.samples.data(), static_cast<sf_count_t>(file.samples.size()));
+    sf_close(handle);
+}
+
+void writeCompressed(const std::string &path, const SoundFile &file) {
+    SNDFILE *const handle = create(path, file, SF_FORMAT_FLAC | SF_FORMAT_PCM_16);
     sf_write_float(handle, file.samples.data(), static_cast<sf_count_t>(file.samples.size()));
     sf_close(handle);
 }

@@ -15,6 +15,8 @@ struct SoundFile {
 
 /// Writes a file of 32-bit floats (WAV).
 void write(const std::string &path, const SoundFile &file);
+/// Writes a compressed one (FLAC); the channel map is left out.
+void writeCompressed(const std::string &path, const SoundFile &file);
 SoundFile read(const std::string &path);
 
 /// The same tone on all channels.

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void sameFileEveryTime();
     void saysHowLoudItBecame();
     void whatCannotBePlayedLeavesNothing();
+    void nothingCanBeReadOfIt();
     void whatCannotBeWrittenIsSaid();
 
 private:
@@ -137,6 +138,17 @@ void TestRender::whatCannotBePlayedLeavesNothing() {
     const std::string out = folder.filePath("out.wav").toStdString();
     QVERIFY(!renderFile(path("missing.wav"), out, busy(), &m_meters, &m_error));
     QVERIFY(m_error.find(path("missing.wav")) == 0);
+    QVERIFY(QDir(folder.path()).isEmpty());
+}
+
+/// Its header promises samples, but none of them comes.
+void TestRender::nothingCanBeReadOfIt() {
+    QTemporaryDir folder;
+    soundfiletest::writeCompressed(path("cut.flac"), noise(10000));
+    QVERIFY(QFile::resize(m_folder.filePath("cut.flac"), 1000));
+    const std::string out = folder.filePath("out.wav").toStdString();
+    QVERIFY(!renderFile(path("cut.flac"), out, busy(), &m_meters, &m_error));
+    QCOMPARE(m_error, path("cut.flac") + ": nothing can be read of the file");
     QVERIFY(QDir(folder.path()).isEmpty());
 }
 

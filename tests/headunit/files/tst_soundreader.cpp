@@ -32,7 +32,7 @@ private Q_SLOTS:
     void endsInTheMiddle();
     void refuses_data();
     void refuses();
-    void refusesAPipe();
+    void refusesWhatIsNoFile();
     void refusesWhatItCannotConvert();
 
 private:
@@ -225,13 +225,15 @@ void TestSoundReader::refuses() {
 }
 
 /// Without waiting for somebody who writes into it
-void TestSoundReader::refusesAPipe() {
+void TestSoundReader::refusesWhatIsNoFile() {
     const std::string pipe = path("pipe");
     QCOMPARE(mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
-    SoundReader reader;
-    std::string error;
-    QVERIFY(!reader.open(pipe, &error));
-    QCOMPARE(error, pipe + ": a pipe cannot be played");
+    for (const std::string &name : {pipe, m_folder.path().toStdString(), std::string("/dev/null")}) {
+        SoundReader reader;
+        std::string error;
+        QVERIFY(!reader.open(name, &error));
+        QCOMPARE(error, name + ": this is no file that could be played");
+    }
 }
 
 void TestSoundReader::refusesWhatItCannotConvert() {

@@ -8,21 +8,51 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cerrno>
 #include <csignal>
+#include <cstdarg>
 
+#include <fcntl.h>
 #include <sndfile.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 using headunit::SoundWriter;
+
+namespace {
+
+/// Stands for a file system on which every file has a name.
+bool onlyNamedFiles = false;
+
+}  // namespace
+
+extern "C" int open(const char *path, int flags, ...) {
+    if (onlyNamedFiles && (flags & O_TMPFILE) == O_TMPFILE) {
+        errno = EOPNOTSUPP;
+        return -1;
+    }
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = flags & O_CREAT || (flags & O_TMPFILE) == O_TMPFILE ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    return static_cast<int>(syscall(SYS_openat, AT_FDCWD, path, flags, mode));
+}
 
 class TestSoundWriter : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void init();
     void sixNamedChannels();
+    void nothingStandsThereBeforeTheEnd_data() { fileSystems(); }
     void nothingStandsThereBeforeTheEnd();
+    void unfinishedLeavesNothing_data() { fileSystems(); }
     void unfinishedLeavesNothing();
+    void othersFilesStay_data() { fileSystems(); }
+    void othersFilesStay();
+    void twoAtATime_data() { fileSystems(); }
+    void twoAtATime();
     void replaces();
     void writesWhereALinkLeads();
     void whatIsNoFileStays_data();
@@ -33,6 +63,7 @@ private Q_SLOTS:
     void diskFull();
 
 private:
+    void fileSystems();
     QString file() const { return m_folder->filePath("out.wav"); }
     QStringList files() const { return QDir(m_folder->path()).entryList(QDir::Files); }
 
@@ -44,6 +75,13 @@ private:
 void TestSoundWriter::init() {
     m_folder = std::make_unique<QTemporaryDir>();
     m_error.clear();
+    onlyNamedFiles = false;
+}
+
+void TestSoundWriter::fileSystems() {
+    QTest::addColumn<bool>("named");
+    QTest::newRow("file without a name") << false;
+    QTest::newRow("file with a name") << true;
 }
 
 void TestSoundWriter::sixNamedChannels() {
@@ -67,21 +105,69 @@ void TestSoundWriter::sixNamedChannels() {
 }
 
 void TestSoundWriter::nothingStandsThereBeforeTheEnd() {
+    QFETCH(bool, named);
+    onlyNamedFiles = named;
     SoundWriter writer;
     QVERIFY(writer.open(file().toStdString(), &m_error));
     QVERIFY(writer.write(m_samples.data(), 10000, &m_error));
-    QVERIFY(!QFile::exists(file()));
+    QCOMPARE(files(), named ? QStringList{"out.wav.0.part"} : QStringList());
     QVERIFY(writer.finish(&m_error));
     QCOMPARE(files(), QStringList{"out.wav"});
+    const mode_t mask = umask(0);
+    umask(mask);
+    struct stat made = {};
+    QCOMPARE(stat(qPrintable(file()), &made), 0);
+    QCOMPARE(made.st_mode & 0777, 0666 & ~mask);
 }
 
 void TestSoundWriter::unfinishedLeavesNothing() {
+    QFETCH(bool, named);
+    onlyNamedFiles = named;
     {
         SoundWriter writer;
         QVERIFY(writer.open(file().toStdString(), &m_error));
         QVERIFY(writer.write(m_samples.data(), 10000, &m_error));
     }
     QCOMPARE(files(), QStringList());
+}
+
+void TestSoundWriter::othersFilesStay() {
+    QFETCH(bool, named);
+    onlyNamedFiles = named;
+    const QStringList others = {"out.wav.0.part", "out.wav.1.part", "out.wav.part"};
+    for (const QString &other : others) {
+        QFile theirs(m_folder->filePath(other));
+        QVERIFY(theirs.open(QIODevice::WriteOnly) && theirs.write("theirs") == 6);
+    }
+    SoundWriter writer;
+    QVERIFY(writer.open(file().toStdString(), &m_error));
+    QVERIFY(writer.write(m_samples.data(), 10000, &m_error));
+    QVERIFY(writer.finish(&m_error));
+    QCOMPARE(files(), QStringList{"out.wav"} + others);
+    for (const QString &other : others) {
+        QFile theirs(m_folder->filePath(other));
+        QVERIFY(theirs.open(QIODevice::ReadOnly));
+        QCOMPARE(theirs.readAll(), QByteArray("theirs"));
+    }
+}
+
+/// Each of them whole; the one that ends last stays.
+void TestSoundWriter::twoAtATime() {
+    QFETCH(bool, named);
+    onlyNamedFiles = named;
+    SoundWriter one;
+    SoundWriter other;
+    for (SoundWriter *writer : {&one, &other}) {
+        QVERIFY(writer->open(file().toStdString(), &m_error));
+        QVERIFY(writer->write(m_samples.data(), 5000, &m_error));
+    }
+    QVERIFY(one.finish(&m_error));
+    QCOMPARE(soundfiletest::read(file().toStdString()).samples.size(), size_t(30000));
+    QVERIFY(other.write(m_samples.data() + 30000, 5000, &m_error));
+    QCOMPARE(soundfiletest::read(file().toStdString()).samples.size(), size_t(30000));
+    QVERIFY(other.finish(&m_error));
+    QVERIFY(soundfiletest::read(file().toStdString()).samples == m_samples);
+    QCOMPARE(files(), QStringList{"out.wav"});
 }
 
 void TestSoundWriter::replaces() {

@@ -34,16 +34,25 @@ void SoundServer::Process::setupChildProcess() {
     prctl(PR_SET_PDEATHSIG, SIGTERM);
 }
 
-SoundServer::SoundServer(const QTemporaryDir &folder) : m_environment(QProcessEnvironment::systemEnvironment()) {
-    for (const char *name : {"HOME", "XDG_RUNTIME_DIR"}) {
+SoundServer::SoundServer(const QTemporaryDir &folder, Socket socket)
+    : m_environment(QProcessEnvironment::systemEnvironment()) {
+    for (const char *name : {"HOME", "TMPDIR", "XDG_RUNTIME_DIR"}) {
         m_environment.insert(name, folder.path());
     }
     m_environment.insert("LC_ALL", "C");
     m_environment.remove("PULSE_SERVER");  // with one, the program would not be a server itself
+    QString module = "module-native-protocol-unix auth-anonymous=1";
+    if (socket == Socket::Named) {
+        module += " socket=" + socketIn(folder);
+    } else {
+        m_environment.remove("XDG_RUNTIME_DIR");
+    }
     m_process.setProcessEnvironment(m_environment);
     m_process.start("pulseaudio", {"-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm",
-                                   "-L", "module-native-protocol-unix auth-anonymous=1 socket=" + socketIn(folder)});
-    m_environment.insert("PULSE_SERVER", QString::fromLocal8Bit(address(folder)));
+                                   "-L", module});
+    if (socket == Socket::Named) {
+        m_environment.insert("PULSE_SERVER", QString::fromLocal8Bit(address(folder)));
+    }
 }
 
 QByteArray SoundServer::address(const QTemporaryDir &folder) {

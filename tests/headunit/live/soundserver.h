@@ -8,11 +8,16 @@
 /// A sound server of the test's own, without a device at first; nothing is heard.
 class SoundServer {
 public:
-    /// Its socket and whatever it keeps are in \a folder.
-    explicit SoundServer(const QTemporaryDir &folder);
+    enum class Socket { Named, Usual };
 
-    /// What PULSE_SERVER must be for a program to play here.
+    /// Its socket and whatever it keeps are in \a folder. The usual socket is where programs look by themselves if
+    /// the session has no folder of its own.
+    explicit SoundServer(const QTemporaryDir &folder, Socket socket = Socket::Named);
+
+    /// What PULSE_SERVER must be for a program to play on the named socket.
     static QByteArray address(const QTemporaryDir &folder);
+    /// The surroundings of a program that plays here.
+    const QProcessEnvironment &environment() const { return m_environment; }
 
     bool answers() const;
     /// Plugs a device in, with channels like "front-left,front-right". The first one is the default.
