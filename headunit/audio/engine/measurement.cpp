@@ -51,6 +51,7 @@ std::complex<double> MeasuredPoint::sum() const {
 std::vector<MeasuredPoint> measure(const SoundState &state, const std::vector<double> &frequencies, Input input) {
     const std::vector<float> answer = impulseResponse(state, input);
     std::vector<MeasuredPoint> points;
+    points.reserve(frequencies.size());
     for (const double hz : frequencies) {
         points.push_back(component(answer, hz));
     }
@@ -76,8 +77,10 @@ std::vector<double> audibleFrequencies() {
     const double ratio = std::pow(2, 1.0 / 24);
     constexpr double widestStep = 25;  // the longest delay turns the phase by a quarter
     std::vector<double> frequencies;
-    for (double hz = lowest; hz <= highest; hz = std::min(hz * ratio, hz + widestStep)) {
+    double hz = lowest;
+    while (hz <= highest) {
         frequencies.push_back(hz);
+        hz = std::min(hz * ratio, hz + widestStep);
     }
     return frequencies;
 }

@@ -110,7 +110,7 @@ std::vector<Share> shares(SNDFILE *file, size_t channels) {
     std::vector<int> order(channels);
     const int size = static_cast<int>(channels * sizeof(int));
     if (channels > stereo && sf_command(file, SFC_GET_CHANNEL_MAP_INFO, order.data(), size) == SF_TRUE) {
-        const std::vector<Share> said = sharesOf(order);
+        std::vector<Share> said = sharesOf(order);
         if (!said.empty()) {
             return said;
         }

@@ -53,7 +53,9 @@ void paintGrid(QPainter &painter, const Diagram &diagram) {
         painter.drawLine(QLineF(x1, y1, x2, y2));
         painter.setPen(colour::handle);
     };
-    for (double value = diagram.lowest; value <= diagram.highest; value += diagram.step) {
+    const int lines = static_cast<int>((diagram.highest - diagram.lowest) / diagram.step) + 1;
+    for (int number = 0; number < lines; ++number) {
+        const double value = diagram.lowest + number * diagram.step;
         const double y = diagram.y(value);
         line(diagram.area.left(), y, diagram.area.right(), y);
         painter.drawText(
@@ -63,9 +65,10 @@ void paintGrid(QPainter &painter, const Diagram &diagram) {
     for (const int hz : {20, 50, 100, 200, 500, 1000, 2000, 5000, 10000, 20000}) {
         const double x = diagram.x(hz);
         line(x, diagram.area.top(), x, diagram.area.bottom());
-        painter.drawText(QRectF(x - labelWidth / 2, diagram.area.bottom() + labelGap / 2, labelWidth, 2 * textPixels),
-                         Qt::AlignHCenter | Qt::AlignTop,
-                         hz < 1000 ? QStringLiteral("%1 Hz").arg(hz) : QStringLiteral("%1 kHz").arg(hz / 1000));
+        painter.drawText(
+            QRectF(x - labelWidth / 2.0, diagram.area.bottom() + labelGap / 2.0, labelWidth, 2 * textPixels),
+            Qt::AlignHCenter | Qt::AlignTop,
+            hz < 1000 ? QStringLiteral("%1 Hz").arg(hz) : QStringLiteral("%1 kHz").arg(hz / 1000));
     }
 }
 
