@@ -64,6 +64,14 @@ public:
     /// ... of everything from a frame on.
     Frame peaksSince(size_t first) { return peaks(first, frames().size() - first); }
 
+    /// Whether, of what came from a frame on, the first 20 ms that are not silent are quiet.
+    bool risesFromSilence(Output output, size_t from) {
+        constexpr size_t count = 960;
+        const auto first = std::find_if(m_frames.begin() + static_cast<ptrdiff_t>(from), m_frames.end(),
+                                        [output](const Frame &frame) { return frame[output] != 0; });
+        return peaks(static_cast<size_t>(first - m_frames.begin()), count)[output] < amplitude / 20;
+    }
+
 private:
     std::unique_ptr<QProcess> m_process;
     QByteArray m_bytes;
@@ -88,6 +96,7 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void beginsAsTheStoreSaysAndWithoutABurst();
+    void risesAgainAfterAnInterruption();
     void followsEveryChange();
     void volumesAndKeysAnswer();
     void whatCannotBePlayed();
@@ -132,12 +141,20 @@ void TestLiveSound::beginsAsTheStoreSaysAndWithoutABurst() {
     QCOMPARE(problem, QString());
     const Frame expected = {0, amplitude, 0, 0, 0, 0};
     WAIT_FOR(near(m_recording->peaks(), expected));
-    const std::vector<Frame> &frames = m_recording->frames();
-    const auto first =
-        std::find_if(frames.begin(), frames.end(), [](const Frame &frame) { return frame[FrontRight] != 0; });
-    const size_t start = static_cast<size_t>(first - frames.begin());
-    QVERIFY(m_recording->peaks(start, 1000)[FrontRight] < amplitude / 20);
-    QVERIFY(near(m_recording->peaksSince(start), expected));
+    QVERIFY(m_recording->risesFromSilence(FrontRight, 0));
+    QVERIFY(near(m_recording->peaksSince(0), expected));
+}
+
+void TestLiveSound::risesAgainAfterAnInterruption() {
+    QString problem;
+    const LiveSound sound(m_tone, &problem);
+    const Frame expected = {amplitude, amplitude, amplitude, amplitude, 0, 0};
+    WAIT_FOR(near(m_recording->peaks(), expected));
+    m_server->hangUp();
+    WAIT_FOR(near(m_recording->peaks(), Frame{}));
+    const size_t silent = m_recording->frames().size();
+    WAIT_FOR(near(m_recording->peaks(), expected));
+    QVERIFY(m_recording->risesFromSilence(FrontLeft, silent));
 }
 
 void TestLiveSound::followsEveryChange() {

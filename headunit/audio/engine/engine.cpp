@@ -19,12 +19,6 @@ double tamed(float sample) {
 
 }  // namespace
 
-Engine::Engine(Start start, const Kernel &kernel) : m_chain(kernel) {
-    if (start == Start::FadedIn) {
-        m_powerUp.restart();
-    }
-}
-
 void Engine::takeParameters() {
     const Parameters *const parameters = m_parameters.take();
     if (!parameters) {
@@ -60,14 +54,14 @@ void Engine::mix(const Inputs &inputs, size_t offset, double *mixed, size_t fram
 }
 
 /// Behind the limiter, which would give back at once what the fade takes from a sound that is too loud.
-void Engine::fadeInAtStart(float *out, size_t frames) {
-    const size_t fading = std::min(frames, m_powerUp.remaining());
+void Engine::rise(float *out, size_t frames) {
+    const size_t fading = std::min(frames, m_fadeIn.remaining());
     for (size_t frame = 0; frame < fading; ++frame) {
         for (size_t i = frame * outputCount; i < (frame + 1) * outputCount; ++i) {
-            out[i] = static_cast<float>(static_cast<double>(out[i]) * m_powerUp.weights()[frame]);
+            out[i] = static_cast<float>(static_cast<double>(out[i]) * m_fadeIn.weights()[frame]);
         }
     }
-    m_powerUp.advance(fading);
+    m_fadeIn.advance(fading);
 }
 
 size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, size_t frames) {
@@ -88,7 +82,7 @@ size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, siz
         }
     }
     m_limiter.process(sound.data(), out, count);
-    fadeInAtStart(out, count);
+    rise(out, count);
     return count;
 }
 

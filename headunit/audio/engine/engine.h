@@ -20,16 +20,16 @@ using Inputs = std::array<const float *, inputCount>;
 class Engine {
 public:
     static constexpr size_t fadeSamples = static_cast<size_t>(0.025 * sampleRate);
-    static constexpr size_t powerUpSamples = static_cast<size_t>(0.4 * sampleRate);
+    static constexpr size_t fadeInSamples = static_cast<size_t>(0.4 * sampleRate);
     static constexpr size_t latency = Limiter::latency;  ///< in samples, before any delay that is set
 
-    enum class Start { AtOnce, FadedIn };
-
     /// Silent until the first parameters; what is set before the first sample holds from the first sample on.
-    explicit Engine(Start start = Start::AtOnce, const Kernel &kernel = bestKernel());
+    explicit Engine(const Kernel &kernel = bestKernel()) : m_chain(kernel) {}
 
     void setParameters(const Parameters &parameters) { m_parameters.write(parameters); }
 
+    /// What comes next rises from silence over fadeInSamples.
+    void fadeIn() { m_fadeIn.restart(); }
     /// Gives \a frames of outputCount samples, each within full scale. Any number of frames at a time gives the same.
     void process(const Inputs &inputs, float *out, size_t frames);
     /// The limiter's lowest gain since the last call, 0 to 1.
@@ -39,7 +39,7 @@ private:
     void takeParameters();
     size_t processBlock(const Inputs &inputs, size_t offset, float *out, size_t frames);
     void mix(const Inputs &inputs, size_t offset, double *mixed, size_t frames) const;
-    void fadeInAtStart(float *out, size_t frames);
+    void rise(float *out, size_t frames);
 
     TripleBuffer<Parameters> m_parameters;
     bool m_started = false;
@@ -47,7 +47,7 @@ private:
     std::array<double, inputCount> m_nextInputGain{};
     Chain m_chain;
     Fade m_fade{fadeSamples};
-    Fade m_powerUp{powerUpSamples};
+    Fade m_fadeIn{fadeInSamples};
     Limiter m_limiter;
 };
 

@@ -21,7 +21,7 @@ bool renderFile(const std::string &in, const std::string &out, const SoundState 
     if (!reader.open(in, error) || !writer.open(out, error)) {
         return false;
     }
-    const auto sound = std::make_unique<Engine>(Engine::Start::AtOnce, kernel);
+    const auto sound = std::make_unique<Engine>(kernel);
     sound->setParameters(designParameters(state));
     std::vector<float> stereoBlock(blockFrames * stereo);
     std::vector<float> block(blockFrames * outputCount);

@@ -14,8 +14,8 @@
 
 namespace headunit {
 
-/// Everything that the unit plays, through the engine. fill() belongs to the audio thread, setState() to one other at a
-/// time, the rest to one other.
+/// Everything that the unit plays, through the engine. fill() and fadeIn() belong to the audio thread, setState() to
+/// one other at a time, the rest to one other.
 class Player {
 public:
     /// \a what is "music", "noise", "sweep", "loudspeakers", "silence", or the name of a sound file. False, with a
@@ -29,6 +29,8 @@ public:
     /// What was played since the last call, or null if nothing was. The reading stays as it is until the next call.
     const engine::Meters *takeMeters() { return m_meters.take(); }
 
+    /// What comes next rises from silence.
+    void fadeIn() { m_engine.fadeIn(); }
     /// Gives \a frames for the six outputs. Never waits, allocates, or calls the system.
     void fill(float *out, size_t frames);
 
@@ -42,7 +44,7 @@ private:
     void fillBlock(float *out, size_t frames);
     void publishMeters(engine::Meters reading);
 
-    engine::Engine m_engine{engine::Engine::Start::FadedIn};
+    engine::Engine m_engine;
     std::variant<Silence, Music, PinkNoise, Sweep, LoudspeakerTone, FileLoop> m_source;
     std::array<std::atomic<bool>, engine::inputCount> m_wanted{};
     std::array<Chime, engine::inputCount> m_chimes = {Chime(engine::MainInput),  Chime(engine::RingtoneInput),

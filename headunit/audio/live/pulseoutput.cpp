@@ -176,6 +176,7 @@ struct PulseOutput::Private {
 
     void openStream(bool fold) {
         folded = fold;
+        player.fadeIn();
         const pa_channel_map map = channelMap(folded);
         const pa_sample_spec spec = {PA_SAMPLE_FLOAT32NE, static_cast<uint32_t>(engine::sampleRate), map.channels};
         stream = pa_stream_new(context, "Loudspeakers", &spec, &map);

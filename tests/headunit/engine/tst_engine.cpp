@@ -48,12 +48,12 @@ private Q_SLOTS:
     void silentWithoutParameters();
     void firstParametersHoldAtOnce();
     void anyBlockSizeGivesTheSame();
-    void powerUpInAnyBlockSize();
+    void fadesInInAnyBlockSize();
     void everyInputIsHeard();
     void inputsAdd();
     void changeIsOverIn50Milliseconds();
     void changesDuringAFadeAreTakenAfterIt();
-    void fadesInAtPowerUp();
+    void fadesIn();
     void fadesInHoweverLoud();
     void saysHowMuchItLimits();
     void damagedSamples();
@@ -99,10 +99,11 @@ void TestEngine::anyBlockSizeGivesTheSame() {
     QVERIFY(render(busy(), signal, changes) == whole);  // and again
 }
 
-void TestEngine::powerUpInAnyBlockSize() {
+void TestEngine::fadesInInAnyBlockSize() {
     const Stereo signal = noise(24000, 0.9F);
     const auto poweredUp = [&signal](size_t block) {
-        Engine engine(Engine::Start::FadedIn);
+        Engine engine;
+        engine.fadeIn();
         engine.setParameters(designParameters(busy()));
         std::vector<float> all;
         for (size_t i = 0; i < signal.size(); i += block * stereo) {
@@ -180,36 +181,41 @@ void TestEngine::changesDuringAFadeAreTakenAfterIt() {
     QVERIFY(process(engine, signal).back() == static_cast<float>(0.5 * fromDecibels(-30)));
 }
 
-void TestEngine::fadesInAtPowerUp() {
-    Engine engine(Engine::Start::FadedIn);
+/// At power-up, and whenever else that is asked for.
+void TestEngine::fadesIn() {
+    Engine engine;
     engine.setParameters(designParameters(neutral()));
-    const std::vector<float> out = process(engine, Stereo(24000 * stereo, 0.5F));
-    float before = 0;
-    size_t half = 0;
-    size_t whole = 0;
-    for (size_t i = Engine::latency * outputCount; i < out.size(); i += outputCount) {
-        QVERIFY(out[i] >= before);
-        before = out[i];
-        half = half == 0 && before >= 0.25F ? i / outputCount : half;
-        whole = whole == 0 && before == 0.5F ? i / outputCount : whole;
+    for (const size_t first : {Engine::latency, size_t(0)}) {
+        engine.fadeIn();
+        const std::vector<float> out = process(engine, Stereo(24000 * stereo, 0.5F));
+        float before = 0;
+        size_t half = 0;
+        size_t whole = 0;
+        for (size_t i = first * outputCount; i < out.size(); i += outputCount) {
+            QVERIFY(out[i] >= before);
+            before = out[i];
+            half = half == 0 && before >= 0.25F ? i / outputCount : half;
+            whole = whole == 0 && before == 0.5F ? i / outputCount : whole;
+        }
+        QVERIFY(half > 9000 && half < 10000);
+        QVERIFY(whole > 18000 && whole <= 19200 + Engine::latency);
     }
-    QVERIFY(half > 9000 && half < 10000);
-    QVERIFY(whole > 18000 && whole <= 19200 + Engine::latency);
 }
 
 /// What the limiter holds at full scale fades in like everything else.
 void TestEngine::fadesInHoweverLoud() {
     SoundState loud = neutral();
     loud.sourceGain[0] = 20;
-    Engine engine(Engine::Start::FadedIn);
+    Engine engine;
+    engine.fadeIn();
     engine.setParameters(designParameters(loud));
     const std::vector<float> out = process(engine, rendering::noise(24000, 1));
-    Fade fade(Engine::powerUpSamples);
+    Fade fade(Engine::fadeInSamples);
     fade.restart();
     float highest = 0;
     for (size_t i = 0; i < out.size(); ++i) {
         const size_t frame = i / outputCount;
-        const double most = frame < Engine::powerUpSamples ? fade.weights()[frame] : 1;
+        const double most = frame < Engine::fadeInSamples ? fade.weights()[frame] : 1;
         QVERIFY(static_cast<double>(std::abs(out[i])) <= most + 1e-7);
         highest = std::max(highest, std::abs(out[i]));
     }

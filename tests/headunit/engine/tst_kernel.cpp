@@ -14,7 +14,7 @@ using namespace rendering;
 namespace {
 
 std::vector<float> renderWith(const Kernel &kernel) {
-    Engine engine(Engine::Start::AtOnce, kernel);
+    Engine engine(kernel);
     SoundState state = neutral();
     state.eqType = 8;
     state.loudness = true;

@@ -10,8 +10,14 @@ namespace {
 
 constexpr int patience = 30000;  // ms
 
-QString socketIn(const QTemporaryDir &folder) {
-    return folder.filePath("server");
+/// Programs come by one socket, the test by another.
+constexpr char programs[] = "server";
+constexpr char test[] = "control";
+
+constexpr char protocol[] = "module-native-protocol-unix auth-anonymous=1";
+
+QString protocolAt(const QTemporaryDir &folder, const char *socket) {
+    return protocol + (" socket=" + folder.filePath(socket));
 }
 
 /// Of "12\tname\t…" the entry at a place.
@@ -41,22 +47,18 @@ SoundServer::SoundServer(const QTemporaryDir &folder, Socket socket)
     }
     m_environment.insert("LC_ALL", "C");
     m_environment.remove("PULSE_SERVER");  // with one, the program would not be a server itself
-    QString module = "module-native-protocol-unix auth-anonymous=1";
-    if (socket == Socket::Named) {
-        module += " socket=" + socketIn(folder);
-    } else {
+    m_programs = socket == Socket::Named ? protocolAt(folder, programs) : QString(protocol);
+    if (socket != Socket::Named) {
         m_environment.remove("XDG_RUNTIME_DIR");
     }
     m_process.setProcessEnvironment(m_environment);
     m_process.start("pulseaudio", {"-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no", "--disable-shm",
-                                   "-L", module});
-    if (socket == Socket::Named) {
-        m_environment.insert("PULSE_SERVER", QString::fromLocal8Bit(address(folder)));
-    }
+                                   "-L", protocolAt(folder, test), "-L", m_programs});
+    m_environment.insert("PULSE_SERVER", "unix:" + folder.filePath(test));
 }
 
 QByteArray SoundServer::address(const QTemporaryDir &folder) {
-    return "unix:" + socketIn(folder).toLocal8Bit();
+    return "unix:" + folder.filePath(programs).toLocal8Bit();
 }
 
 bool SoundServer::answers() const {
@@ -69,9 +71,13 @@ void SoundServer::plugIn(const QString &device, const QString &channels) {
 }
 
 void SoundServer::unplug(const QString &device) {
+    unload("module-null-sink sink_name=" + device + ' ');
+}
+
+void SoundServer::unload(const QString &moduleAndArguments) {
     const QStringList modules = control({"list", "short", "modules"}).split('\n');
     for (const QString &module : modules) {
-        if (module.contains("sink_name=" + device + ' ')) {
+        if ((column(module, 1) + ' ' + column(module, 2)).startsWith(moduleAndArguments)) {
             control({"unload-module", column(module, 0)});
         }
     }
@@ -79,6 +85,11 @@ void SoundServer::unplug(const QString &device) {
 
 void SoundServer::makeDefault(const QString &device) {
     control({"set-default-sink", device});
+}
+
+void SoundServer::hangUp() {
+    unload(m_programs);
+    control(QStringList("load-module") + m_programs.split(' '));
 }
 
 QString SoundServer::streams() const {

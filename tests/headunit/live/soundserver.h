@@ -24,6 +24,8 @@ public:
     void plugIn(const QString &device, const QString &channels);
     void unplug(const QString &device);
     void makeDefault(const QString &device);
+    /// Ends the connections of programs that came by address(), and takes new ones.
+    void hangUp();
     /// What plays, as "6ch on NAME", where NAME is the device; joined by commas.
     QString streams() const;
     /// Starts to record what a device plays on \a channels, in raw floats; stops when the process is deleted.
@@ -37,6 +39,7 @@ public:
 
 private:
     QString control(const QStringList &arguments) const;
+    void unload(const QString &moduleAndArguments);
 
     /// Ends when the test does, however that ends.
     class Process : public QProcess {
@@ -48,5 +51,6 @@ private:
     };
 
     QProcessEnvironment m_environment;
+    QString m_programs;  ///< the module, with its arguments, that programs connect to
     Process m_process;
 };
