@@ -5,6 +5,13 @@
 
 namespace headunit {
 
+namespace {
+
+/// What is read in one go.
+constexpr size_t pieceFrames = 4096;
+
+}  // namespace
+
 FileLoop::~FileLoop() {
     m_ending = true;
     if (m_thread.joinable()) {
@@ -17,12 +24,12 @@ bool FileLoop::open(const std::string &path, std::string *error) {
     if (!m_reader.open(path, error)) {
         return false;
     }
-    const size_t frames = m_reader.read(m_ring.data(), ringFrames);
+    const size_t frames = m_reader.read(m_ring.data(), pieceFrames);
     if (frames == 0) {
         *error = path + ": nothing can be read of the file";
         return false;
     }
-    if (frames < ringFrames) {
+    if (frames < pieceFrames) {
         m_shortFrames = frames;
         return true;
     }
@@ -32,10 +39,10 @@ bool FileLoop::open(const std::string &path, std::string *error) {
 }
 
 void FileLoop::readAhead() {
-    constexpr size_t pieceFrames = 4096;
     constexpr std::chrono::milliseconds pause(20);
     std::vector<float> piece(2 * pieceFrames);
-    size_t sinceOpened = ringFrames;
+    bool isFirstTime = true;
+    size_t sinceOpened = m_written;
     while (!m_ending) {
         const uint64_t written = m_written.load(std::memory_order_relaxed);
         if (written + pieceFrames > m_read.load(std::memory_order_acquire) + ringFrames) {
@@ -48,28 +55,37 @@ void FileLoop::readAhead() {
         }
         m_written.store(written + frames, std::memory_order_release);
         sinceOpened += frames;
-        if (frames < pieceFrames) {
-            // A file that was cut short meanwhile must not be opened hundreds of times a second.
-            std::string error;
-            if (sinceOpened < pieceFrames || !m_reader.open(m_path, &error)) {
-                return;
-            }
-            sinceOpened = 0;
+        if (frames == pieceFrames) {
+            continue;
         }
+        if (isFirstTime && sinceOpened <= ringFrames) {
+            m_shortFrames.store(sinceOpened, std::memory_order_release);
+            return;
+        }
+        // A file that was cut short meanwhile must not be opened hundreds of times a second.
+        std::string error;
+        if (sinceOpened < pieceFrames || !m_reader.open(m_path, &error)) {
+            return;
+        }
+        isFirstTime = false;
+        sinceOpened = 0;
     }
 }
 
-void FileLoop::fillFromShort(float *stereo, size_t frames) {
-    for (size_t frame = 0; frame < frames; ++frame) {
-        stereo[2 * frame] = m_ring[2 * m_place];
-        stereo[2 * frame + 1] = m_ring[2 * m_place + 1];
-        m_place = (m_place + 1) % m_shortFrames;
+void FileLoop::fillFromShort(float *stereo, size_t frames, size_t shortFrames) {
+    uint64_t read = m_read.load(std::memory_order_relaxed);
+    for (size_t frame = 0; frame < frames; ++frame, ++read) {
+        const size_t place = static_cast<size_t>(read % shortFrames);
+        stereo[2 * frame] = m_ring[2 * place];
+        stereo[2 * frame + 1] = m_ring[2 * place + 1];
     }
+    m_read.store(read, std::memory_order_relaxed);
 }
 
 void FileLoop::fill(float *stereo, size_t frames) {
-    if (m_shortFrames > 0) {
-        fillFromShort(stereo, frames);
+    const size_t shortFrames = m_shortFrames.load(std::memory_order_acquire);
+    if (shortFrames > 0) {
+        fillFromShort(stereo, frames, shortFrames);
         return;
     }
     const uint64_t read = m_read.load(std::memory_order_relaxed);

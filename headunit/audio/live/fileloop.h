@@ -9,8 +9,8 @@
 
 namespace headunit {
 
-/// A sound file, played again and again. A short one is kept; any other is read ahead by a thread of its own. So fill()
-/// waits for nothing.
+/// A sound file, played again and again. A thread of its own reads it ahead, so that fill() waits for nothing; a file
+/// that is short enough is read only once.
 class FileLoop {
 public:
     FileLoop() = default;
@@ -26,13 +26,12 @@ private:
     static constexpr size_t ringFrames = 65536;  ///< more than a second
 
     void readAhead();
-    void fillFromShort(float *stereo, size_t frames);
+    void fillFromShort(float *stereo, size_t frames, size_t shortFrames);
 
     std::string m_path;
     SoundReader m_reader;
     std::vector<float> m_ring = std::vector<float>(2 * ringFrames);
-    size_t m_shortFrames = 0;  ///< of the whole file, if the ring holds it; else 0
-    size_t m_place = 0;        ///< frame of the short file that comes next
+    std::atomic<size_t> m_shortFrames{0};  ///< of the whole file, once the ring holds all of it
     std::atomic<uint64_t> m_written{0};
     std::atomic<uint64_t> m_read{0};
     std::atomic<bool> m_ending{false};
