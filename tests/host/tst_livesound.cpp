@@ -69,7 +69,8 @@ public:
         constexpr size_t count = 960;
         const auto first = std::find_if(m_frames.begin() + static_cast<ptrdiff_t>(from), m_frames.end(),
                                         [output](const Frame &frame) { return frame[output] != 0; });
-        return peaks(static_cast<size_t>(first - m_frames.begin()), count)[output] < amplitude / 20;
+        const size_t start = static_cast<size_t>(first - m_frames.begin());
+        return peaks(start, std::min(count, m_frames.size() - start))[output] < amplitude / 20;
     }
 
 private:

@@ -124,6 +124,7 @@ struct SoundReader::Private {
     SNDFILE *file = nullptr;
     SRC_STATE *resampler = nullptr;
     double ratio = 1;
+    sf_count_t unread = 0;  ///< frames of the file
     std::vector<Share> list;
     std::vector<float> raw;
     std::vector<float> chunk = std::vector<float>(chunkFrames * stereo);
@@ -137,6 +138,7 @@ struct SoundReader::Private {
         const size_t wanted = std::min(frames, chunkFrames);
         const size_t got = static_cast<size_t>(
             std::max<sf_count_t>(0, sf_readf_float(file, raw.data(), static_cast<sf_count_t>(wanted))));
+        unread -= static_cast<sf_count_t>(got);
         for (size_t frame = 0; frame < got; ++frame) {
             float left = 0;
             float right = 0;
@@ -182,6 +184,7 @@ bool SoundReader::open(const std::string &path, std::string *error) {
         *error = path + ": the file holds no samples";
         return false;
     }
+    d->unread = info.frames;
     d->ratio = sampleRate / info.samplerate;
     if (info.channels < 1 || info.channels > largestChannelCount || !src_is_valid_ratio(d->ratio)) {
         *error = path + ": a file of " + std::to_string(info.channels) + " channels at " +
@@ -199,6 +202,10 @@ bool SoundReader::open(const std::string &path, std::string *error) {
         }
     }
     return true;
+}
+
+bool SoundReader::isAtEnd() const {
+    return d->unread <= 0;
 }
 
 size_t SoundReader::read(float *target, size_t frames) {

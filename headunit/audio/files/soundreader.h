@@ -19,6 +19,8 @@ public:
     /// Fills in up to \a frames of left and right in turn; less than asked for, down to none, at the end of the file or
     /// where it is damaged.
     size_t read(float *stereo, size_t frames);
+    /// Whether all frames that the file promises have been read from it.
+    bool isAtEnd() const;
 
 private:
     struct Private;

@@ -58,7 +58,7 @@ void FileLoop::readAhead() {
         if (frames == pieceFrames) {
             continue;
         }
-        if (isFirstTime && sinceOpened <= ringFrames) {
+        if (isFirstTime && sinceOpened <= ringFrames && m_reader.isAtEnd()) {
             m_shortFrames.store(sinceOpened, std::memory_order_release);
             return;
         }

@@ -24,7 +24,7 @@ public:
     void plugIn(const QString &device, const QString &channels);
     void unplug(const QString &device);
     void makeDefault(const QString &device);
-    /// Ends the connections of programs that came by address(), and takes new ones.
+    /// Ends the connections of programs that came by address(), and takes new ones. For a named socket.
     void hangUp();
     /// What plays, as "6ch on NAME", where NAME is the device; joined by commas.
     QString streams() const;
