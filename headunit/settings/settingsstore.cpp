@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace headunit {
 
 namespace {
@@ -16,7 +18,7 @@ constexpr int quickGatherMs = 20;
 
 }  // namespace
 
-SettingsStore::SettingsStore() = default;
+SettingsStore::SettingsStore(std::shared_ptr<SaveClock> clock) : m_clock(std::move(clock)) {}
 
 SettingsStore::~SettingsStore() {
     close();
@@ -34,12 +36,14 @@ QString SettingsStore::open(const QString &path, const SettingsMap &factory) {
         m_file = file;
         m_writer = std::make_unique<SettingsWriter>(
             path, snapshot, durableGatherMs,
-            [file](const Snapshot &state, QString *reason) { return file->save(state, reason); });
-        m_quick =
-            std::make_unique<SettingsWriter>(path, snapshot, quickGatherMs, [file](const Snapshot &state, QString *) {
+            [file](const Snapshot &state, QString *reason) { return file->save(state, reason); }, m_clock);
+        m_quick = std::make_unique<SettingsWriter>(
+            path, snapshot, quickGatherMs,
+            [file](const Snapshot &state, QString *) {
                 file->saveQuickly(state);  // where that fails, the other writer has the same trouble and says so
                 return true;
-            });
+            },
+            m_clock);
     } else {
         file->peek(&snapshot);
         problem = QStringLiteral("settings file %1: in use by another process; nothing will be saved").arg(path);

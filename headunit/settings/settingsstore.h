@@ -1,6 +1,7 @@
 #pragma once
 
 #include "diskio.h"
+#include "saveclock.h"
 #include "settingsmap.h"
 
 #include <memory>
@@ -14,7 +15,7 @@ class SettingsWriter;
 /// latest 100 ms later, without waiting for it. Used from one thread. Works in memory only until it is opened.
 class SettingsStore {
 public:
-    SettingsStore();
+    explicit SettingsStore(std::shared_ptr<SaveClock> clock = std::make_shared<SaveClock>());
     ~SettingsStore();
     SettingsStore(const SettingsStore &) = delete;
     SettingsStore &operator=(const SettingsStore &) = delete;
@@ -39,6 +40,7 @@ public:
 private:
     static constexpr int flushTimeMs = 2000;
 
+    std::shared_ptr<SaveClock> m_clock;
     SettingsMap m_values;
     std::shared_ptr<SettingsFile> m_file;      // null while in memory only
     std::unique_ptr<SettingsWriter> m_writer;  // waits for the medium

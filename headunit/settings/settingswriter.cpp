@@ -2,23 +2,26 @@
 
 #include <QtGlobal>
 
-#include <chrono>
-#include <condition_variable>
-#include <mutex>
 #include <utility>
 
 namespace headunit {
 
-using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 struct SettingsWriter::Shared {
-    Shared(const QString &pathInLog, const Snapshot &state, milliseconds gather, Save function)
-        : path(pathInLog), gatherTime(gather), save(std::move(function)), base(state.number), onDisk(state) {}
+    Shared(const QString &pathInLog, const Snapshot &state, milliseconds gather, Save function,
+           std::shared_ptr<SaveClock> time)
+        : path(pathInLog),
+          gatherTime(gather),
+          save(std::move(function)),
+          clock(std::move(time)),
+          base(state.number),
+          onDisk(state) {}
 
     const QString path;
     const milliseconds gatherTime;
     const Save save;
+    const std::shared_ptr<SaveClock> clock;
     const qint64 base;  ///< the number of the state that this began with
 
     // Under the mutex, which is never held during work on the disk.
@@ -31,7 +34,7 @@ struct SettingsWriter::Shared {
     quint64 changes = 0;  ///< counts calls that changed something
     quint64 saved = 0;    ///< the changes that are on the disk
     quint64 tried = 0;    ///< the changes that the last save took along, also if it failed
-    Clock::time_point due;
+    SaveClock::TimePoint due;
     quint64 savesBegun = 0;
     quint64 savesEnded = 0;
     bool flushNow = false;
@@ -45,11 +48,14 @@ struct SettingsWriter::Shared {
     void changed();
     void takeChanges();
     void saveChanges(std::unique_lock<std::mutex> &lock);
+    /// Waits for \a condition, which a save or the end of the thread may bring about. False if that takes longer.
+    template <typename Condition>
+    bool waitUntilDone(std::unique_lock<std::mutex> &lock, int timeoutMs, const Condition &condition);
 };
 
 void SettingsWriter::Shared::changed() {
     if (changes == tried) {  // the first of a gathering; a retry that waits is brought forward
-        due = Clock::now() + gatherTime;
+        due = clock->now() + gatherTime;
         wake.notify_one();
     }
     ++changes;
@@ -91,14 +97,24 @@ void SettingsWriter::Shared::saveChanges(std::unique_lock<std::mutex> &lock) {
     if (ok) {
         saved = taken;
     } else if (changes == taken) {
-        due = Clock::now() + milliseconds(retryTimeMs);
+        due = clock->now() + milliseconds(retryTimeMs);
     }
     ++savesEnded;
     done.notify_all();
 }
 
-SettingsWriter::SettingsWriter(const QString &path, const Snapshot &onDisk, int gatherTimeMs, Save save)
-    : m_shared(std::make_shared<Shared>(path, onDisk, milliseconds(gatherTimeMs), std::move(save))),
+template <typename Condition> bool SettingsWriter::Shared::waitUntilDone(std::unique_lock<std::mutex> &lock,
+                                                                         int timeoutMs, const Condition &condition) {
+    const SaveClock::TimePoint end = clock->now() + milliseconds(timeoutMs);
+    while (!condition() && clock->now() < end) {
+        clock->wait(done, lock, end);
+    }
+    return condition();
+}
+
+SettingsWriter::SettingsWriter(const QString &path, const Snapshot &onDisk, int gatherTimeMs, Save save,
+                               std::shared_ptr<SaveClock> clock)
+    : m_shared(std::make_shared<Shared>(path, onDisk, milliseconds(gatherTimeMs), std::move(save), std::move(clock))),
       m_thread(&SettingsWriter::run, m_shared) {}
 
 SettingsWriter::~SettingsWriter() {
@@ -112,7 +128,7 @@ bool SettingsWriter::finish() {
     }
     m_shared->quit = true;
     m_shared->wake.notify_one();
-    const bool ended = m_shared->done.wait_for(lock, milliseconds(finishTimeMs), [this] { return m_shared->finished; });
+    const bool ended = m_shared->waitUntilDone(lock, finishTimeMs, [this] { return m_shared->finished; });
     const bool saved = m_shared->saved == m_shared->changes;
     lock.unlock();
     if (ended) {
@@ -150,7 +166,7 @@ bool SettingsWriter::flush(int timeoutMs) {
     shared.wake.notify_one();
     const quint64 nextSave = shared.savesBegun + 1;
     const auto ended = [&shared, wanted, nextSave] { return shared.saved >= wanted || shared.savesEnded >= nextSave; };
-    return shared.done.wait_for(lock, milliseconds(timeoutMs), ended) && shared.saved >= wanted;
+    return shared.waitUntilDone(lock, timeoutMs, ended) && shared.saved >= wanted;
 }
 
 void SettingsWriter::run(const std::shared_ptr<Shared> &pointer) {
@@ -159,13 +175,13 @@ void SettingsWriter::run(const std::shared_ptr<Shared> &pointer) {
     for (bool ending = false; !ending;) {
         ending = shared.quit;
         const bool changed = shared.saved != shared.changes;
-        if (changed && (ending || shared.flushNow || Clock::now() >= shared.due)) {
+        if (changed && (ending || shared.flushNow || shared.clock->now() >= shared.due)) {
             shared.saveChanges(lock);
         } else if (changed) {
-            shared.wake.wait_until(lock, shared.due);
+            shared.clock->wait(shared.wake, lock, shared.due);
         } else if (!ending) {
             shared.flushNow = false;
-            shared.wake.wait(lock);
+            shared.clock->wait(shared.wake, lock, SaveClock::never);
         }
     }
     shared.finished = true;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "saveclock.h"
 #include "settingstext.h"
 
 #include <functional>
@@ -15,12 +16,14 @@ namespace headunit {
 class SettingsWriter {
 public:
     static constexpr int retryTimeMs = 1000;
+    static constexpr int finishTimeMs = 2000;
 
     /// Saves a state; false with a line that names the file if that fails. Called on the writer's thread.
     using Save = std::function<bool(const Snapshot &snapshot, QString *problem)>;
 
     /// \a path names the file in the log, \a onDisk is what is on the disk now.
-    SettingsWriter(const QString &path, const Snapshot &onDisk, int gatherTimeMs, Save save);
+    SettingsWriter(const QString &path, const Snapshot &onDisk, int gatherTimeMs, Save save,
+                   std::shared_ptr<SaveClock> clock);
     ~SettingsWriter();  ///< finishes
     SettingsWriter(const SettingsWriter &) = delete;
     SettingsWriter &operator=(const SettingsWriter &) = delete;
@@ -31,12 +34,10 @@ public:
     void replaceAll(const SettingsMap &values);
     /// Saves now and waits for it. False if that fails or takes longer.
     bool flush(int timeoutMs);
-    /// Saves what is left and ends the thread; the last call. False if that fails or takes more than two seconds.
+    /// Saves what is left and ends the thread; the last call. False if that fails or takes more than finishTimeMs.
     bool finish();
 
 private:
-    static constexpr int finishTimeMs = 2000;
-
     // Shared with the thread, which outlives this object where the disk never answers.
     struct Shared;
     static void run(const std::shared_ptr<Shared> &shared);

@@ -16,7 +16,7 @@ const QString pluginFile = QStringLiteral(PLUGIN_FILE);
 QStringList linesOf(const QString &program, const QStringList &arguments) {
     QProcess process;
     process.start(program, arguments);
-    if (!process.waitForFinished() || process.exitCode() != 0) {
+    if (!process.waitForFinished(-1) || process.exitCode() != 0) {
         qFatal("%s: %s", qPrintable(program), process.readAllStandardError().constData());
     }
     return QString::fromLocal8Bit(process.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);

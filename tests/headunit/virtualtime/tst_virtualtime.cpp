@@ -1,6 +1,7 @@
 #include "headunit/virtualtime/virtualtime.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTest>
 #include <QThread>
@@ -62,7 +63,10 @@ private slots:
         const qint64 start = time->now();
         QTimer timer;
         add(timer, "a", 1);
-        QThread::msleep(5);
+        QElapsedTimer wall;
+        wall.start();
+        while (!wall.hasExpired(timer.interval())) {
+        }
         QCoreApplication::processEvents();
         QCOMPARE(log, QStringList());
         QCOMPARE(timer.remainingTime(), 1);
@@ -264,28 +268,14 @@ private slots:
         QCOMPARE(deepest, 1);
     }
 
+    void anotherThreadWakesAWaitingLoop_data() {
+        QTest::addColumn<bool>("posts");
+        QTest::newRow("by an event") << true;
+        QTest::newRow("by ending it") << false;
+    }
     void anotherThreadWakesAWaitingLoop() {
-        QEventLoop loop;
-        std::thread other([&] {
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
-            QMetaObject::invokeMethod(&loop, "quit", Qt::QueuedConnection);
-        });
-        loop.exec();  // nothing to do and no timer: sleeps until woken
-        other.join();
-    }
-
-    void anotherThreadEndsAWaitingLoop() {
-        QEventLoop loop;
-        std::thread other([&] {
-            std::this_thread::sleep_for(std::chrono::milliseconds(20));
-            loop.exit(7);
-        });
-        QCOMPARE(loop.exec(), 7);
-        other.join();
-    }
-
-    void endComesThroughWheneverItIsAsked() {
-        // The other thread asks at any moment once the loop runs, also when it is only about to wait.
+        // The other thread comes at any moment once the loop runs, also when it is only about to wait.
+        QFETCH(bool, posts);
         for (int i = 0; i < 2000; ++i) {
             QEventLoop loop;
             std::atomic<bool> runs{false};
@@ -294,10 +284,16 @@ private slots:
             QCoreApplication::postEvent(&receiver, new QEvent(QEvent::User));
             std::thread other([&] {
                 while (!runs) {
+                    std::this_thread::yield();
                 }
-                loop.exit(i);
+                if (posts) {
+                    QMetaObject::invokeMethod(
+                        &loop, [&loop, i] { loop.exit(i); }, Qt::QueuedConnection);
+                } else {
+                    loop.exit(i);
+                }
             });
-            const int code = loop.exec();
+            const int code = loop.exec();  // nothing to do and no timer: sleeps until woken
             other.join();
             QCOMPARE(code, i);
         }
@@ -315,7 +311,7 @@ private slots:
             thread.quit();
         });
         QMetaObject::invokeMethod(&timer, "start", Qt::QueuedConnection, Q_ARG(int, 1));
-        QVERIFY(thread.wait(10000));
+        QVERIFY(thread.wait());
         QVERIFY(fired);
     }
 
