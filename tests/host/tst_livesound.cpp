@@ -21,7 +21,7 @@ using namespace headunit::engine;
 
 namespace {
 
-constexpr int patience = 30000;  // ms
+constexpr int patience = 60000;  // ms
 constexpr float amplitude = 0.25F;
 constexpr float tolerance = 0.001F;  // a sampled tone misses its peak by less
 
@@ -103,6 +103,9 @@ private Q_SLOTS:
     void whatCannotBePlayed();
 
 private:
+    /// Touches, and listens. A short sound is lost where the machine stops the server for its whole length: then again.
+    template <typename Touch> void touchUntilHeard(const Touch &touch);
+
     QTemporaryDir m_folder;
     std::unique_ptr<SoundServer> m_server;
     std::unique_ptr<Recording> m_recording;
@@ -175,6 +178,23 @@ void TestLiveSound::followsEveryChange() {
     WAIT_FOR(near(m_recording->peaks(), Frame{}));
 }
 
+template <typename Touch> void TestLiveSound::touchUntilHeard(const Touch &touch) {
+    constexpr size_t longEnough = 96000;  // frames
+    size_t touched = m_recording->frames().size();
+    touch();
+    const auto isHeard = [&] {
+        if (m_recording->peaksSince(touched)[FrontLeft] > 0.05F) {
+            return true;
+        }
+        if (m_recording->frames().size() > touched + longEnough) {
+            touched = m_recording->frames().size();
+            touch();
+        }
+        return false;
+    };
+    WAIT_FOR(isHeard());
+}
+
 void TestLiveSound::volumesAndKeysAnswer() {
     SoundModel &model = SoundModel::instance();
     QString problem;
@@ -183,15 +203,14 @@ void TestLiveSound::volumesAndKeysAnswer() {
     const std::array<int, 5> withASound = {1, 2, 3, 4, 6};
     for (const int channel : withASound) {
         WAIT_FOR(near(m_recording->peaks(), Frame{}));
-        const size_t before = m_recording->frames().size();
-        model.setChannelLevel(channel, 40);
-        WAIT_FOR(m_recording->peaksSince(before)[FrontLeft] > 0.05F);
+        touchUntilHeard([&] { model.setChannelLevel(channel, model.channelLevel(channel) == 40 ? 39 : 40); });
+        if (QTest::currentTestFailed()) {
+            return;
+        }
         model.setChannelLevel(channel, 0);
     }
     WAIT_FOR(near(m_recording->peaks(), Frame{}));
-    const size_t before = m_recording->frames().size();
-    model.beep(0);
-    WAIT_FOR(m_recording->peaksSince(before)[FrontLeft] > 0.05F);
+    touchUntilHeard([&] { model.beep(0); });
 }
 
 void TestLiveSound::whatCannotBePlayed() {
@@ -199,8 +218,7 @@ void TestLiveSound::whatCannotBePlayed() {
     const LiveSound sound(m_folder.filePath("no such file.wav"), &problem);
     QVERIFY(problem.contains("no such file.wav: "));
     SoundModel &model = SoundModel::instance();
-    model.setChannelLevel(1, model.channelLevel(1) == 40 ? 39 : 40);
-    WAIT_FOR(m_recording->peaksSince(0)[FrontLeft] > 0.05F);
+    touchUntilHeard([&] { model.setChannelLevel(1, model.channelLevel(1) == 40 ? 39 : 40); });
 }
 
 QTEST_GUILESS_MAIN(TestLiveSound)

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int patience = 30000;  // ms
+constexpr int patience = 60000;  // ms
 
 /// Programs come by one socket, the test by another.
 constexpr char programs[] = "server";

@@ -17,7 +17,7 @@ using namespace headunit;
 
 namespace {
 
-constexpr int patience = 30000;                       // ms
+constexpr int patience = 60000;                       // ms
 constexpr auto retry = std::chrono::milliseconds(5);  // between two looks for what is missing
 
 /// Standard error goes into a file as long as this lives.
