@@ -22,6 +22,7 @@ private Q_SLOTS:
     void scale();
     void scriptResults_data();
     void scriptResults();
+    void scriptsImportOthers();
     void scriptsAreInstant();
     void trace();
     void traceOfAVisit();
@@ -219,6 +220,8 @@ void TestHeadunit::scriptResults_data() {
     QTest::newRow("language") << QByteArray("language('xx');") << 1 << ":1: Error: there is no language \"xx\"";
     QTest::newRow("source") << QByteArray("source(7);") << 1 << ":1: Error: there is no source 7";
     QTest::newRow("application") << QByteArray("open('x');") << 1 << ":1: Error: there is no application \"x\"";
+    QTest::newRow("a value thrown") << QByteArray("throw 'it';") << 1 << ": it";
+    QTest::newRow("import of nothing") << QByteArray("import './none.js';") << 1 << ": Error: Could not open module ";
     QTest::newRow("first error ends it") << QByteArray("tap('nothing'); shot('late.png');") << 1
                                          << ":1: Error: nothing named";
 }
@@ -238,6 +241,19 @@ void TestHeadunit::scriptResults() {
         QVERIFY2(result.err.startsWith(file + error), qPrintable(result.err));
     }
     QVERIFY(!QFile::exists(m_folder->filePath("late.png")));
+}
+
+void TestHeadunit::scriptsImportOthers() {
+    const QString steps = write("steps.js", "export function use(place) {\n    tap(place);\n}\n");
+    const QString good = write("good.js", "import { use } from './steps.js';\nuse('tile_car');\nlog('yes');");
+    Result result = run({"--script", good});
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.out, QStringLiteral("yes\n"));
+    const QString bad = write("b %20 d.js", "import { use } from './steps.js';\n\nuse('nothing');");
+    result = run({"--script", bad});
+    QCOMPARE(result.code, 1);
+    QCOMPARE(result.err,
+             steps + ":2: Error: nothing named \"nothing\" is visible, called from " + bad + QStringLiteral(":3\n"));
 }
 
 void TestHeadunit::scriptsAreInstant() {

@@ -1,8 +1,9 @@
 #include "headunit/host/script/scriptapi.h"
 #include "headunit/host/scripttarget.h"
 
-#include <QFile>
 #include <QJSEngine>
+#include <QRegularExpression>
+#include <QUrl>
 
 #include <cstdio>
 
@@ -12,22 +13,35 @@ namespace {
 
 constexpr int exitGood = 0;
 constexpr int exitFailed = 1;
-constexpr int exitUnusable = 2;
+
+/// "file:line: message", and from where that line was called.
+QString description(const QJSValue &error, const QString &file) {
+    static const QRegularExpression frame(QStringLiteral("@(.+):(\\d+)$"), QRegularExpression::MultilineOption);
+    QStringList places;
+    auto frames = frame.globalMatch(error.property(QStringLiteral("stack")).toString());
+    while (frames.hasNext()) {
+        const QRegularExpressionMatch match = frames.next();
+        places += QUrl(match.captured(1)).path(QUrl::FullyDecoded) + QLatin1Char(':') + match.captured(2);
+    }
+    const QString place = places.isEmpty() ? file : places.takeFirst();  // what cannot be imported has no line
+    QString text = QStringLiteral("%1: %2").arg(place, error.toString());
+    for (const QString &caller : qAsConst(places)) {
+        text += QStringLiteral(", called from %1").arg(caller);
+    }
+    return text;
+}
 
 int run(ScriptTarget &target, const QString &file, const QString &folder) {
-    QFile source(file);
-    if (!source.open(QIODevice::ReadOnly)) {
-        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(file), qUtf8Printable(source.errorString()));
-        return exitUnusable;
-    }
     QJSEngine engine;
     (new ScriptApi(target, &engine, folder))->install();
-    const QJSValue result = engine.evaluate(QString::fromUtf8(source.readAll()), file);
+    QJSValue result = engine.importModule(file);
     if (!result.isError()) {
-        return exitGood;
+        result = engine.evaluate(QString());  // whatever was thrown while the module ran is pending until now
+        if (result.isUndefined()) {
+            return exitGood;
+        }
     }
-    std::fprintf(stderr, "%s:%d: %s\n", qUtf8Printable(file), result.property(QStringLiteral("lineNumber")).toInt(),
-                 qUtf8Printable(result.toString()));
+    std::fprintf(stderr, "%s\n", qUtf8Printable(description(result, file)));
     return exitFailed;
 }
 

@@ -1,10 +1,5 @@
 // The Crossover page by finger: screen, store and sound agree after every step, Flat included.
-var blink = 200;
-
-function use(place) {
-    tap(place);
-    wait(blink);
-}
+import { use } from "./steps.js";
 
 function sounds(channel, freq, slope, level) {
     var filter = sound()[channel];

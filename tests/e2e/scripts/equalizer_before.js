@@ -1,11 +1,8 @@
 // The equaliser: a preset, a change of it, stored in a slot; the next start plays and shows the same.
-function use(place) {
-    tap(place);
-    wait(400);
-}
+import { settle, use } from "./steps.js";
 
 open("audiosetting");
-wait(400);
+settle();
 use("key_factoryeq");
 use("key_Rock");
 expect(sound().eqType === 3);

@@ -1,11 +1,6 @@
 // After everypage_restarted.js and another restart: every page and the sound are those of the factory, but for the
 // volumes, which a reset sets to its own.
-var blink = 200;
-
-function use(place) {
-    tap(place);
-    wait(blink);
-}
+import { settle, use } from "./steps.js";
 
 function tab(name) {
     use("left_widget/" + name);
@@ -24,7 +19,7 @@ expect(s.channelLevel.join() === "15,15,15,15,15,15,15,15");
 });
 
 open("audiosetting");
-wait(blink);
+settle();
 expect("Txt_title", "text", "General");
 expect("key_defeat", "checked", false);
 expect("key_Subwoofer", "checked", false);

@@ -1,10 +1,5 @@
 // After everypage_use.js and a restart: every page shows what was set, and the sound is what it was. Then all is reset.
-var blink = 200;
-
-function use(place) {
-    tap(place);
-    wait(blink);
-}
+import { settle, use } from "./steps.js";
 
 function tab(name) {
     use("left_widget/" + name);
@@ -29,7 +24,7 @@ function expectSound() {
 // Before any page exists.
 expectSound();
 open("audiosetting");
-wait(blink);
+settle();
 expect("txt_vol_level", "text", "4");
 expect("key_Phase_180", "checked", true);
 expect("txt_bal_val", "text", "5");
@@ -68,7 +63,7 @@ use("Key_005_res_audio");
 use("Key_close");
 expect("home", "visible", true);
 open("audiosetting");
-wait(blink);
+settle();
 use("Key_005_res_audio");
 use("Key_Reject");
 expect(sound().defeat === true, "declined");

@@ -1,24 +1,19 @@
 // A driver works through every page. everypage_restarted.js finds it all again, and resets it.
-var blink = 200;
-
-function use(place) {
-    tap(place);
-    wait(blink);
-}
+import { settle, use } from "./steps.js";
 
 function tab(name) {
     use("left_widget/" + name);
 }
 
 open("audiosetting");
-wait(blink);
+settle();
 
 // General
 use("key_Subwoofer");
 use("key_subvol_next");
 use("key_Phase_180");
 drag("settings::balanceFaderControl", 132, 130, 132 + 30, 130 - 42);
-wait(blink);
+settle();
 expect(sound().balance === 5);
 expect(sound().fader === -7);
 
@@ -48,7 +43,8 @@ use("key_Rock");
 expect(sound().eqType === 3);
 tab("key_eq");
 drag("Audiosetting_right_eq_widget", 313, 155, 313, 110);
-wait(2 * blink);
+settle();
+settle();
 var drawn = sound().customEq.join();
 expect(sound().eqType === 16, "what is drawn is the live curve");
 expect(drawn !== "12,12,12,12,12,12,12,12,12,12,12,12,12");

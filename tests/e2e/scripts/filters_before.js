@@ -1,10 +1,5 @@
 // Leaves filters and delays that are unlike the factory's; filters_after.js finds them again.
-var blink = 200;
-
-function use(place) {
-    tap(place);
-    wait(blink);
-}
+import { use } from "./steps.js";
 
 open("audiosetting");
 use("key_crossover");

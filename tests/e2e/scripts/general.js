@@ -1,10 +1,5 @@
 // The General page by finger: screen, store and sound agree after every step.
-var blink = 200;
-
-function use(place) {
-    tap(place);
-    wait(blink);
-}
+import { use } from "./steps.js";
 
 open("audiosetting");
 expect("Txt_title", "text", "General");

@@ -1,22 +1,22 @@
 // A finger that rests on something while another application's request takes the page away.
-var blink = 200;
+import { settle } from "./steps.js";
 
 open("audiosetting");
-wait(blink);
+settle();
 tap("key_Subwoofer");
-wait(blink);
+settle();
 
 function takenAway(place, x, y) {
     press(place);
     request();
     expect("Txt_title", "text", "Volume Settings");
     move(x, y);
-    wait(blink);
+    settle();
     release();
-    wait(blink);
+    settle();
     expect("Txt_title", "text", "Volume Settings");
     tap("key_return");
-    wait(blink);
+    settle();
     expect("Txt_title", "text", "General");
 }
 
@@ -35,5 +35,5 @@ expect(sound().balance === 0);
 
 // Nothing is left held.
 tap("key_subvol_next");
-wait(blink);
+settle();
 expect("txt_vol_level", "text", "4");

@@ -1,10 +1,5 @@
 // Every way between the pages, and out.
-var guard = 200;  // longer than the tabs' guard against double taps
-
-function use(place) {
-    tap(place);
-    wait(guard);
-}
+import { settle, use } from "./steps.js";
 
 function title(text) {
     expect("Txt_title", "text", text);
@@ -30,7 +25,7 @@ tap("key_eq");
 title("General");
 expect("key_general", "checked", true);
 expect("key_eq", "checked", false);
-wait(guard);
+settle();
 
 use("key_advanced");
 title("Audio Settings");

@@ -1,12 +1,7 @@
 // Another application asks for Volume Settings.
-var guard = 200;
-
-function use(place) {
-    tap(place);
-    wait(guard);
-}
-
 // At the very first opening.
+import { settle, use } from "./steps.js";
+
 use("tile_car");
 use("car_request");
 expect("Txt_title", "text", "Volume Settings");
@@ -44,7 +39,7 @@ expect("home", "visible", true);
 use("tile_car");
 use("car_request");
 request();
-wait(guard);
+settle();
 use("key_return");
 expect("Txt_title", "text", "Volume Settings");
 use("key_return");

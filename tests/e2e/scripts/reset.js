@@ -1,18 +1,13 @@
 // Everything is changed, then reset: screen, store and sound are those of the factory.
-var guard = 200;
-
-function use(place) {
-    tap(place);
-    wait(guard);
-}
+import { settle, use } from "./steps.js";
 
 open("audiosetting");
-wait(guard);
+settle();
 use("key_Subwoofer");
 use("key_subvol_next");
 use("key_Phase_180");
 drag("settings::balanceFaderControl", 132, 130, 192, 70);
-wait(guard);
+settle();
 use("key_advanced");
 use("Key_001_loudness");
 expect(sound().loudness === true);

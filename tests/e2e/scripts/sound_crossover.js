@@ -1,19 +1,5 @@
 // Every step of crossovers and delays, and Flat, by finger, heard at the loudspeakers.
-var guard = 200;
-
-function use(place, y) {
-    tap(place, y);
-    wait(guard);
-}
-
-// What each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
-function hears(what, hz, expected, input) {
-    var is = heard(hz, input || 0).db;
-    for (var i = 0; i < 6; ++i) {
-        var same = is[i] === expected[i] || Math.abs(is[i] - expected[i]) < 0.05;
-        expect(same, what + ": loudspeaker " + i + " gives " + is[i] + " dB at " + hz + " Hz, not " + expected[i]);
-    }
-}
+import { hears, settle, use } from "./steps.js";
 
 var main = -36;
 var sub = main + (3 - 10) * 1.5; // a new unit's subwoofer level, once it is on
@@ -32,7 +18,7 @@ function withPair(first, by) {
 }
 
 open("audiosetting");
-wait(guard);
+settle();
 use("key_Subwoofer");
 hears("flat", 100, flat);
 

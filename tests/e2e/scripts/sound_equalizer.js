@@ -1,19 +1,5 @@
 // Every band of the equaliser, every factory curve, every slot and Flat, by finger, heard at the loudspeakers.
-var guard = 200;
-
-function use(place, y) {
-    tap(place, y);
-    wait(guard);
-}
-
-// What each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
-function hears(what, hz, expected, input) {
-    var is = heard(hz, input || 0).db;
-    for (var i = 0; i < 6; ++i) {
-        var same = is[i] === expected[i] || Math.abs(is[i] - expected[i]) < 0.05;
-        expect(same, what + ": loudspeaker " + i + " gives " + is[i] + " dB at " + hz + " Hz, not " + expected[i]);
-    }
-}
+import { hears, settle, use } from "./steps.js";
 
 var main = -36;
 var bands = [63, 100, 160, 250, 400, 630, 1000, 1600, 2500, 4000, 6300, 10000, 16000];
@@ -37,7 +23,7 @@ var flat = bands.map(function () {
 });
 
 open("audiosetting");
-wait(guard);
+settle();
 use("key_factoryeq");
 Object.keys(curves).forEach(function (key) {
     use(key);
@@ -54,7 +40,7 @@ bands.forEach(function (hz, band) {
     var x = 177 + 68 * band;
     var steps = 1 + band % 3;
     press(x, 345);
-    wait(guard);
+    settle();
     gains[band] = -12;
     hearsCurve("slider of " + hz + " Hz down", gains);
     release();

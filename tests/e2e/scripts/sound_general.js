@@ -1,19 +1,5 @@
 // Every control of the General page and Loudness, by finger, heard at the loudspeakers.
-var guard = 200;
-
-function use(place, y) {
-    tap(place, y);
-    wait(guard);
-}
-
-// What each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
-function hears(what, hz, expected, input) {
-    var is = heard(hz, input || 0).db;
-    for (var i = 0; i < 6; ++i) {
-        var same = is[i] === expected[i] || Math.abs(is[i] - expected[i]) < 0.05;
-        expect(same, what + ": loudspeaker " + i + " gives " + is[i] + " dB at " + hz + " Hz, not " + expected[i]);
-    }
-}
+import { hears, settle, use } from "./steps.js";
 
 var silent = -Infinity;
 var main = -36; // a new unit's volume, 16 of 40
@@ -49,7 +35,7 @@ hears("a new unit", 1000, field(0, 0, 0, 0));
 
 // The pad
 drag("settings::balanceFaderControl", 132, 130, 132 - 36, 130 - 24);
-wait(guard);
+settle();
 hears("pad", 1000, field(0, -12, 0, -8));
 use("Audiosetting_right_general_widget/Key_update");
 

@@ -1,19 +1,5 @@
 // Every volume, every source gain and the reset, by finger, heard at the loudspeakers.
-var guard = 200;
-
-function use(place, y) {
-    tap(place, y);
-    wait(guard);
-}
-
-// What each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
-function hears(what, hz, expected, input) {
-    var is = heard(hz, input || 0).db;
-    for (var i = 0; i < 6; ++i) {
-        var same = is[i] === expected[i] || Math.abs(is[i] - expected[i]) < 0.05;
-        expect(same, what + ": loudspeaker " + i + " gives " + is[i] + " dB at " + hz + " Hz, not " + expected[i]);
-    }
-}
+import { hears, settle, use } from "./steps.js";
 
 function everywhere(db) {
     return [db, db, db, db, -Infinity, -Infinity];
@@ -34,7 +20,7 @@ function hearsLevels(what) {
 }
 
 open("audiosetting");
-wait(guard);
+settle();
 hearsLevels("a new unit");
 
 use("key_advanced");

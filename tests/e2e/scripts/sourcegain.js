@@ -1,13 +1,8 @@
 // Gains of the sources, and that they are the sound's again after the page was left.
-var guard = 200;
-
-function use(place) {
-    tap(place);
-    wait(guard);
-}
+import { settle, use } from "./steps.js";
 
 open("audiosetting");
-wait(guard);
+settle();
 use("key_advanced");
 use("Key_003_source_gain");
 use("key_radio_plus");

@@ -1,11 +1,6 @@
 // The Timing page by finger: screen, store and sound agree after every step. The page sends nothing on Flat, the unit
 // does.
-var blink = 200;
-
-function use(place) {
-    tap(place);
-    wait(blink);
-}
+import { use } from "./steps.js";
 
 function delays(expected) {
     var is = sound().delay.join();

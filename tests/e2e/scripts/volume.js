@@ -1,13 +1,8 @@
 // Levels changed on the page, by the keys beside the screen, and by another application.
-var guard = 200;
-
-function use(place) {
-    tap(place);
-    wait(guard);
-}
+import { settle, use } from "./steps.js";
 
 open("audiosetting");
-wait(guard);
+settle();
 use("key_advanced");
 use("Key_004_vol_settings");
 use("key_main_plus");
