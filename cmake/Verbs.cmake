@@ -55,6 +55,7 @@ endfunction()
 # What every test runs in.
 set(audiosetting_test_environment
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1;\
+QT_SCREEN_SCALE_FACTORS=;QT_FONT_DPI=96;\
 LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 
 # audiosetting_test(NAME SOURCES FILE... [LINK LIBRARY...] [LABELS LABEL...]): a QTest program, run by ctest.

@@ -32,6 +32,7 @@ bool differs(QRgb a, QRgb b) {
 void TestTour::initTestCase() {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("QT_FONT_DPI", "144");  // the desk's, which the unit leaves alone
     QProcess tour;
     tour.setProcessEnvironment(environment);
     tour.start(HEADUNIT, {"--tour", m_folder.path()});
