@@ -126,6 +126,14 @@ release();
 steps[1] = 99;
 arrives("the longest");
 hears("delayed", 100, flat);
+// Inches are only another way to show it.
+use("key_inches");
+arrives("inches");
+use("key_rl_plus");
+++steps[2];
+arrives("a step in inches");
+use("key_msec");
+arrives("milliseconds again");
 keep("key_preset_2");
 var kept = steps;
 use("Key_update");

@@ -48,9 +48,16 @@ for (var level = 3; level <= 15; ++level) {
         use("key_subvol_next");
     }
 }
-use("key_subvol_prev");
-sub -= 1.5;
-hears("subwoofer a step down", 50, field(0, 0, 0, 0));
+for (level = 14; level >= 0; --level) {
+    use("key_subvol_prev");
+    sub = level === 0 ? silent : main + (level - 10) * 1.5;
+    hears("subwoofer down to level " + level, 50, field(0, 0, 0, 0));
+}
+for (level = 1; level <= 14; ++level) {
+    use("key_subvol_next");
+}
+sub = main + (14 - 10) * 1.5;
+hears("subwoofer up again", 50, field(0, 0, 0, 0));
 var phase = heard(50).deg;
 use("key_Phase_180");
 hears("turned", 50, field(0, 0, 0, 0));

@@ -35,11 +35,17 @@ function scroll() {
     wait(1000);
 }
 
-// The rows in the order of the page, with their inputs
-[["main", 0], ["phone_volume", 2], ["voice_volume", 4], ["navig_volume", 3],
- ["ringtone_volume", 1]].forEach(function (row, number) {
+// Where a finger has a slider at that level
+function sliderX(level) {
+    return Math.round(364 + 14.75 * level);
+}
+
+// The rows in the order of the page, with their inputs, and where their sliders stand once they are scrolled to
+[["main", 0, 256], ["phone_volume", 2, 271], ["voice_volume", 4, 287], ["navig_volume", 3, 350],
+ ["ringtone_volume", 1, 530]].forEach(function (row, number) {
     var name = row[0];
     var input = row[1];
+    var sliderY = row[2];
     if (number > 0 && number < 4) {
         scroll();
     }
@@ -51,14 +57,28 @@ function scroll() {
     }
     levels[input] = 15 - number;
     hearsLevels(name + " down");
+    press(sliderX(0), sliderY);
+    [0, 40, 10 + number].forEach(function (level) {
+        move(sliderX(level), sliderY);
+        settle();
+        levels[input] = level;
+        hearsLevels(name + " by its slider");
+    });
+    release();
+    settle();
+    hearsLevels(name + ", slider let go");
 });
 // The row for traffic announcements is not on this unit's page; its level comes from elsewhere.
 volume(6, 30);
 levels[5] = 30;
 hearsLevels("announcements");
 use("hardkey_volume_up");
-levels[0] = 16;
-hearsLevels("hard key");
+++levels[0];
+hearsLevels("hard key up");
+use("hardkey_volume_down");
+use("hardkey_volume_down");
+levels[0] -= 2;
+hearsLevels("hard key down");
 volume(0, 0);
 levels[0] = 0;
 hearsLevels("main volume 0");
