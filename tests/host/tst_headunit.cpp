@@ -6,6 +6,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
 // The built program, as a person starts it: exit codes, and what it prints.
 class TestHeadunit : public QObject {
     Q_OBJECT
@@ -16,6 +21,9 @@ private Q_SLOTS:
     void wrongCommandLine_data();
     void wrongCommandLine();
     void measures();
+    void measuresOntoAFullDisk_data();
+    void measuresOntoAFullDisk();
+    void measuresIntoFilesOnly();
     void pluginsThatFail();
     void openWithAFailedPlugin();
     void exitWhenShown();
@@ -142,6 +150,40 @@ void TestHeadunit::measures() {
     QCOMPARE(lines.at(120).split(',').mid(1),
              (QList<QByteArray>{"-36.0000", "0.0000", "-36.0000", "0.0000", "-36.0000", "0.0000", "-36.0000", "0.0000",
                                 "-inf", "0.0000", "-inf", "0.0000", "-23.9588", "0.0000"}));
+}
+
+void TestHeadunit::measuresOntoAFullDisk_data() {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("table") << "response.csv";
+    QTest::newRow("picture") << "response.png";
+}
+
+void TestHeadunit::measuresOntoAFullDisk() {
+    QFETCH(QString, name);
+    QFile file(write(name, "what was there"));
+    // A limit on the size of files stands for the full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const rlimit small = {8192, usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    const Result result = run({"--measure", name});
+    setrlimit(RLIMIT_FSIZE, &usual);
+    QCOMPARE(result.err, "headunit: " + name + ": File too large\n");
+    QCOMPARE(result.code, 2);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("what was there"));
+}
+
+void TestHeadunit::measuresIntoFilesOnly() {
+    const QByteArray pipe = QFile::encodeName(m_folder->filePath("pipe.csv"));
+    QCOMPARE(mkfifo(pipe.constData(), S_IRUSR | S_IWUSR), 0);
+    const Result result = run({"--measure", "pipe.csv"});
+    QCOMPARE(result.err, QString("headunit: pipe.csv: this is no file that could be replaced\n"));
+    QCOMPARE(result.code, 2);
+    struct stat now = {};
+    QCOMPARE(stat(pipe.constData(), &now), 0);
+    QVERIFY(S_ISFIFO(now.st_mode));
 }
 
 void TestHeadunit::pluginsThatFail() {

@@ -7,7 +7,9 @@
 #include "headunit/audio/files/render.h"
 #include "headunit/audio/soundmodel.h"
 
+#include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <cstdio>
@@ -26,18 +28,39 @@ QString render(const SoundJob &job) {
     return QFile::decodeName(problem.c_str());
 }
 
+QByteArray png(const QImage &image) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+
+/// A disk that becomes full takes the first part and says so only when it is asked to take the rest.
+bool writeWhole(QIODevice &device, const QByteArray &bytes) {
+    for (int done = 0; done < bytes.size();) {
+        const qint64 taken = device.write(bytes.constData() + done, bytes.size() - done);
+        if (taken <= 0) {
+            return false;
+        }
+        done += static_cast<int>(taken);
+    }
+    return true;
+}
+
 QString measureInto(const QString &name) {
     const bool plotted = name.endsWith(QLatin1String(".png"), Qt::CaseInsensitive);
     if (!plotted && !name.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive)) {
         return QStringLiteral("--measure %1: the name must end in .csv or .png").arg(name);
     }
+    const QFileInfo existing(name);
+    if (existing.exists() && !existing.isFile()) {
+        return QStringLiteral("%1: this is no file that could be replaced").arg(name);
+    }
     const auto points = engine::measure(SoundModel::instance().state(), engine::audibleFrequencies());
     QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return QStringLiteral("%1: %2").arg(name, file.errorString());
-    }
-    const bool written = plotted ? responsePlot(points).save(&file, "PNG") : file.write(responseTable(points)) >= 0;
-    if (!written || !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) ||
+        !writeWhole(file, plotted ? png(responsePlot(points)) : responseTable(points)) || !file.commit()) {
         return QStringLiteral("%1: %2").arg(name, file.errorString());
     }
     return QString();
