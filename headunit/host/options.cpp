@@ -83,8 +83,12 @@ QString problem(const QCommandLineParser &parser) {
     if (given.size() > 1) {
         return QStringLiteral("%1 do not go together").arg(given.join(QStringLiteral(" and ")));
     }
-    if (parser.isSet(QStringLiteral("render")) && parser.positionalArguments().size() != 1) {
+    const QStringList files = parser.positionalArguments();
+    if (parser.isSet(QStringLiteral("render")) && (files.size() != 1 || files.first().isEmpty())) {
         return QStringLiteral("--render needs two files: the one to play, and the one to write");
+    }
+    if (parser.isSet(QStringLiteral("measure")) && !files.isEmpty()) {
+        return QStringLiteral("--measure writes one file, so %1 is one too many").arg(files.first());
     }
     return QString();
 }

@@ -86,6 +86,8 @@ void TestOptions::refuses_data() {
     row("render and measure", "--render a --measure b c", "--render and --measure");
     row("render without a second file", "--render a", "--render");
     row("render with a third file", "--render a b c", "--render");
+    row("render into a file without a name", "--render a ", "--render");
+    row("measure into two files", "--measure a.csv b.png", "b.png");
 }
 
 void TestOptions::refuses() {
@@ -100,7 +102,8 @@ void TestOptions::refuses() {
 void TestOptions::helpNamesEveryOption() {
     const QString help = headunit::optionsHelp();
     for (const char *name : {"--help", "--version", "--root <DIR>", "--scale <N>", "--language <xx>", "--open <NAME>",
-                             "--script <FILE.js>", "--tour <DIR>", "--trace", "--verbose", "--exit-when-shown"}) {
+                             "--script <FILE.js>", "--tour <DIR>", "--play <WHAT>", "--meters", "--render <IN>",
+                             "--measure <OUT>", "--trace", "--verbose", "--exit-when-shown"}) {
         QVERIFY2(help.contains(QLatin1String(name)), name);
     }
 }
