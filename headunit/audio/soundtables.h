@@ -36,5 +36,7 @@ constexpr Range flag = {0, 1};
 constexpr int neutralSourceGain = 10;  ///< a source gain counts from here, 1 dB a step
 constexpr int neutralBandValue = 12;   ///< a band value counts from here, 1 dB a step
 constexpr int neutralFilterLevel = 12;
+constexpr int neutralSubwooferLevel = 10;
+constexpr double decibelsPerLevel = 1.5;  ///< of channels and of the subwoofer
 
 }  // namespace headunit

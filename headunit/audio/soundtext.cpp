@@ -93,14 +93,12 @@ QString sourceGainText(int source, int value) {
 }
 
 QString subwooferLevelText(int level) {
-    constexpr int referenceLevel = 10;
-    constexpr double decibelsPerStep = 1.5;
     if (level == 0) {
         return QStringLiteral("subwoofer silent");
     }
     return QStringLiteral("subwoofer level %1 (%2 dB)")
         .arg(level)
-        .arg((static_cast<double>(level) - referenceLevel) * decibelsPerStep, 0, 'f', 1);
+        .arg((static_cast<double>(level) - neutralSubwooferLevel) * decibelsPerLevel, 0, 'f', 1);
 }
 
 QString filterText(FilterChannel channel, int freq, int slope, int level) {

@@ -8,7 +8,6 @@ namespace headunit::engine {
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr double decibelsPerDecade = 20;
 
 double radians(double hz) {

@@ -5,12 +5,13 @@
 namespace headunit::engine {
 
 constexpr double sampleRate = 48000;  ///< in Hz, everywhere in the engine
+constexpr double pi = 3.14159265358979323846;
 
 /// The order of a frame's samples, as in SoundState::delay.
 enum Output : size_t { FrontLeft, FrontRight, RearLeft, RearRight, SubLeft, SubRight };
 constexpr size_t outputCount = 6;
 
-/// What is mixed. The source that plays is the main channel; a number is that of the channel's level, but for the beep.
+/// What is mixed. The source that plays is the main one.
 enum Input : size_t { MainInput, RingtoneInput, PhoneInput, NavigationInput, VoiceInput, AnnouncementInput, BeepInput };
 constexpr size_t inputCount = 7;
 

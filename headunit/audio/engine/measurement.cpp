@@ -11,7 +11,6 @@ namespace headunit::engine {
 
 namespace {
 
-constexpr double pi = 3.14159265358979323846;
 constexpr size_t impulseFrames = static_cast<size_t>(sampleRate);  ///< by then the lowest filter has died away
 constexpr float impulseHeight = 1.0F / 256;                        ///< too low for the limiter, whatever is set
 

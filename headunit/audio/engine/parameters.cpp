@@ -12,14 +12,8 @@ namespace headunit::engine {
 
 namespace {
 
-constexpr double decibelsPerLevel = 1.5;
 constexpr double decibelsPerSide = 2;
-constexpr int neutralSubwooferLevel = 10;
 constexpr double delayStepsPerSecond = 10000;
-constexpr size_t mainChannel = 0;
-
-/// The channel whose level each input has; a key click is as loud as what it is heard with.
-constexpr std::array<size_t, inputCount> channelOfInput = {mainChannel, 1, 2, 3, 4, 6, mainChannel};
 
 int within(int value, const Range &range) {
     return std::clamp(value, range.low, range.high);
@@ -81,7 +75,7 @@ int delaySamples(int steps) {
 /// The loudness's sections come first, then the equaliser's.
 void designTone(const SoundState &state, ChainParameters *chain) {
     if (state.loudness) {
-        const auto loudness = designLoudness(-levelDecibels(levelOf(state, mainChannel)));
+        const auto loudness = designLoudness(-levelDecibels(levelOf(state, channelOfInput[MainInput])));
         std::copy(loudness.begin(), loudness.end(), chain->tone.begin());
     }
     const Curve curve = curveInForce(state);

@@ -16,6 +16,9 @@ namespace headunit::engine {
 constexpr size_t toneSections = 20;
 static_assert(bandCount + loudnessSections <= toneSections, "the sections do not fit");
 
+/// The channel whose level each input has; a key click is as loud as what it is heard with.
+constexpr std::array<size_t, inputCount> channelOfInput = {0, 1, 2, 3, 4, 6, 0};
+
 /// The filters and gains behind the mix.
 struct ChainParameters {
     std::array<Biquad, toneSections> tone;

@@ -7,9 +7,8 @@ namespace headunit {
 
 namespace {
 
+using engine::pi;
 using engine::sampleRate;
-
-constexpr double pi = 3.14159265358979323846;
 
 /// Evenly spread over -1 to 1.
 float randomSample(uint32_t *state) {

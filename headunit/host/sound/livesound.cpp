@@ -6,6 +6,7 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace headunit {
@@ -14,20 +15,9 @@ namespace {
 
 /// The input that a channel's level belongs to; the main one for those without a sound of their own.
 engine::Input inputOfChannel(int channel) {
-    switch (channel) {
-        case 1:
-            return engine::RingtoneInput;
-        case 2:
-            return engine::PhoneInput;
-        case 3:
-            return engine::NavigationInput;
-        case 4:
-            return engine::VoiceInput;
-        case 6:
-            return engine::AnnouncementInput;
-        default:
-            return engine::MainInput;
-    }
+    const auto &channels = engine::channelOfInput;
+    const auto found = std::find(channels.begin(), channels.end(), static_cast<size_t>(channel));
+    return found == channels.end() ? engine::MainInput : static_cast<engine::Input>(found - channels.begin());
 }
 
 }  // namespace

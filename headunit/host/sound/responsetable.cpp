@@ -24,8 +24,7 @@ double responseDecibels(std::complex<double> response) {
 
 double responseDegrees(std::complex<double> response) {
     constexpr double degreesPerTurn = 360;
-    constexpr double pi = 3.14159265358979323846;
-    return std::arg(response) * degreesPerTurn / (2 * pi);
+    return std::arg(response) * degreesPerTurn / (2 * engine::pi);
 }
 
 QByteArray responseTable(const std::vector<engine::MeasuredPoint> &points) {
