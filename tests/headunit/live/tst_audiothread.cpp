@@ -268,6 +268,8 @@ void TestAudioThread::playsAlone() {
             }
             ended = true;
         });
+    qInfo("%d blocks: %d allocations, %d locks, %d system calls", played.load(), done.allocations, done.locks,
+          done.systemCalls);
     QCOMPARE(done.allocations, 0);
     QCOMPARE(done.locks, 0);
     QCOMPARE(done.systemCalls, 0);
