@@ -221,6 +221,14 @@ void TestHeadunit::scriptResults_data() {
     QTest::newRow("source") << QByteArray("source(7);") << 1 << ":1: Error: there is no source 7";
     QTest::newRow("application") << QByteArray("open('x');") << 1 << ":1: Error: there is no application \"x\"";
     QTest::newRow("a value thrown") << QByteArray("throw 'it';") << 1 << ": it";
+    QTest::newRow("undefined thrown") << QByteArray("throw undefined;") << 1 << ": undefined";
+    QTest::newRow("null thrown") << QByteArray("throw null;") << 1 << ": null";
+    QTest::newRow("nothing but a prototype thrown") << QByteArray("throw Object.create(null);") << 1 << ": TypeError: ";
+    QTest::newRow("a symbol thrown") << QByteArray("throw Symbol('it');") << 1 << ": Symbol(it)";
+    QTest::newRow("what throws itself thrown")
+        << QByteArray("throw { toString: function () { throw 'it'; } };") << 1 << ": it";
+    QTest::newRow("an error of two lines") << QByteArray("throw new Error('a\\nb');") << 1 << ":1: Error: a b\n";
+    QTest::newRow("promise") << QByteArray("\nPromise.reject(1);") << 1 << ":2: ReferenceError: Promise is not defined";
     QTest::newRow("import of nothing") << QByteArray("import './none.js';") << 1 << ": Error: Could not open module ";
     QTest::newRow("first error ends it") << QByteArray("tap('nothing'); shot('late.png');") << 1
                                          << ":1: Error: nothing named";
@@ -249,6 +257,17 @@ void TestHeadunit::scriptsImportOthers() {
     Result result = run({"--script", good});
     QCOMPARE(result.err, QString());
     QCOMPARE(result.out, QStringLiteral("yes\n"));
+    // Whatever is thrown in the other file ends the script as well.
+    write("throws.js", "throw undefined;");
+    const QString importing = write("importing.js", "import './throws.js';");
+    result = run({"--script", importing});
+    QCOMPARE(result.code, 1);
+    QCOMPARE(result.err, importing + ": undefined\n");
+    // Two that import each other, and one that is imported twice
+    write("one.js", "import './two.js';\nlog('one');");
+    result = run({"--script", write("two.js", "import './one.js';\nimport * as one from './one.js';\nlog('two');")});
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.out, QStringLiteral("one\ntwo\n"));
     const QString bad = write("b %20 d.js", "import { use } from './steps.js';\n\nuse('nothing');");
     result = run({"--script", bad});
     QCOMPARE(result.code, 1);
