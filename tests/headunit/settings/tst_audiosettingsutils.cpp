@@ -6,6 +6,7 @@
 #include "headunit/settings/unitsettings.h"
 #include "logwatch.h"
 #include "platform/settingscache.h"
+#include "saved.h"
 
 #include <QtTest>
 
@@ -57,6 +58,7 @@ private Q_SLOTS:
 
 private:
     void restart() {
+        QVERIFY(saved());
         closeSettings();
         openSettings();
     }
@@ -81,6 +83,7 @@ void tst_AudioSettingsUtils::cleanup() {
     setSoundListener({});
     setTraceSink({});
     setTraceReads(false);
+    QVERIFY(saved());
     closeSettings();
 }
 
