@@ -224,6 +224,7 @@ void tst_AudioSettingsUtils::clearWithoutFactoryFile_data() {
 void tst_AudioSettingsUtils::clearWithoutFactoryFile() {
     QFETCH(QString, kind);
     audioStore().set("kept", 1);  // not a first start, so no factory file is put there
+    QVERIFY(saved());
     closeSettings();
     QVERIFY(QFile::remove(factoryFile()));
     QFile file(factoryFile());
