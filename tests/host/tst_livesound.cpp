@@ -9,6 +9,7 @@
 #include "tests/headunit/files/soundfiletest.h"
 #include "tests/headunit/live/soundserver.h"
 
+#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -139,6 +140,7 @@ private:
 
 void TestLiveSound::initTestCase() {
     qputenv("PULSE_SERVER", SoundServer::address(m_folder));
+    qputenv("HOME", QFile::encodeName(m_folder.path()));  // a client keeps its cookie there
     m_tone = m_folder.filePath("tone.wav");
     soundfiletest::write(m_tone.toStdString(), soundfiletest::tone(48000, 2, 1000, 0.1, double(amplitude)));
     setUnitRoot(m_folder.filePath("root"));
