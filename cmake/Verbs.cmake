@@ -52,10 +52,12 @@ function(headunit_library name)
     target_link_libraries(${name} PUBLIC headunit_contract Qt5::Core ${ARG_LINK})
 endfunction()
 
-# What every test runs in.
+# What every test runs in, and for how long (s) at most: a busy machine with a slow disk is no reason to fail.
+set(audiosetting_test_timeout 1800)
 set(audiosetting_test_environment
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1;\
-QT_SCREEN_SCALE_FACTORS=;QT_FONT_DPI=96;\
+QT_SCREEN_SCALE_FACTORS=;QT_FONT_DPI=96;LANGUAGE=;QT_MESSAGE_PATTERN=;QT_LOGGING_CONF=;QT_FORCE_STDERR_LOGGING=1;\
+QTEST_FUNCTION_TIMEOUT=1800000;\
 LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 
 # audiosetting_test(NAME SOURCES FILE... [LINK LIBRARY...] [LABELS LABEL...]): a QTest program, run by ctest.
@@ -66,7 +68,7 @@ function(audiosetting_test name)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt5::Test)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 600 LABELS "${ARG_LABELS}"
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${audiosetting_test_timeout} LABELS "${ARG_LABELS}"
         ENVIRONMENT "${audiosetting_test_environment}")
 endfunction()
 

@@ -105,9 +105,13 @@ void SettingsWriter::Shared::saveChanges(std::unique_lock<std::mutex> &lock) {
 
 template <typename Condition> bool SettingsWriter::Shared::waitUntilDone(std::unique_lock<std::mutex> &lock,
                                                                          int timeoutMs, const Condition &condition) {
-    const SaveClock::TimePoint end = clock->now() + milliseconds(timeoutMs);
-    while (!condition() && clock->now() < end) {
-        clock->wait(done, lock, end);
+    // In steps: where the whole process is stopped for a while, that is not the disk's fault, and takes one of them.
+    constexpr milliseconds step(50);
+    for (milliseconds left(timeoutMs); left > milliseconds::zero() && !condition(); left -= step) {
+        const SaveClock::TimePoint end = clock->now() + qMin(left, step);
+        while (!condition() && clock->now() < end) {
+            clock->wait(done, lock, end);
+        }
     }
     return condition();
 }

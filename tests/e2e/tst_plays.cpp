@@ -39,6 +39,7 @@ void TestPlays::initTestCase() {
 void TestPlays::start(QProcess *unit, const QStringList &arguments) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("HOME", m_folder.path());  // a client keeps its cookie there
     environment.insert("PULSE_SERVER", QString::fromLocal8Bit(SoundServer::address(m_folder)));
     unit->setProcessEnvironment(environment);
     unit->setWorkingDirectory(m_folder.path());

@@ -18,6 +18,8 @@ private:
 
 namespace {
 
+constexpr int patience = 240000;  // ms
+
 // Versions of the font renderer differ a little at the edges of letters.
 constexpr int channelTolerance = 24;
 constexpr double differingShare = 0.001;
@@ -36,7 +38,7 @@ void TestTour::initTestCase() {
     QProcess tour;
     tour.setProcessEnvironment(environment);
     tour.start(HEADUNIT, {"--tour", m_folder.path()});
-    QVERIFY(tour.waitForFinished(120000));
+    QVERIFY(tour.waitForFinished(patience));
     QVERIFY2(tour.exitCode() == 0, tour.readAllStandardError());
 }
 

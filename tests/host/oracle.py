@@ -1,13 +1,14 @@
 #!/usr/bin/python3
 """Checks what headunit --render and --measure give against filters that share no code with it: scipy and sox.
 
-usage: oracle.py HEADUNIT FOLDER
+usage: oracle.py HEADUNIT
 """
 import csv
 import os
 import shutil
 import subprocess
 import sys
+import tempfile
 from pathlib import Path
 
 import numpy as np
@@ -22,7 +23,9 @@ REAR_AND_SUB = [0, 25, 40, 63, 100, 250]
 NEUTRAL = {"inputgain0": 40, "Setup_Sub": True, "subwooferLevel": 10, "audioservice/eqtype": 16,
            **{f"eq{band}": 12 for band in range(13)}}
 
-headunit, folder = sys.argv[1], Path(sys.argv[2])
+headunit = sys.argv[1]
+keeper = tempfile.TemporaryDirectory()
+folder = Path(keeper.name)
 failures = []
 
 
@@ -138,7 +141,6 @@ def against_sox():
         check(f"{effect} against sox, sample by sample", np.max(np.abs(ours[output] - theirs[:, output % 2])), 1e-6)
 
 
-folder.mkdir(parents=True, exist_ok=True)
 crossovers()
 equaliser()
 against_sox()

@@ -11,6 +11,12 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+namespace {
+
+constexpr int patience = 240000;  // ms
+
+}  // namespace
+
 // The built program, as a person starts it: exit codes, and what it prints.
 class TestHeadunit : public QObject {
     Q_OBJECT
@@ -83,7 +89,7 @@ TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStri
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(m_folder->path());
     process.start(HEADUNIT, arguments);
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
+    if (!process.waitForFinished(patience) || process.exitStatus() != QProcess::NormalExit) {
         process.kill();
         process.waitForFinished();
         return {-1, QString(), QString::fromUtf8(process.readAllStandardError())};
@@ -263,6 +269,14 @@ void TestHeadunit::scriptResults_data() {
     QTest::newRow("source") << QByteArray("source(7);") << 1 << ":1: Error: there is no source 7";
     QTest::newRow("application") << QByteArray("open('x');") << 1 << ":1: Error: there is no application \"x\"";
     QTest::newRow("a value thrown") << QByteArray("throw 'it';") << 1 << ": it";
+    QTest::newRow("undefined thrown") << QByteArray("throw undefined;") << 1 << ": undefined";
+    QTest::newRow("null thrown") << QByteArray("throw null;") << 1 << ": null";
+    QTest::newRow("nothing but a prototype thrown") << QByteArray("throw Object.create(null);") << 1 << ": TypeError: ";
+    QTest::newRow("a symbol thrown") << QByteArray("throw Symbol('it');") << 1 << ": Symbol(it)";
+    QTest::newRow("what throws itself thrown")
+        << QByteArray("throw { toString: function () { throw 'it'; } };") << 1 << ": it";
+    QTest::newRow("an error of two lines") << QByteArray("throw new Error('a\\nb');") << 1 << ":1: Error: a b\n";
+    QTest::newRow("promise") << QByteArray("\nPromise.reject(1);") << 1 << ":2: ReferenceError: Promise is not defined";
     QTest::newRow("import of nothing") << QByteArray("import './none.js';") << 1 << ": Error: Could not open module ";
     QTest::newRow("first error ends it") << QByteArray("tap('nothing'); shot('late.png');") << 1
                                          << ":1: Error: nothing named";
@@ -291,6 +305,17 @@ void TestHeadunit::scriptsImportOthers() {
     Result result = run({"--script", good});
     QCOMPARE(result.err, QString());
     QCOMPARE(result.out, QStringLiteral("yes\n"));
+    // Whatever is thrown in the other file ends the script as well.
+    write("throws.js", "throw undefined;");
+    const QString importing = write("importing.js", "import './throws.js';");
+    result = run({"--script", importing});
+    QCOMPARE(result.code, 1);
+    QCOMPARE(result.err, importing + ": undefined\n");
+    // Two that import each other, and one that is imported twice
+    write("one.js", "import './two.js';\nlog('one');");
+    result = run({"--script", write("two.js", "import './one.js';\nimport * as one from './one.js';\nlog('two');")});
+    QCOMPARE(result.err, QString());
+    QCOMPARE(result.out, QStringLiteral("one\ntwo\n"));
     const QString bad = write("b %20 d.js", "import { use } from './steps.js';\n\nuse('nothing');");
     result = run({"--script", bad});
     QCOMPARE(result.code, 1);
@@ -344,7 +369,7 @@ void TestHeadunit::debugLines() {
 void TestHeadunit::tourWithoutADisplay_data() {
     QTest::addColumn<QString>("display");
     QTest::newRow("none") << QString();
-    QTest::newRow("one that does not answer") << QStringLiteral("no-such-host.invalid:0");
+    QTest::newRow("one that does not answer") << QStringLiteral(":59000");  // asks no name server
 }
 
 void TestHeadunit::tourWithoutADisplay() {

@@ -13,8 +13,9 @@ namespace {
 
 constexpr int exitGood = 0;
 constexpr int exitFailed = 1;
+constexpr int mostCallers = 8;  // a recursion without an end has thousands
 
-/// "file:line: message", and from where that line was called.
+/// "file:line: message" in one line, and from where that line was called.
 QString description(const QJSValue &error, const QString &file) {
     static const QRegularExpression frame(QStringLiteral("@(.+):(\\d+)$"), QRegularExpression::MultilineOption);
     QStringList places;
@@ -24,20 +25,23 @@ QString description(const QJSValue &error, const QString &file) {
         places += QUrl(match.captured(1)).path(QUrl::FullyDecoded) + QLatin1Char(':') + match.captured(2);
     }
     const QString place = places.isEmpty() ? file : places.takeFirst();  // what cannot be imported has no line
-    QString text = QStringLiteral("%1: %2").arg(place, error.toString());
-    for (const QString &caller : qAsConst(places)) {
-        text += QStringLiteral(", called from %1").arg(caller);
+    QString text = place + QLatin1String(": ") + error.toString();
+    for (const QString &caller : places.mid(0, mostCallers)) {
+        text += QLatin1String(", called from ") + caller;
     }
-    return text;
+    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
 }
 
 int run(ScriptTarget &target, const QString &file, const QString &folder) {
     QJSEngine engine;
+    // A script is over when its last line is: what fails in a promise's callback would be nobody's failure.
+    engine.globalObject().deleteProperty(QStringLiteral("Promise"));
     (new ScriptApi(target, &engine, folder))->install();
     QJSValue result = engine.importModule(file);
     if (!result.isError()) {
-        result = engine.evaluate(QString());  // whatever was thrown while the module ran is pending until now
-        if (result.isUndefined()) {
+        // What was thrown while the module ran, be it undefined, is pending until now, and comes instead of this.
+        result = engine.evaluate(QStringLiteral("var moduleHasEnded = true;"));
+        if (engine.globalObject().hasProperty(QStringLiteral("moduleHasEnded"))) {
             return exitGood;
         }
     }

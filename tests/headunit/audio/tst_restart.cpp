@@ -3,6 +3,7 @@
 #include "headunit/settings/unitroot.h"
 #include "headunit/settings/unitsettings.h"
 #include "pagecalls.h"
+#include "tests/headunit/settings/saved.h"
 
 #include <QtTest>
 
@@ -67,7 +68,7 @@ void tst_Restart::sameSoundAfterRestart() {
             calls.any();
         }
         const SoundState before = sound();
-        QVERIFY(flushSettings());
+        QVERIFY(saved());
         QVERIFY(soundOnDisk() == before);
         if (round % 20 == 0) {
             closeSettings();
@@ -126,6 +127,7 @@ void tst_Restart::resetToAnotherFactoryState() {
 
 void tst_Restart::resetWithoutFactoryFile() {
     mixUp(m_seed);
+    QVERIFY(saved());
     closeSettings();
     QVERIFY(QFile::remove(resolveUnitPath("/media/flash/nvm/factory/audiosettings.ini")));
     QCOMPARE(openSettings(), QStringList());
@@ -142,6 +144,7 @@ void tst_Restart::restartAfterReset() {
     SoundState expected = sound();
     expected.sourceGain.fill(10);  // what the store says, now that nobody sends
     expected.subwooferLevel = 0;   // likewise: switched off
+    QVERIFY(saved());
     closeSettings();
     QCOMPARE(openSettings(), QStringList());
     QVERIFY(sound() == expected);

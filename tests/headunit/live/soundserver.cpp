@@ -46,7 +46,12 @@ SoundServer::SoundServer(const QTemporaryDir &folder, Socket socket)
         m_environment.insert(name, folder.path());
     }
     m_environment.insert("LC_ALL", "C");
-    m_environment.remove("PULSE_SERVER");  // with one, the program would not be a server itself
+    const QStringList names = m_environment.keys();
+    for (const QString &name : names) {
+        if (name.startsWith("PULSE_")) {  // with PULSE_SERVER, the program would not be a server itself
+            m_environment.remove(name);
+        }
+    }
     m_programs = socket == Socket::Named ? protocolAt(folder, programs) : QString(protocol);
     if (socket != Socket::Named) {
         m_environment.remove("XDG_RUNTIME_DIR");
@@ -110,7 +115,8 @@ QString SoundServer::streams() const {
 std::unique_ptr<QProcess> SoundServer::record(const QString &device, const QString &channels) const {
     auto recorder = std::make_unique<Process>();
     recorder->setProcessEnvironment(m_environment);
-    recorder->start("parec", {"--raw", "--format=float32le", "--rate=48000", "--no-remix", "--latency-msec=20",
+    // The server keeps 4 MB for a recorder that does not run: seven seconds of six channels of 16 bits.
+    recorder->start("parec", {"--raw", "--format=s16le", "--rate=48000", "--no-remix", "--latency-msec=20",
                               QStringLiteral("--channels=%1").arg(channelCount(channels)), "--channel-map=" + channels,
                               "--device=" + device + ".monitor"});
     return recorder;

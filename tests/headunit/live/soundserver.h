@@ -28,7 +28,8 @@ public:
     void hangUp();
     /// What plays, as "6ch on NAME", where NAME is the device; joined by commas.
     QString streams() const;
-    /// Starts to record what a device plays on \a channels, in raw floats; stops when the process is deleted.
+    /// Starts to record what a device plays on \a channels, as raw numbers of 16 bits; stops when the process is
+    /// deleted.
     std::unique_ptr<QProcess> record(const QString &device, const QString &channels) const;
 
     static constexpr char sixChannels[] = "front-left,front-right,rear-left,rear-right,side-left,side-right";

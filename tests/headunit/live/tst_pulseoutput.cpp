@@ -76,6 +76,7 @@ private:
 void TestPulseOutput::init() {
     m_folder = std::make_unique<QTemporaryDir>();
     qputenv("PULSE_SERVER", SoundServer::address(*m_folder));
+    qputenv("HOME", QFile::encodeName(m_folder->path()));  // a client keeps its cookie there
 }
 
 void TestPulseOutput::saysOnceThatNoServerAnswers() {

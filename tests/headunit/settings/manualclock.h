@@ -58,6 +58,11 @@ public:
         std::unique_lock<std::mutex> own(m_mutex);
         m_begun.wait(own, [this] { return m_waits > m_waitsBefore; });
     }
+    /// Whether that is so already.
+    bool hasSettled() const {
+        const std::lock_guard<std::mutex> own(m_mutex);
+        return m_waits > m_waitsBefore;
+    }
 
 private:
     struct Waiting {

@@ -6,6 +6,7 @@
 #include "headunit/settings/unitsettings.h"
 #include "logwatch.h"
 #include "platform/settingscache.h"
+#include "saved.h"
 
 #include <QtTest>
 
@@ -57,6 +58,7 @@ private Q_SLOTS:
 
 private:
     void restart() {
+        QVERIFY(saved());
         closeSettings();
         openSettings();
     }
@@ -81,6 +83,7 @@ void tst_AudioSettingsUtils::cleanup() {
     setSoundListener({});
     setTraceSink({});
     setTraceReads(false);
+    QVERIFY(saved());
     closeSettings();
 }
 
@@ -221,6 +224,7 @@ void tst_AudioSettingsUtils::clearWithoutFactoryFile_data() {
 void tst_AudioSettingsUtils::clearWithoutFactoryFile() {
     QFETCH(QString, kind);
     audioStore().set("kept", 1);  // not a first start, so no factory file is put there
+    QVERIFY(saved());
     closeSettings();
     QVERIFY(QFile::remove(factoryFile()));
     QFile file(factoryFile());

@@ -15,6 +15,7 @@ using namespace headunit;
 namespace {
 
 constexpr qint64 changesPerFlush = 4096;
+constexpr int patienceMs = 60000;
 
 /// What the child says after each pair of changes.
 struct Report {
@@ -38,7 +39,7 @@ int countUntilKilled(const QString &path, bool flushing) {
     for (qint64 number = store.intValue("first", 0) + 1;; ++number) {
         store.set("first", static_cast<int>(number));
         store.set("second", static_cast<int>(number));
-        if (flushing && number % changesPerFlush == 0 && store.flush()) {
+        if (flushing && number % changesPerFlush == 0 && store.flush(patienceMs)) {
             flushed = number;
         }
         const Report report{number, flushed, nowNs()};

@@ -16,7 +16,7 @@ using namespace headunit;
 namespace {
 
 constexpr int longestLossMs = 100;
-constexpr int patienceMs = 20000;
+constexpr int patienceMs = 60000;
 
 }  // namespace
 

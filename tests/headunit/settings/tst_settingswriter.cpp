@@ -53,6 +53,7 @@ private Q_SLOTS:
     void flushDoesNotWaitForTheTime();
     void flushWithoutChangesIsNoSave();
     void flushGivesUp();
+    void aStopOfTheProcessIsNotTheDisks();
     void triesAgain();
     void aChangeBringsTheRetryForward();
     void aChangeDuringAFailingSaveWaitsForNoRetry();
@@ -159,6 +160,31 @@ void tst_SettingsWriter::flushGivesUp() {
     const auto before = m_clock->now();
     QVERIFY(!whileTimeRuns([this] { return m_writer->flush(50); }));
     QVERIFY(m_clock->now() - before >= std::chrono::milliseconds(50));
+}
+
+void tst_SettingsWriter::aStopOfTheProcessIsNotTheDisks() {
+    std::atomic<bool> blocked{false};
+    std::atomic<bool> returned{false};
+    const int before = m_disk.begun;
+    std::thread machine([&] {
+        const std::lock_guard<std::mutex> disk(m_disk.mutex);  // does not answer yet
+        blocked = true;
+        while (m_disk.begun == before) {
+            std::this_thread::yield();
+        }
+        m_clock->advance(SettingsWriter::finishTimeMs);
+        while (!returned && !m_clock->hasSettled()) {
+            std::this_thread::yield();
+        }
+    });
+    while (!blocked) {
+        std::this_thread::yield();
+    }
+    m_writer->put("a", 1);
+    const bool saved = m_writer->finish();
+    returned = true;
+    machine.join();
+    QVERIFY(saved);
 }
 
 void tst_SettingsWriter::triesAgain() {

@@ -5,6 +5,7 @@
 #include "logwatch.h"
 #include "platform/settingscache.h"
 #include "platform/settingsfunc.h"
+#include "saved.h"
 
 #include <QtTest>
 
@@ -77,7 +78,7 @@ void tst_UnitSettings::firstStart() {
     QVERIFY(sharedStore().values().isEmpty());
     audioStore().set("a", 1);
     sharedStore().set("b", 2);
-    QVERIFY(flushSettings());
+    QVERIFY(saved());
     QVERIFY(QFile::exists(inRoot("settings/audiosettings.json")));
     QVERIFY(QFile::exists(inRoot("settings/sharedsettings.json")));
     closeSettings();
@@ -90,6 +91,7 @@ void tst_UnitSettings::firstStart() {
 void tst_UnitSettings::factoryFileIsNotPutBack() {
     openSettings();
     audioStore().set("a", 1);
+    QVERIFY(saved());
     closeSettings();
     QVERIFY(QFile::remove(inRoot("factory/audiosettings.ini")));
     QCOMPARE(openSettings(), QStringList());  // nobody needs it until a reset
@@ -143,6 +145,7 @@ void tst_UnitSettings::sharedSettings() {
     QCOMPARE(settings->getValue("SettingTouchPageType", 0), 3);
     QCOMPARE(spy.count(), 0);
     QVERIFY(audioStore().intValue("SettingTouchPageType", -1) == -1);
+    QVERIFY(saved());
     closeSettings();
     openSettings();
     QCOMPARE(settings->getValue("SettingTouchPageType", 0), 3);
