@@ -41,6 +41,7 @@ private Q_SLOTS:
     void trace();
     void traceOfAVisit();
     void debugLines();
+    void tourThatCannotKeepAPicture();
     void tourWithoutADisplay_data();
     void tourWithoutADisplay();
     void damagedSettings();
@@ -364,6 +365,14 @@ void TestHeadunit::debugLines() {
     const Result verbose = run({"--verbose", "--script", script});
     QCOMPARE(verbose.code, 0);
     QVERIFY2(verbose.err.contains("[DBG]") && verbose.err.contains("audioSettingsPage: "), qPrintable(verbose.err));
+}
+
+void TestHeadunit::tourThatCannotKeepAPicture() {
+    QVERIFY(QDir().mkpath(m_folder->filePath("pictures/home.png")));
+    const Result result = run({"--tour", "pictures"});
+    QCOMPARE(result.code, 1);
+    const QRegularExpression line("^:/headunit/tour\\.js:\\d+: Error: cannot write .*home\\.png\n$");
+    QVERIFY2(line.match(result.err).hasMatch(), qPrintable(result.err));
 }
 
 void TestHeadunit::tourWithoutADisplay_data() {

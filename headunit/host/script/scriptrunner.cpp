@@ -22,7 +22,9 @@ QString description(const QJSValue &error, const QString &file) {
     auto frames = frame.globalMatch(error.property(QStringLiteral("stack")).toString());
     while (frames.hasNext()) {
         const QRegularExpressionMatch match = frames.next();
-        places += QUrl(match.captured(1)).path(QUrl::FullyDecoded) + QLatin1Char(':') + match.captured(2);
+        const QUrl url(match.captured(1));
+        const QString builtIn = url.scheme() == QLatin1String("qrc") ? QStringLiteral(":") : QString();
+        places += builtIn + url.path(QUrl::FullyDecoded) + QLatin1Char(':') + match.captured(2);
     }
     const QString place = places.isEmpty() ? file : places.takeFirst();  // what cannot be imported has no line
     QString text = place + QLatin1String(": ") + error.toString();

@@ -4,6 +4,7 @@
 
 #include <QtGlobal>
 
+#include <atomic>
 #include <map>
 #include <thread>
 
@@ -62,6 +63,19 @@ public:
     bool hasSettled() const {
         const std::lock_guard<std::mutex> own(m_mutex);
         return m_waits > m_waitsBefore;
+    }
+
+    /// Runs time, as fast as it can, until \a call returns.
+    template <typename Call> void runDuring(const Call &call) {
+        std::atomic<bool> ended{false};
+        std::thread time([this, &ended] {
+            while (!ended) {
+                advance(1);
+            }
+        });
+        call();
+        ended = true;
+        time.join();
     }
 
 private:

@@ -9,7 +9,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <atomic>
 
 using namespace headunit;
 
@@ -242,19 +241,11 @@ void tst_SettingsStore::neverWaitsForTheDisk() {
 void tst_SettingsStore::aDeadDiskEndsWithTheStore() {
     LogWatch log;
     blockSaves();
-    std::atomic<bool> ended{false};
-    std::thread time([this, &ended] {
-        while (!ended) {
-            m_clock->advance(1);
-        }
-    });
-    {
+    m_clock->runDuring([this] {
         SettingsStore store(m_clock);
         store.open(path(), {});
         store.set("a", 1);
-    }
-    ended = true;
-    time.join();
+    });
     const QStringList warnings = log.takeWarnings();
     QVERIFY(!warnings.isEmpty());
     for (const QString &warning : warnings) {  // time runs so fast that the other writer may be given up on as well

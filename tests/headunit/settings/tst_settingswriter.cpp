@@ -68,20 +68,6 @@ private:
         return m_disk.take();
     }
 
-    /// Runs time until \a call returns.
-    template <typename Call> bool whileTimeRuns(const Call &call) {
-        std::atomic<bool> ended{false};
-        std::thread time([this, &ended] {
-            while (!ended) {
-                m_clock->advance(1);
-            }
-        });
-        const bool result = call();
-        ended = true;
-        time.join();
-        return result;
-    }
-
     Disk m_disk;
     std::shared_ptr<ManualClock> m_clock;
     std::unique_ptr<SettingsWriter> m_writer;
@@ -158,7 +144,9 @@ void tst_SettingsWriter::flushGivesUp() {
     m_writer->put("a", 1);
     QVERIFY(!m_writer->flush(0));
     const auto before = m_clock->now();
-    QVERIFY(!whileTimeRuns([this] { return m_writer->flush(50); }));
+    bool saved = true;
+    m_clock->runDuring([&] { saved = m_writer->flush(50); });
+    QVERIFY(!saved);
     QVERIFY(m_clock->now() - before >= std::chrono::milliseconds(50));
 }
 
@@ -251,7 +239,9 @@ void tst_SettingsWriter::finishGivesUp() {
         const std::unique_lock<std::mutex> disk(m_disk.mutex);  // does not answer
         m_writer->put("a", 1);
         const auto before = m_clock->now();
-        QVERIFY(!whileTimeRuns([this] { return m_writer->finish(); }));
+        bool saved = true;
+        m_clock->runDuring([&] { saved = m_writer->finish(); });
+        QVERIFY(!saved);
         QVERIFY(m_clock->now() - before >= std::chrono::milliseconds(SettingsWriter::finishTimeMs));
     }
     QCOMPARE(m_log->takeWarnings(), QStringList{"settings file the file: the disk does not answer"});
