@@ -1,7 +1,7 @@
 # Pictures: SVG sources, rendered at build time, embedded in a target as a Qt resource.
 
 find_program(PYTHON3_PROGRAM python3 REQUIRED)
-set(PICTURES_SOURCE_DIR ${CMAKE_SOURCE_DIR}/resources)
+set(PICTURES_SOURCE_DIR ${CMAKE_SOURCE_DIR}/audiosetting/resources)
 set(PICTURES_RENDERER ${CMAKE_SOURCE_DIR}/tools/render_pictures.py)
 set(PICTURES_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/pictures.cpp.in)
 

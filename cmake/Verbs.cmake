@@ -8,11 +8,11 @@ function(audiosetting_plugin_begin)
         CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
     # Written for Qt 5.3: what later releases call deprecated is all that it has.
     target_compile_definitions(audiosetting_objects PRIVATE QT_NO_DEPRECATED_WARNINGS)
-    target_include_directories(audiosetting_objects PUBLIC ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/forms)
+    target_include_directories(audiosetting_objects PUBLIC ${CMAKE_SOURCE_DIR}/audiosetting ${CMAKE_BINARY_DIR}/forms)
     target_link_libraries(audiosetting_objects PUBLIC headunit_contract Qt5::Core Qt5::Gui Qt5::Widgets)
 
     # Not AUTOUIC: with Ninja it takes a second build until a changed form reaches the objects.
-    file(GLOB forms CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/forms/*.ui)
+    file(GLOB forms CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/audiosetting/forms/*.ui)
     file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/forms)
     foreach(form IN LISTS forms)
         get_filename_component(name ${form} NAME_WE)
@@ -35,12 +35,13 @@ endfunction()
 function(audiosetting_plugin_end)
     add_library(audiosetting SHARED)
     target_link_libraries(audiosetting PRIVATE audiosetting_objects headunit_libraries)
+    target_include_directories(audiosetting INTERFACE ${CMAKE_SOURCE_DIR}/audiosetting)
     set_target_properties(audiosetting PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib/plugins)
     add_library(audiosetting_static STATIC EXCLUDE_FROM_ALL $<TARGET_OBJECTS:audiosetting_objects>)
     target_link_libraries(audiosetting_static
         PUBLIC headunit_contract Qt5::Core Qt5::Gui Qt5::Widgets)
     target_include_directories(audiosetting_static PUBLIC
-        ${CMAKE_SOURCE_DIR} ${CMAKE_BINARY_DIR}/forms)
+        ${CMAKE_SOURCE_DIR}/audiosetting ${CMAKE_BINARY_DIR}/forms)
 endfunction()
 
 # headunit_library(NAME SOURCES FILE... [LINK LIBRARY...]): a library of the reference head unit.

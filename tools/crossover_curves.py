@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes the crossover curves: resources/curve_{high,low}_{6,12,18}db.svg.
+"""Writes the crossover curves: audiosetting/resources/curve_{high,low}_{6,12,18}db.svg.
 
 The curves are those of Butterworth filters of order n = 1, 2, 3 (6, 12, 18 dB per octave). At a frequency that lies
 k octaves inside the pass band of the -3 dB point the attenuation is, by the definition of the Butterworth response,
@@ -16,7 +16,7 @@ import math
 import pathlib
 import sys
 
-RESOURCES = pathlib.Path(__file__).resolve().parents[1] / "resources"
+RESOURCES = pathlib.Path(__file__).resolve().parents[1] / "audiosetting" / "resources"
 
 WIDTH, HEIGHT = 1050, 256
 PASS_BAND = 4  # y of 0 dB: in view also where only the uppermost pixels of the picture are

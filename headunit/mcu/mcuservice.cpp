@@ -1,7 +1,7 @@
 #include "platform/mcuservice.h"
 
-#include "headunit/audio/soundmodel.h"
-#include "headunit/audio/soundtext.h"
+#include "headunit/audio/service/soundmodel.h"
+#include "headunit/audio/service/soundtext.h"
 #include "headunit/settings/trace.h"
 
 #include <QDebug>

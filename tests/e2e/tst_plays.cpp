@@ -1,7 +1,7 @@
 // The built unit plays on a sound server, and says how loud.
 
-#include "tests/headunit/files/soundfiletest.h"
-#include "tests/headunit/live/soundserver.h"
+#include "tests/headunit/audio/files/soundfiletest.h"
+#include "tests/headunit/audio/live/soundserver.h"
 
 #include <QRegularExpression>
 #include <QTemporaryDir>

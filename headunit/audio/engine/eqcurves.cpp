@@ -1,6 +1,6 @@
 #include "eqcurves.h"
 
-#include "headunit/audio/soundtables.h"
+#include "headunit/audio/service/soundtables.h"
 
 #include <algorithm>
 

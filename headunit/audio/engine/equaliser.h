@@ -2,7 +2,7 @@
 
 #include "biquad.h"
 
-#include "headunit/audio/soundtables.h"
+#include "headunit/audio/service/soundtables.h"
 
 #include <array>
 

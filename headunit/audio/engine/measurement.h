@@ -2,7 +2,7 @@
 
 #include "format.h"
 
-#include "headunit/audio/soundstate.h"
+#include "headunit/audio/service/soundstate.h"
 
 #include <array>
 #include <complex>

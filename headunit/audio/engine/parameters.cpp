@@ -2,7 +2,7 @@
 
 #include "eqcurves.h"
 
-#include "headunit/audio/soundtables.h"
+#include "headunit/audio/service/soundtables.h"
 
 #include <algorithm>
 #include <cmath>

@@ -6,7 +6,7 @@
 #include "format.h"
 #include "loudness.h"
 
-#include "headunit/audio/soundstate.h"
+#include "headunit/audio/service/soundstate.h"
 
 #include <array>
 

@@ -2,7 +2,7 @@
 
 #include "headunit/audio/engine/kernel.h"
 #include "headunit/audio/engine/meters.h"
-#include "headunit/audio/soundstate.h"
+#include "headunit/audio/service/soundstate.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "headunit/audio/soundstate.h"
+#include "headunit/audio/service/soundstate.h"
 
 #include <condition_variable>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "headunit/host/script/finger.h"
 
-#include "headunit/host/scripttarget.h"
+#include "headunit/host/script/scripttarget.h"
 
 #include <QWidget>
 

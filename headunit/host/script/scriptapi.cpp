@@ -2,8 +2,8 @@
 
 #include "audioservice.h"
 #include "headunit/audio/engine/format.h"
+#include "headunit/host/script/scripttarget.h"
 #include "headunit/host/script/soundobject.h"
-#include "headunit/host/scripttarget.h"
 #include "headunit/settings/unitsettings.h"
 
 #include <QDir>

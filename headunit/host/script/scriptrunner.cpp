@@ -1,5 +1,5 @@
 #include "headunit/host/script/scriptapi.h"
-#include "headunit/host/scripttarget.h"
+#include "headunit/host/script/scripttarget.h"
 
 #include <QJSEngine>
 #include <QRegularExpression>

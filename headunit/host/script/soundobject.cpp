@@ -1,7 +1,7 @@
 #include "headunit/host/script/soundobject.h"
 
 #include "headunit/audio/engine/measurement.h"
-#include "headunit/audio/soundmodel.h"
+#include "headunit/audio/service/soundmodel.h"
 
 #include <QJSEngine>
 

@@ -1,8 +1,8 @@
 #include "headunit/host/sound/livesound.h"
 
-#include "headunit/audio/soundmodel.h"
+#include "headunit/audio/service/soundmodel.h"
+#include "headunit/host/app/soundlibrary.h"
 #include "headunit/host/sound/metertext.h"
-#include "headunit/host/soundlibrary.h"
 
 #include <QFile>
 

@@ -1,11 +1,11 @@
+#include "headunit/host/app/soundlibrary.h"
 #include "headunit/host/sound/metertext.h"
 #include "headunit/host/sound/responseplot.h"
 #include "headunit/host/sound/responsetable.h"
-#include "headunit/host/soundlibrary.h"
 
 #include "headunit/audio/engine/measurement.h"
 #include "headunit/audio/files/render.h"
-#include "headunit/audio/soundmodel.h"
+#include "headunit/audio/service/soundmodel.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,6 +1,6 @@
 #include "platform/mcuservice.h"
 
-#include "headunit/audio/soundmodel.h"
+#include "headunit/audio/service/soundmodel.h"
 #include "headunit/settings/trace.h"
 #include "headunit/settings/unitsettings.h"
 #include "tests/headunit/settings/logwatch.h"

@@ -1,0 +1,72 @@
+#include "background.h"
+
+#include "picture.h"
+
+#include <QPainter>
+#include <QPaintEvent>
+
+namespace audiosetting {
+
+namespace {
+
+const int columnsWidth = 512;  // px of the composed background: wide enough that few pieces cover the screen
+
+// The picture of the background is a narrow strip; side by side it makes one that is quick to lay out.
+QPixmap composedColumns() {
+    const QPixmap strip = picture("audiosettings_bg");
+    const qreal ratio = strip.devicePixelRatio();
+    QPixmap columns(int(columnsWidth * ratio), strip.height());
+    columns.setDevicePixelRatio(ratio);
+    QPainter painter(&columns);
+    painter.drawTiledPixmap(QRect(0, 0, columnsWidth, int(strip.height() / ratio)), strip);
+    return columns;
+}
+
+}  // namespace
+
+Background::Background(QWidget *parent) : QWidget(parent), m_columns(composedColumns()) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void Background::paintBackground(QPainter *painter, const QRect &rect) const {
+    const qreal ratio = m_columns.devicePixelRatio();
+    const int height = qMin(int(m_columns.height() / ratio), rect.bottom() + 1) - rect.top();
+    for (int x = rect.left(); x <= rect.right();) {
+        const int column = x % columnsWidth;
+        const int width = qMin(columnsWidth - column, rect.right() + 1 - x);
+        const QRectF source(QPointF(column, rect.top()) * ratio, QSizeF(width, height) * ratio);
+        painter->drawPixmap(QRectF(x, rect.top(), width, height), m_columns, source);
+        x += width;
+    }
+}
+
+void Background::paintEvent(QPaintEvent *event) {
+    QPainter painter(this);
+    // Piece by piece, each within a plain rectangle: Qt then copies whole lines instead of testing spans of them.
+    const QVector<QRect> pieces = event->region().rects();
+    for (const QRect &piece : pieces) {
+        painter.setClipRect(piece);
+        paintBackground(&painter, piece);
+    }
+}
+
+QPixmap backgroundBehind(const QWidget *widget) {
+    const QWidget *ancestor = widget->parentWidget();
+    while (ancestor && !qobject_cast<const Background *>(ancestor)) {
+        ancestor = ancestor->parentWidget();
+    }
+    if (!ancestor) {
+        return QPixmap();
+    }
+    const QRect place(widget->mapTo(ancestor, QPoint()), widget->size());
+    const qreal ratio = widget->devicePixelRatio();
+    QImage background(place.size() * ratio, QImage::Format_RGB32);
+    background.setDevicePixelRatio(ratio);
+    QPainter painter(&background);
+    painter.translate(-place.topLeft());
+    static_cast<const Background *>(ancestor)->paintBackground(&painter, place);
+    painter.end();
+    return QPixmap::fromImage(background);
+}
+
+}  // namespace audiosetting

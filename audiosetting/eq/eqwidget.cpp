@@ -1,0 +1,296 @@
+#include "eqwidget.h"
+
+#include "audioservice.h"
+#include "base/debuglog.h"
+#include "base/picture.h"
+#include "base/posttouch.h"
+#include "eqtable.h"
+#include "sliderbarwidget.h"
+#include "translator.h"
+#include "ui_eq_adjust_fragment.h"
+
+#include <QEvent>
+#include <QImage>
+#include <QPixmapCache>
+#include <QRegularExpression>
+
+#include <limits>
+
+namespace audiosetting {
+
+namespace {
+
+const int textFlat = 1073;
+
+const int sendInterval = 50;  // ms; a moving finger sends at most one value in this time
+const int resetBandCount = 10;
+
+const int barWidth = 16;
+const QRect sliderRect(38, 60, 60, 371);  // px, of the first band
+const int bandStep = 94;                  // px
+
+const int centerPoints[] = {0,   7,   20,  36,  54,  71,  85,  101, 116, 131, 146, 161, 176,
+                            191, 206, 222, 237, 252, 267, 283, 298, 313, 328, 343, 353};
+const int borderPoints[] = {10,  18,  23,  41,  58,  75,  93,  110, 124, 138, 152, 163, 180,
+                            193, 209, 226, 241, 256, 270, 285, 302, 316, 330, 346, 371};
+const unsigned int pointCount = sizeof(centerPoints) / sizeof(centerPoints[0]);
+
+// The panel's own curves; the id is that of the name's text, and the last three bands are always 0 dB.
+const QList<tagAudioEQItem_T> &panelPresets() {
+    static const QList<tagAudioEQItem_T> table = {
+        {0, 3, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},       {1, 232, {1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 0, 0}},
+        {3, 234, {0, 4, 4, 0, -1, -1, 0, 3, 6, 4, 0, 0, 0}},   {2, 233, {-1, 3, 3, 2, 0, -1, -1, 0, 2, 1, 0, 0, 0}},
+        {8, 235, {0, 4, 5, 2, 0, -1, -2, -1, 0, -1, 0, 0, 0}}, {7, 241, {1, 3, 2, 1, 0, 0, 1, 2, 1, 0, 0, 0, 0}},
+        {21, 229, {1, 2, 2, 1, 0, -1, 0, 1, 2, 2, 0, 0, 0}},   {16, 681, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
+    };
+    return table;
+}
+
+qvaudio::AudioService *audio() {
+    return qvaudio::AudioService::instance();
+}
+
+int gainOfLevel(int level) {
+    return eq::fromOtherEnd(eq::maxGain, level);
+}
+
+}  // namespace
+
+EQWidget::EQWidget(QWidget *parent) : QWidget(parent), m_ui(new Ui::eq_adjust_fragment) {
+    m_ui->setupUi(this);
+    m_sendTimer.setSingleShot(true);
+    m_sendTimer.setTimerType(Qt::PreciseTimer);
+    init();
+}
+
+EQWidget::~EQWidget() {
+    delete m_knob;
+    QPixmapCache::clear();
+}
+
+void EQWidget::init() {
+    // Backgrounds and the caption lie over keys and bands: touches go through.
+    QLabel *const overlays[] = {m_ui->bg_base, m_ui->bg_txt, m_ui->Txt_reset};
+    for (QLabel *overlay : overlays) {
+        overlay->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    // The form's own pictures are not those of a dense display.
+    m_ui->bg_base->setPixmap(pictureAt(QStringLiteral(":/halverv2_icon/eq_bg_popup_base_n")));
+    m_ui->bg_txt->setPixmap(pictureAt(QStringLiteral(":/halverv2_icon/eq_txt")));
+    const QPixmap track = pictureAt(QStringLiteral(":/halverv2_icon/eq_sdlik_p"));
+    const QList<QLabel *> tracks = findChildren<QLabel *>(QRegularExpression(QStringLiteral("^track_")));
+    for (QLabel *label : tracks) {
+        label->setPixmap(track);
+    }
+    connect(m_ui->key_reset, SIGNAL(clicked()), this, SLOT(onResetEqValue()));
+    connect(m_ui->key_back, SIGNAL(clicked()), this, SLOT(onBackKeyClicked()));
+
+    m_knob = new QImage(pictureAt(QStringLiteral(":/halverv2_icon/setup_bg_sliding_point")).toImage());
+    for (int band = 0; band < eqBandCount; ++band) {
+        m_gains.append(0);
+        createSlider(band);
+    }
+    retranslateUi();
+    updateEqVal();
+}
+
+void EQWidget::createSlider(int band) {
+    // Ten bands lie in view; the others exist beyond the right edge of their parent.
+    cm::SliderBarWidget *slider = new cm::SliderBarWidget(m_ui->bands);
+    slider->setId(band);
+    slider->setGeometry(sliderRect.translated(bandStep * band, 0));
+    slider->setImage(m_knob);
+    slider->setBarWidth(barWidth);
+    slider->setCenterPoint(centerPoints, pointCount);
+    slider->setBorderPoint(borderPoints, pointCount);
+    slider->show();
+    m_sliders.append(slider);
+    m_labels.append(findChild<QLabel *>(QStringLiteral("val_%1").arg(band)));
+    connect(slider, SIGNAL(press(int, int)), this, SLOT(update_eq_section_drag(int, int)));
+    connect(slider, SIGNAL(release(int, int)), this, SLOT(save_eq_section_drag(int, int)));
+}
+
+void EQWidget::showEvent(QShowEvent *event) {
+    onUpdateCustomEqData();
+    updateName();
+    QWidget::showEvent(event);
+}
+
+void EQWidget::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
+        retranslateUi();
+    }
+    QWidget::changeEvent(event);
+}
+
+void EQWidget::retranslateUi() {
+    m_ui->Txt_reset->setText(Translator::translate(textFlat));
+    updateName();
+}
+
+// The curve in force ----------------------------------------------------------------------------------------------
+
+void EQWidget::updateEqVal() {
+    const int type = audio()->getCurrEQType();
+    AUDIO_LOG << "eqType :" << type;
+    if (type == AudioEQCustom) {
+        updateCustomEQ();
+    } else {
+        tagAudioEQItem_T item = eq::curveOfType(panelPresets(), type);
+        updateEqBar(item);
+        updateAllEqLabels(item);
+    }
+    updateName();
+}
+
+void EQWidget::updateEqBar(tagAudioEQItem_T &item) {
+    for (int band = 0; band < eqBandCount; ++band) {
+        m_sliders.at(band)->setBarLevel(eq::levelOfGain(item.gain[band]));
+    }
+}
+
+void EQWidget::updateAllEqLabels(tagAudioEQItem_T &item) {
+    for (int band = 0; band < eqBandCount; ++band) {
+        updateEqLabel(band, item.gain[band]);
+    }
+}
+
+void EQWidget::updateCustomEQ() {
+    for (int band = 0; band < eqBandCount; ++band) {
+        const int level = eq::shownLevel(eq::fromOtherEnd(eq::maxGain, audio()->getCustomEq(band)));
+        m_sliders.at(band)->setBarLevel(level);
+        updateEqLabel(band, gainOfLevel(level));
+    }
+}
+
+void EQWidget::updateEqLabel(int band, int gain) {
+    if (band < 0 || band >= eqBandCount) {
+        return;
+    }
+    if (QLabel *label = m_labels.at(band)) {
+        label->setText(toEQString(gain));
+    }
+}
+
+QString EQWidget::toEQString(const int &gain) {
+    return (gain >= 1 ? QStringLiteral("+%1") : QStringLiteral("%1")).arg(gain);
+}
+
+QString EQWidget::getEQName() {
+    const int row = eq::findByType(panelPresets(), audio()->getCurrEQType());
+    return row < 0 ? QString() : Translator::translate(panelPresets().at(row).id);
+}
+
+void EQWidget::updateName() {
+    m_ui->txt_name->setText(getEQName());
+}
+
+// Sliders ---------------------------------------------------------------------------------------------------------
+
+void EQWidget::update_eq_section_drag(int section, int value) {
+    eq_section_drag_event(section, value, true);
+    setEqBarValue(section, value);
+}
+
+void EQWidget::save_eq_section_drag(int section, int value) {
+    eq_section_drag_event(section, value, false);
+}
+
+void EQWidget::eq_section_drag_event(int section, int level, bool moving) {
+    if (audio()->getCurrEQType() != AudioEQCustom) {
+        audio()->setEQType(AudioEQCustom, true);
+    }
+    if (moving) {
+        if (m_sendTimer.isActive()) {
+            return;
+        }
+        m_sendTimer.start(sendInterval);
+    } else {
+        m_sendTimer.stop();
+    }
+    audio()->setCustomEq(gainOfLevel(level), section, true);
+}
+
+void EQWidget::setEqBarValue(int section, int level) {
+    updateName();
+    if (section < 0 || section >= eqBandCount) {
+        AUDIO_LOG << "no such band:" << section;
+        return;
+    }
+    m_gains[section] = gainOfLevel(level);
+    const int shown = eq::shownLevel(level);
+    m_sliders.at(section)->setBarLevel(shown);
+    updateEqLabel(section, gainOfLevel(shown));
+}
+
+// Keys ------------------------------------------------------------------------------------------------------------
+
+void EQWidget::onBackKeyClicked() {
+    audio()->doBeep(0);
+    postTouch(Qx::TouchBack);
+}
+
+void EQWidget::on_key_left_clicked() {
+    audio()->doBeep(0);
+    prevEQType();
+    afterStep();
+}
+
+void EQWidget::on_key_right_clicked() {
+    audio()->doBeep(0);
+    nextEQType();
+    afterStep();
+}
+
+void EQWidget::afterStep() {
+    updateName();
+    if (audio()->getCurrEQType() == AudioEQCustom) {
+        onSaveCustomEqValue();
+    }
+    updateEqVal();
+}
+
+// Stepping passes through every number, also those without a curve of their own: required.
+void EQWidget::prevEQType() {
+    const int type = audio()->getCurrEQType();
+    const bool last = type == AudioEQCustom || type == std::numeric_limits<int>::max();
+    audio()->setEQType(static_cast<AudioEQType>(last ? 0 : type + 1), true);
+}
+
+void EQWidget::nextEQType() {
+    const int type = audio()->getCurrEQType();
+    const bool first = type == AudioEQFlat || type == std::numeric_limits<int>::min();
+    audio()->setEQType(static_cast<AudioEQType>(first ? int(AudioEQCustom) : type - 1), true);
+}
+
+void EQWidget::onEqTypeChanged(int type) {
+    AUDIO_LOG << "eqType :" << type;
+    updateName();
+    onSaveCustomEqValue();
+    updateEqVal();
+}
+
+void EQWidget::onSaveCustomEqValue() {
+    for (int band = 0; band < eqBandCount; ++band) {
+        audio()->setCustomEq(m_gains.at(band), band, true);
+    }
+}
+
+void EQWidget::onUpdateCustomEqData() {
+    for (int band = 0; band < eqBandCount; ++band) {
+        m_gains[band] = audio()->getCustomEq(band);
+    }
+}
+
+void EQWidget::onResetEqValue() {
+    audio()->doBeep(0);
+    audio()->setEQType(AudioEQFlat, true);
+    // The last three bands are left as they are: required.
+    for (int band = 0; band < resetBandCount; ++band) {
+        setEqBarValue(band, eq::flatLevel);
+    }
+    onSaveCustomEqValue();
+}
+
+}  // namespace audiosetting

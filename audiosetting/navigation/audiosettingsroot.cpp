@@ -1,0 +1,89 @@
+#include "audiosettingsroot.h"
+
+#include "audioservice.h"
+#include "base/caption.h"
+#include "base/debuglog.h"
+#include "commsystemutils.h"
+#include "general/generalsettings.h"
+#include "mcuservice.h"
+#include "translator.h"
+#include "ui_AudiosettingsRoot.h"
+
+#include <QEvent>
+
+namespace {
+
+/// Loudness compensation on (1) or off (0).
+audiosetting::Setting loudness() {
+    return audiosetting::Setting(QStringLiteral("Setup_Loudness"), 0);
+}
+
+const int textLoudness = 439;
+const int textSourceGain = 1081;
+const int textVolumeSettings = 1082;
+const int textResetAudio = 1083;
+
+}  // namespace
+
+AudiosettingsRoot::AudiosettingsRoot(QWidget *parent) : QWidget(parent), m_ui(new Ui::AudiosettingsRoot) {
+    m_ui->setupUi(this);
+    // The captions lie over full-width keys: a touch anywhere on a row presses its key.
+    QLabel *const captions[] = {m_ui->Txt_003_source_gain, m_ui->Txt_004_vol_settings, m_ui->Txt_005_res_audio};
+    for (QLabel *caption : captions) {
+        caption->setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+    AUDIO_LOG << "ADV_AUDIO_SETTINGS:" << audiosetting::general::defeat().value();
+    CommSystemUtils::instance()->sync_default_font(this, QStringLiteral("Txt_"));
+}
+
+AudiosettingsRoot::~AudiosettingsRoot() {}
+
+void AudiosettingsRoot::showEvent(QShowEvent *event) {
+    retranslateUi();
+    updateKeyEn(audiosetting::general::defeat().value() != 0);
+    QWidget::showEvent(event);
+}
+
+void AudiosettingsRoot::on_Key_001_loudness_clicked() {
+    qvaudio::AudioService::instance()->doBeep(0);
+    const bool checked = m_ui->Key_001_loudness->isChecked();
+    loudness().write(checked);
+    mcu::McuService::instance()->setLoudness(checked);
+}
+
+void AudiosettingsRoot::on_Key_003_source_gain_clicked() {
+    qvaudio::AudioService::instance()->doBeep(0);
+    emit showSourceGain();
+}
+
+void AudiosettingsRoot::on_Key_004_vol_settings_clicked() {
+    qvaudio::AudioService::instance()->doBeep(0);
+    emit showAudioSettings();
+}
+
+void AudiosettingsRoot::on_Key_005_res_audio_clicked() {
+    qvaudio::AudioService::instance()->doBeep(0);
+    emit showResetAudiosettings();
+}
+
+void AudiosettingsRoot::updateKeyEn(bool disabled) {
+    m_ui->Key_001_loudness->setDisabled(disabled);
+    audiosetting::setCaptionEnabled(m_ui->Txt_001_loudness, !disabled);
+    if (!disabled) {
+        m_ui->Key_001_loudness->setChecked(loudness().value() != 0);
+    }
+}
+
+void AudiosettingsRoot::retranslateUi() {
+    m_ui->Txt_001_loudness->setText(Translator::translate(textLoudness));
+    m_ui->Txt_003_source_gain->setText(Translator::translate(textSourceGain));
+    m_ui->Txt_004_vol_settings->setText(Translator::translate(textVolumeSettings));
+    m_ui->Txt_005_res_audio->setText(Translator::translate(textResetAudio));
+}
+
+void AudiosettingsRoot::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::LanguageChange) {
+        retranslateUi();
+    }
+    QWidget::changeEvent(event);
+}

@@ -1,0 +1,82 @@
+#include "headunit/host/app/deskscripttarget.h"
+
+#include "headunit/host/app/deskwindow.h"
+#include "headunit/host/app/unit.h"
+#include "headunit/virtualtime/virtualtime.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QLibrary>
+#include <QTimer>
+
+#include <cstdio>
+
+namespace headunit {
+
+DeskScriptTarget::DeskScriptTarget(DeskWindow &window, Unit &unit, VirtualTime *time)
+    : m_window(window), m_unit(unit), m_time(time) {}
+
+QWidget *DeskScriptTarget::window() {
+    return &m_window;
+}
+
+QWidget *DeskScriptTarget::screen() {
+    return m_window.screen();
+}
+
+void DeskScriptTarget::wait(int ms) {
+    if (m_time) {
+        m_time->advance(ms);
+    } else if (ms > 0) {
+        QEventLoop loop;
+        QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+        loop.exec();
+    } else {
+        QCoreApplication::processEvents();
+    }
+}
+
+bool DeskScriptTarget::openApplication(const QString &id) {
+    return m_unit.openApplication(id, Unit::Home);
+}
+
+void DeskScriptTarget::showHome() {
+    m_unit.showHome();
+}
+
+void DeskScriptTarget::showCar() {
+    m_unit.showCar();
+}
+
+bool DeskScriptTarget::requestVolumeSettings() {
+    return m_unit.requestVolumeSettings();
+}
+
+void DeskScriptTarget::setCallActive(bool active) {
+    if (active) {
+        m_unit.startCall();
+    } else {
+        m_unit.endCall();
+    }
+}
+
+bool DeskScriptTarget::setSource(int source) {
+    return m_unit.setSource(source);
+}
+
+bool DeskScriptTarget::setLanguage(const QString &code) {
+    return m_unit.setLanguage(code);
+}
+
+int runScript(ScriptTarget &target, const QString &file, const QString &folder) {
+    constexpr int exitUnusable = 2;
+    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/libheadunitscript.so"));
+    const auto entry = reinterpret_cast<ScriptEntry>(library.resolve(scriptEntryName));
+    if (!entry) {
+        std::fprintf(stderr, "no scripts here: %s\n", qUtf8Printable(library.errorString()));
+        return exitUnusable;
+    }
+    return entry(&target, &file, &folder);
+}
+
+}  // namespace headunit

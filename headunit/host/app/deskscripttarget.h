@@ -1,0 +1,38 @@
+#pragma once
+
+#include "headunit/host/script/scripttarget.h"
+
+namespace headunit {
+
+class DeskWindow;
+class Unit;
+class VirtualTime;
+
+/// The desk head unit, as scripts drive it.
+class DeskScriptTarget : public ScriptTarget {
+public:
+    /// \a time is null where time passes by itself.
+    DeskScriptTarget(DeskWindow &window, Unit &unit, VirtualTime *time);
+
+    QWidget *window() override;
+    QWidget *screen() override;
+    void wait(int ms) override;
+    bool openApplication(const QString &id) override;
+    void showHome() override;
+    void showCar() override;
+    bool requestVolumeSettings() override;
+    void setCallActive(bool active) override;
+    bool setSource(int source) override;
+    bool setLanguage(const QString &code) override;
+
+private:
+    DeskWindow &m_window;
+    Unit &m_unit;
+    VirtualTime *const m_time;
+};
+
+/// Loads the script library that stands beside the host and runs a script, or with an empty \a file the tour.
+/// Pictures go to \a folder. Returns the process's exit code.
+int runScript(ScriptTarget &target, const QString &file, const QString &folder);
+
+}  // namespace headunit

@@ -1,0 +1,77 @@
+#include "headunit/host/app/deskwindow.h"
+
+#include "headunit/host/screens/hardkeys.h"
+#include "headunit/host/screens/look.h"
+#include "keyevent.h"
+
+#include <QKeyEvent>
+#include <QWindow>
+
+namespace headunit {
+
+namespace {
+
+/// The hard key that a key of the desk's keyboard stands for; 0: none.
+int hardKeyOf(int key) {
+    switch (key) {
+        case Qt::Key_Plus:
+        case Qt::Key_VolumeUp:
+            return KeyEvent::VolumeUp;
+        case Qt::Key_Minus:
+        case Qt::Key_VolumeDown:
+            return KeyEvent::VolumeDown;
+        case Qt::Key_Escape:
+        case Qt::Key_Back:
+            return KeyEvent::Back;
+        case Qt::Key_Home:
+        case Qt::Key_HomePage:
+            return KeyEvent::Home;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace
+
+DeskWindow::DeskWindow()
+    : m_screen(new QWidget(this)),
+      m_hardKeys(new HardKeys(QRect(look::screenWidth, 0, HardKeys::stripWidth, look::screenHeight), this)) {
+    setWindowTitle(QStringLiteral("Head unit"));
+    setFixedSize(look::screenWidth + HardKeys::stripWidth, look::screenHeight);
+    m_screen->setObjectName(QStringLiteral("screen"));
+    m_screen->setGeometry(0, 0, look::screenWidth, look::screenHeight);
+}
+
+void DeskWindow::showEvent(QShowEvent *) {
+    // What covers the window whole spares it its own paint event, so the first picture is seen at the window below.
+    if (!m_exposed) {
+        windowHandle()->installEventFilter(this);
+    }
+}
+
+bool DeskWindow::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::Expose) {
+        m_exposed = true;
+        watched->removeEventFilter(this);
+        Q_EMIT exposed();
+    }
+    return false;
+}
+
+void DeskWindow::keyPressEvent(QKeyEvent *event) {
+    if (const int key = hardKeyOf(event->key())) {
+        Q_EMIT m_hardKeys->keyPressed(key);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void DeskWindow::keyReleaseEvent(QKeyEvent *event) {
+    if (const int key = hardKeyOf(event->key())) {
+        Q_EMIT m_hardKeys->keyReleased(key);
+    } else {
+        QWidget::keyReleaseEvent(event);
+    }
+}
+
+}  // namespace headunit

@@ -1,0 +1,252 @@
+#include "headunit/host/app/deskscripttarget.h"
+#include "headunit/host/app/deskwindow.h"
+#include "headunit/host/app/hostapplication.h"
+#include "headunit/host/app/options.h"
+#include "headunit/host/app/plugincatalog.h"
+#include "headunit/host/app/soundlibrary.h"
+#include "headunit/host/app/unit.h"
+#include "headunit/host/screens/hardkeys.h"
+#include "headunit/settings/trace.h"
+#include "headunit/settings/unitroot.h"
+#include "headunit/settings/unitsettings.h"
+#include "headunit/toolkit/unitapplication.h"
+#include "headunit/virtualtime/virtualtime.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+#include <QTime>
+#include <QTimer>
+
+#include <cstdio>
+#include <memory>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace headunit;
+
+namespace {
+
+constexpr int exitGood = 0;
+constexpr int exitUnusable = 2;
+
+// What the status bar shows wherever pictures must be the same at every run.
+const char fixedTime[] = "10:08";
+
+int refuse(const QString &reason) {
+    std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(reason));
+    return exitUnusable;
+}
+
+/// The command line as texts, before there is an application object.
+QStringList texts(int argc, char **argv) {
+    QStringList list;
+    for (int i = 0; i < argc; ++i) {
+        list << QString::fromLocal8Bit(argv[i]);
+    }
+    return list;
+}
+
+int printHelpOrVersion(const Options &options, int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    if (options.help) {
+        std::fputs(qUtf8Printable(optionsHelp()), stdout);
+    } else {
+        std::puts("headunit " HEADUNIT_VERSION);
+    }
+    return exitGood;
+}
+
+// The platform that needs no display.
+const char offscreen[] = "offscreen";
+
+/// Without a display, and without a platform that needs none, the unit can only be looked at in pictures.
+void fallBackToTour(Options *options) {
+    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        return;
+    }
+    if (!qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+        // Without a second choice Qt ends the process where the display does not answer.
+        const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
+        qputenv("QT_QPA_PLATFORM", QByteArray(x11 ? "xcb" : "wayland") + ';' + offscreen);
+        return;
+    }
+    qputenv("QT_QPA_PLATFORM", offscreen);
+    if (options->scripted() || options->exitWhenShown) {
+        return;
+    }
+    options->tour = QDir::temp().filePath(QStringLiteral("headunit-tour"));
+    std::fprintf(stderr, "headunit: there is no display; a picture of every screen goes to %s\n",
+                 qUtf8Printable(options->tour));
+}
+
+/// Whether the display that the environment names did not answer and Qt took the second choice.
+bool displayFailed() {
+    return QGuiApplication::platformName() == QLatin1String(offscreen) && qgetenv("QT_QPA_PLATFORM") != offscreen;
+}
+
+/// Starts this program anew as on a machine without a display: virtual time must stand before the application object.
+int restartWithoutDisplay(char **argv) {
+    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        qunsetenv(name);
+    }
+    execv("/proc/self/exe", argv);
+    return refuse(QStringLiteral("the display does not answer"));
+}
+
+const char runtimeFolder[] = "XDG_RUNTIME_DIR";
+
+/// Qt wants a folder for the running session when it starts, and prints a warning where nobody set one, as in a
+/// container. Whether it had to be provided.
+bool provideRuntimeFolder() {
+    if (!qEnvironmentVariableIsEmpty(runtimeFolder)) {
+        return false;
+    }
+    const QByteArray folder = QFile::encodeName(QDir::tempPath()) + "/headunit-runtime-" + QByteArray::number(getuid());
+    mkdir(folder.constData(), S_IRWXU);
+    qputenv(runtimeFolder, folder);
+    return true;
+}
+
+/// Why the files that the options name cannot be used, or an empty text.
+QString fileProblem(const Options &options) {
+    if (!options.script.isEmpty()) {
+        QFile script(options.script);
+        if (!QFileInfo(options.script).isFile() || !script.open(QIODevice::ReadOnly)) {
+            return QStringLiteral("--script %1: there is no such file, or it cannot be read").arg(options.script);
+        }
+    }
+    for (const QString &folder : {options.root, options.tour}) {
+        if (!folder.isEmpty() && !QDir().mkpath(folder)) {
+            return QStringLiteral("%1: the folder cannot be made").arg(folder);
+        }
+    }
+    return QString();
+}
+
+void printTrace() {
+    setTraceReads(true);
+    setTraceSink([](const TraceEntry &entry) {
+        std::printf("%s -> %s\n", qUtf8Printable(entry.call), qUtf8Printable(entry.meaning));
+    });
+}
+
+int runSoundJob(const SoundJob &job) {
+    const QString reason = doSoundJob(job);
+    return reason.isEmpty() ? exitGood : refuse(reason);
+}
+
+int runUnit(const Options &options, HostApplication &application, VirtualTime *time) {
+    PluginCatalog catalog;
+    const QStringList files =
+        options.plugins.isEmpty()
+            ? QStringList(application.applicationDirPath() + QStringLiteral("/../lib/plugins/libaudiosetting.so"))
+            : options.plugins;
+    for (const QString &file : files) {
+        catalog.load(file);
+    }
+    for (const QString &failure : catalog.failures()) {
+        std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(failure));
+    }
+    // With a plug-in that failed the name may well be right; the home screen then says what is wrong.
+    if (!options.open.isEmpty() && !catalog.find(options.open) && catalog.failures().isEmpty()) {
+        return refuse(QStringLiteral("--open %1: there is no application of that name").arg(options.open));
+    }
+
+    DeskWindow window;
+    const bool fixed = time != nullptr;
+    Unit unit(catalog, window.screen(), [fixed] {
+        return fixed ? QString::fromLatin1(fixedTime) : QTime::currentTime().toString(QStringLiteral("HH:mm"));
+    });
+    QObject::connect(&application, &HostApplication::touched, &unit, &Unit::touch);
+    QObject::connect(window.hardKeys(), &HardKeys::keyPressed, &unit, &Unit::pressHardKey);
+    QObject::connect(window.hardKeys(), &HardKeys::keyReleased, &unit, &Unit::releaseHardKey);
+    if (options.language.isEmpty()) {
+        unit.restoreLanguage();
+    } else if (!unit.setLanguage(options.language)) {
+        return refuse(QStringLiteral("--language %1: there is no such language").arg(options.language));
+    }
+    if (options.open.isEmpty() || !unit.openApplication(options.open, Unit::Home)) {
+        unit.showHome();
+    }
+    if (options.exitWhenShown) {
+        QObject::connect(&window, &DeskWindow::exposed, &application, &QCoreApplication::quit, Qt::QueuedConnection);
+    }
+    window.show();
+    if (!options.scripted()) {
+        std::unique_ptr<QObject> sound;
+        if (!options.exitWhenShown) {
+            // After the first screen
+            QTimer::singleShot(0, &application, [&sound, &options] {
+                QString silentBecause;
+                sound.reset(startSound(options.play, options.meters, &silentBecause));
+                if (!silentBecause.isEmpty()) {
+                    std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
+                }
+            });
+        }
+        return application.exec();
+    }
+    DeskScriptTarget target(window, unit, time);
+    target.wait(0);
+    return runScript(target, options.script, options.tour);
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    const ParsedOptions parsed = parseOptions(texts(argc, argv));
+    if (!parsed.error.isEmpty()) {
+        return refuse(parsed.error);
+    }
+    Options options = parsed.options;
+    if (options.help || options.version) {
+        return printHelpOrVersion(options, argc, argv);
+    }
+    if (options.soundJob.isEmpty()) {
+        fallBackToTour(&options);
+    } else {
+        qputenv("QT_QPA_PLATFORM", offscreen);
+    }
+    const QString problem = fileProblem(options);
+    if (!problem.isEmpty()) {
+        return refuse(problem);
+    }
+
+    // Lines must not be lost, nor change their order, when the process is ended from outside.
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+    QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, options.verbose);
+    if (options.scale != 1) {
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+    }
+    const bool providedRuntimeFolder = provideRuntimeFolder();
+    prepareUnitApplication();
+    const bool virtualTime = options.scripted() && qgetenv("QT_QPA_PLATFORM") == offscreen;
+    VirtualTime *const time = virtualTime ? new VirtualTime : nullptr;
+    HostApplication application(argc, argv);
+    if (providedRuntimeFolder) {
+        qunsetenv(runtimeFolder);  // the sound server would be looked for in it, and in no other place
+    }
+    if (displayFailed()) {
+        return restartWithoutDisplay(argv);
+    }
+    setUpUnitApplication();
+
+    // The tour shows the unit as it leaves the factory, and leaves the user's settings alone.
+    std::unique_ptr<QTemporaryDir> tourRoot;
+    if (!options.tour.isEmpty() && options.root.isEmpty()) {
+        tourRoot = std::make_unique<QTemporaryDir>();
+        options.root = tourRoot->path();
+    }
+    setUnitRoot(options.root);
+    openSettings();
+    if (options.trace) {
+        printTrace();
+    }
+    const int result = options.soundJob.isEmpty() ? runUnit(options, application, time) : runSoundJob(options.soundJob);
+    setTraceSink({});
+    closeSettings();
+    return result;
+}

@@ -1,0 +1,142 @@
+#include "headunit/host/app/options.h"
+
+#include <QCommandLineParser>
+
+namespace headunit {
+
+namespace {
+
+constexpr double smallestScale = 0.25;
+constexpr double largestScale = 8;
+constexpr char defaultPlay[] = "music";
+
+struct OptionRow {
+    const char *name;
+    const char *value;  ///< what the value is called in the help; null for a flag
+    const char *description;
+};
+
+constexpr OptionRow optionRows[] = {
+    {"help", nullptr, "Print this help."},
+    {"version", nullptr, "Print the version."},
+    {"root", "DIR", "Folder that stands for the unit's file system. Default: a folder below your user data."},
+    {"scale", "N", "Size of the screen on dense displays. Default: 1."},
+    {"language", "xx", "Language: en, de, fr, es or ja. Default: the one last chosen, at first English."},
+    {"open", "NAME", "Open an application at once, for example audiosetting."},
+    {"script", "FILE.js", "Run a script (JavaScript) and end with its result."},
+    {"tour", "DIR", "Visit every screen, leave a picture of each in a folder, and end."},
+    {"play", "WHAT",
+     "What sounds: music, noise, sweep, loudspeakers (one by one), silence, or a file. Default: music."},
+    {"meters", nullptr, "Print what the loudspeakers and the limiter do, once a second, while the unit plays."},
+    {"render", "IN", "Play a sound file under the current settings into another, --render IN.wav OUT.wav, and end."},
+    {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
+    {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
+    {"verbose", nullptr, "Print debug lines."},
+    {"exit-when-shown", nullptr, "End once the first screen is painted; for measuring the start."},
+};
+
+void setUp(QCommandLineParser &parser) {
+    parser.setApplicationDescription(
+        QStringLiteral("A car's head unit on the desk: loads applications and shows them on a 1024 x 600 screen."));
+    for (const OptionRow &row : optionRows) {
+        parser.addOption(QCommandLineOption(QString::fromLatin1(row.name), QString::fromLatin1(row.description),
+                                            QString::fromLatin1(row.value)));
+    }
+    parser.addPositionalArgument(QStringLiteral("plugins"),
+                                 QStringLiteral("Applications to load. Default: the one built beside this program."),
+                                 QStringLiteral("[plugin.so...]"));
+}
+
+/// Why the values cannot be used, or an empty text.
+QString problem(const QCommandLineParser &parser) {
+    for (const OptionRow &row : optionRows) {
+        if (!row.value) {
+            continue;
+        }
+        const QString name = QString::fromLatin1(row.name);
+        const QStringList values = parser.values(name);
+        if (values.size() > 1) {
+            return QStringLiteral("--%1 is given more than once").arg(name);
+        }
+        if (!values.isEmpty() && values.first().isEmpty()) {
+            return QStringLiteral("--%1 needs a value (%2)").arg(name, QString::fromLatin1(row.value));
+        }
+    }
+    if (parser.isSet(QStringLiteral("scale"))) {
+        const QString text = parser.value(QStringLiteral("scale"));
+        bool isNumber = false;
+        const double scale = text.toDouble(&isNumber);
+        // Written so that "nan" fails too.
+        if (!isNumber || !(scale >= smallestScale && scale <= largestScale)) {
+            return QStringLiteral("--scale %1: a number from %2 to %3 is needed")
+                .arg(text)
+                .arg(smallestScale)
+                .arg(largestScale);
+        }
+    }
+    QStringList given;
+    for (const char *name : {"script", "tour", "render", "measure"}) {
+        if (parser.isSet(QString::fromLatin1(name))) {
+            given << QStringLiteral("--") + QString::fromLatin1(name);
+        }
+    }
+    if (given.size() > 1) {
+        return QStringLiteral("%1 do not go together").arg(given.join(QStringLiteral(" and ")));
+    }
+    const QStringList files = parser.positionalArguments();
+    if (parser.isSet(QStringLiteral("render")) && (files.size() != 1 || files.first().isEmpty())) {
+        return QStringLiteral("--render needs two files: the one to play, and the one to write");
+    }
+    if (parser.isSet(QStringLiteral("measure")) && !files.isEmpty()) {
+        return QStringLiteral("--measure writes one file, so %1 is one too many").arg(files.first());
+    }
+    return QString();
+}
+
+}  // namespace
+
+ParsedOptions parseOptions(const QStringList &arguments) {
+    QCommandLineParser parser;
+    setUp(parser);
+    ParsedOptions parsed;
+    if (!parser.parse(arguments)) {
+        parsed.error = parser.errorText();
+        return parsed;
+    }
+    parsed.error = problem(parser);
+    if (!parsed.error.isEmpty()) {
+        return parsed;
+    }
+    Options &options = parsed.options;
+    options.plugins = parser.positionalArguments();
+    options.root = parser.value(QStringLiteral("root"));
+    if (parser.isSet(QStringLiteral("scale"))) {
+        options.scale = parser.value(QStringLiteral("scale")).toDouble();
+    }
+    options.language = parser.value(QStringLiteral("language"));
+    options.open = parser.value(QStringLiteral("open"));
+    options.script = parser.value(QStringLiteral("script"));
+    options.tour = parser.value(QStringLiteral("tour"));
+    options.play =
+        parser.isSet(QStringLiteral("play")) ? parser.value(QStringLiteral("play")) : QString::fromLatin1(defaultPlay);
+    options.meters = parser.isSet(QStringLiteral("meters"));
+    options.soundJob.renderFrom = parser.value(QStringLiteral("render"));
+    if (!options.soundJob.renderFrom.isEmpty()) {
+        options.soundJob.renderTo = options.plugins.takeFirst();
+    }
+    options.soundJob.measureTo = parser.value(QStringLiteral("measure"));
+    options.trace = parser.isSet(QStringLiteral("trace"));
+    options.verbose = parser.isSet(QStringLiteral("verbose"));
+    options.exitWhenShown = parser.isSet(QStringLiteral("exit-when-shown"));
+    options.help = parser.isSet(QStringLiteral("help"));
+    options.version = parser.isSet(QStringLiteral("version"));
+    return parsed;
+}
+
+QString optionsHelp() {
+    QCommandLineParser parser;
+    setUp(parser);
+    return parser.helpText();
+}
+
+}  // namespace headunit

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "headunit/host/app/soundlibrary.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace headunit {
+
+/// What the command line asks for. Every option has a default that works.
+struct Options {
+    QStringList plugins;         ///< files to load; empty: the one built beside the host
+    QString root;                ///< folder that stands for the unit's file system; empty: below the user's data
+    double scale = 1;            ///< size of a screen pixel on the desk
+    QString language;            ///< language code; empty: the one last chosen
+    QString open;                ///< application to open at once; empty: the home screen
+    QString script;              ///< script to run
+    QString tour;                ///< folder that the tour's pictures go to; empty: no tour
+    QString play;                ///< what to play on the desk: music, noise, sweep, loudspeakers, silence, or a file
+    bool meters = false;         ///< print what the loudspeakers do
+    SoundJob soundJob;           ///< what to do with the sound instead of showing the unit
+    bool trace = false;          ///< print each call across the contract
+    bool verbose = false;        ///< print debug lines
+    bool exitWhenShown = false;  ///< end once the first screen is painted
+    bool help = false;
+    bool version = false;
+
+    bool scripted() const { return !script.isEmpty() || !tour.isEmpty(); }
+};
+
+/// The options of a command line, or one readable line that says what is wrong with it.
+struct ParsedOptions {
+    Options options;
+    QString error;
+};
+
+/// Reads a command line whose first entry is the program's name.
+ParsedOptions parseOptions(const QStringList &arguments);
+
+/// The text that --help prints. Needs an application object.
+QString optionsHelp();
+
+}  // namespace headunit

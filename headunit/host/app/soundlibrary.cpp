@@ -1,0 +1,35 @@
+#include "headunit/host/app/soundlibrary.h"
+
+#include <QCoreApplication>
+#include <QLibrary>
+
+namespace headunit {
+
+namespace {
+
+/// A function of the library, or null and the reason.
+template <typename Entry> Entry resolve(const char *name, QString *problem) {
+    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/libheadunitsound.so"));
+    const auto entry = reinterpret_cast<Entry>(library.resolve(name));
+    if (!entry) {
+        *problem = library.errorString();
+    }
+    return entry;
+}
+
+}  // namespace
+
+QString doSoundJob(const SoundJob &job) {
+    QString problem;
+    if (const auto entry = resolve<SoundEntry>(soundEntryName, &problem)) {
+        entry(&job, &problem);
+    }
+    return problem;
+}
+
+QObject *startSound(const QString &what, bool meters, QString *problem) {
+    const auto entry = resolve<StartSoundEntry>(startSoundEntryName, problem);
+    return entry ? entry(&what, meters, problem) : nullptr;
+}
+
+}  // namespace headunit

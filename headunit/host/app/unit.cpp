@@ -1,0 +1,247 @@
+#include "headunit/host/app/unit.h"
+
+#include "audioservice.h"
+#include "headunit/audio/service/soundtables.h"
+#include "headunit/host/app/plugincatalog.h"
+#include "headunit/host/app/stage.h"
+#include "headunit/host/screens/bandadjust.h"
+#include "headunit/host/screens/callscreen.h"
+#include "headunit/host/screens/carscreen.h"
+#include "headunit/host/screens/homescreen.h"
+#include "headunit/host/screens/leveloverlay.h"
+#include "headunit/host/screens/texts.h"
+#include "headunit/toolkit/statusbar.h"
+#include "keyevent.h"
+#include "settingscache.h"
+#include "settingsfunc.h"
+#include "statusbarcontrol.h"
+#include "touchevent.h"
+
+#include <QDebug>
+
+#include <utility>
+
+namespace headunit {
+
+namespace {
+
+const QLatin1String audioSettingsId("audiosetting");
+// What another application writes to have Audio Settings open its Volume Settings page.
+const QLatin1String pageRequestKey("SettingTouchPageType");
+constexpr int volumePageRequest = 3;
+
+constexpr int mainChannel = 0;  ///< index into texts::channels
+constexpr int phoneChannel = 2;
+
+}  // namespace
+
+Unit::Unit(PluginCatalog &catalog, QWidget *screen, StatusBar::Clock clock)
+    : m_catalog(catalog), m_screen(screen), m_clock(std::move(clock)), m_stage(new Stage(screen, this)) {
+    setStatusBarObserver([this](bool) { updateStatusBar(); });
+}
+
+Unit::~Unit() {
+    setStatusBarObserver({});
+    shutDown();
+}
+
+void Unit::show(Place place) {
+    if (place == Car) {
+        showCar();
+    } else if (place == BandAdjust) {
+        showBandAdjust();
+    } else {
+        showHome();
+    }
+}
+
+void Unit::show(Place place, QWidget *widget) {
+    leaveApplication();
+    if (m_shown && m_shown != widget) {
+        m_shown->hide();
+    }
+    if (m_bandAdjust != widget) {
+        closeBandAdjust();
+    }
+    m_place = place;
+    m_shown = widget;
+    // An application may have hidden the bar; the host's own screens have it.
+    cm::StatusBarControl::instance()->sethide(false);
+    widget->show();
+    widget->raise();
+    updateStatusBar();
+}
+
+void Unit::showHome() {
+    show(Home, homeScreen());
+}
+
+void Unit::showCar() {
+    show(Car, carScreen());
+}
+
+void Unit::showBandAdjust() {
+    if (!m_bandAdjust) {
+        m_bandAdjust = createBandAdjust(m_screen);
+        if (!m_bandAdjust) {
+            return;
+        }
+        m_bandAdjust->setObjectName(QStringLiteral("bandadjust"));
+        m_bandAdjust->move(0, StatusBar::barHeight);
+    }
+    show(BandAdjust, m_bandAdjust);
+}
+
+void Unit::closeBandAdjust() {
+    if (m_bandAdjust) {
+        if (m_shown == m_bandAdjust) {
+            m_shown = nullptr;
+        }
+        // One of its keys may be what closes it.
+        m_bandAdjust->hide();
+        m_bandAdjust->deleteLater();
+        m_bandAdjust = nullptr;
+    }
+}
+
+bool Unit::openApplication(const QString &id, Place origin) {
+    const Application *application = m_catalog.find(id);
+    if (!application) {
+        return false;
+    }
+    if (!m_stage->open(application->window)) {
+        qWarning("%s: the application has nothing to show", qUtf8Printable(id));
+        showHome();
+        return false;
+    }
+    if (m_place != InApplication) {
+        m_origin = origin;
+    }
+    m_place = InApplication;
+    if (m_shown) {
+        m_shown->hide();
+        m_shown = nullptr;
+    }
+    closeBandAdjust();
+    updateStatusBar();
+    return true;
+}
+
+void Unit::leaveApplication() {
+    if (m_place == InApplication) {
+        m_place = Nowhere;
+        m_stage->leave();
+    }
+}
+
+bool Unit::requestVolumeSettings() {
+    mem::SettingsFunc::instance()->setValue(pageRequestKey, 0, volumePageRequest, true);
+    const Application *application = m_catalog.find(audioSettingsId);
+    if (application && m_stage->front() == application->window) {
+        // Only then: an application that is opened reads the request by itself, and told twice would take the requested
+        // page for the one to return to.
+        Q_EMIT mem::SettingsCache::instance()->SettingsCacheSig(pageRequestKey);
+    }
+    return openApplication(audioSettingsId, m_place);
+}
+
+void Unit::startCall() {
+    if (m_callActive) {
+        return;
+    }
+    setCallActive(true);
+    m_beforeCall = m_place;
+    m_windowBeforeCall = m_stage->front();
+    show(Call, callScreen());
+}
+
+void Unit::endCall() {
+    if (!m_callActive) {
+        return;
+    }
+    setCallActive(false);
+    if (m_place != Call) {
+        return;
+    }
+    if (m_windowBeforeCall && m_stage->open(m_windowBeforeCall)) {
+        m_place = InApplication;
+        m_shown->hide();
+        m_shown = nullptr;
+        updateStatusBar();
+    } else {
+        show(m_beforeCall);
+    }
+}
+
+void Unit::pressHardKey(int key) {
+    KeyEvent event(QEvent::KeyPress, key);
+    if (m_stage->offerKey(&event)) {
+        return;
+    }
+    switch (key) {
+        case KeyEvent::VolumeUp:
+            stepVolume(1);
+            break;
+        case KeyEvent::VolumeDown:
+            stepVolume(-1);
+            break;
+        case KeyEvent::Home:
+            showHome();
+            break;
+        case KeyEvent::Back:
+            if (m_place == Car || m_place == BandAdjust) {
+                showHome();
+            } else if (m_place == InApplication && !m_stage->offerBack()) {
+                touch(Qx::TouchBack);
+            }
+            break;
+        default:
+            qDebug("no hard key %d", key);
+            break;
+    }
+}
+
+void Unit::releaseHardKey(int key) {
+    KeyEvent event(QEvent::KeyRelease, key);
+    m_stage->offerKey(&event);
+}
+
+void Unit::touch(int code) {
+    switch (code) {
+        case Qx::TouchBack:
+            if (m_place == InApplication) {
+                show(m_origin);
+            } else if (m_place == BandAdjust) {
+                showHome();
+            }
+            break;
+        case Qx::TouchClose:
+            showHome();
+            break;
+        default:
+            qDebug("touch code %d has no meaning here", code);
+            break;
+    }
+}
+
+void Unit::stepVolume(int by) {
+    const texts::Channel &channel = texts::channels[m_callActive ? phoneChannel : mainChannel];
+    qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
+    const int level =
+        qBound(ranges::channelLevel.low, audio->getSourceVolByType(channel.type) + by, ranges::channelLevel.high);
+    audio->setVolumeLevel(level, channel.type);
+    if (!m_levelOverlay) {
+        m_levelOverlay = new LevelOverlay(m_screen);
+    }
+    m_levelOverlay->showLevel(channel.textId, level);
+}
+
+void Unit::shutDown() {
+    m_place = Nowhere;
+    closeBandAdjust();
+    m_stage->shutDown();
+    m_catalog.unload();
+    m_stage->releaseWidgets();
+}
+
+}  // namespace headunit

@@ -1,0 +1,84 @@
+#include "headunit/host/screens/key.h"
+
+#include "audioservice.h"
+#include "headunit/host/screens/look.h"
+#include "translator.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
+
+namespace headunit {
+
+namespace {
+constexpr int barWidth = 48;
+constexpr int barHeight = 4;
+constexpr int barInset = 8;
+constexpr int captionBelowPicture = 64;  ///< height at the foot of a key for the text below its picture
+}  // namespace
+
+Key::Key(const QString &name, const QRect &geometry, QWidget *parent) : QAbstractButton(parent) {
+    setObjectName(name);
+    setGeometry(geometry);
+    setFocusPolicy(Qt::NoFocus);
+    setFont(look::font(look::captionPixels));
+}
+
+void Key::setTextId(int id) {
+    m_textId = id;
+    update();
+}
+
+void Key::setPicture(const QString &name) {
+    m_picture = name;
+    update();
+}
+
+QString Key::caption() const {
+    return m_textId ? Translator::translate(m_textId) : text();
+}
+
+void Key::mousePressEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton) {
+        qvaudio::AudioService::instance()->doBeep(0);
+    }
+    QAbstractButton::mousePressEvent(event);
+}
+
+void Key::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    const bool lit = isDown();
+    look::paintKey(painter, rect(),
+                   !isEnabled()  ? look::KeyState::Disabled
+                   : lit         ? look::KeyState::Pressed
+                   : isChecked() ? look::KeyState::Checked
+                                 : look::KeyState::Normal);
+    if (isChecked()) {
+        painter.fillRect((width() - barWidth) / 2, height() - barInset - barHeight, barWidth, barHeight,
+                         lit ? look::litText : colour::accent);
+    }
+    QRect textArea = rect().adjusted(barInset, 0, -barInset, 0);
+    if (!m_picture.isEmpty()) {
+        const QPixmap pixmap(look::picture(m_picture + (lit ? QLatin1String("_p") : QLatin1String("_n"))));
+        const QSize size = pixmap.size() / pixmap.devicePixelRatio();
+        QRect area = rect();
+        if (!caption().isEmpty()) {
+            area.setHeight(height() - captionBelowPicture);
+            textArea.setTop(area.bottom());
+            textArea.setHeight(captionBelowPicture - barInset);
+        }
+        painter.drawPixmap(area.x() + (area.width() - size.width()) / 2, area.y() + (area.height() - size.height()) / 2,
+                           pixmap);
+    }
+    painter.setPen(!isEnabled() ? colour::disabledText : lit ? look::litText : colour::text);
+    painter.drawText(textArea, Qt::AlignCenter, caption());
+}
+
+void Key::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::LanguageChange) {
+        update();
+    }
+    QAbstractButton::changeEvent(event);
+}
+
+}  // namespace headunit

@@ -1,0 +1,395 @@
+// The EQ page's five slots: storing, recalling, selection.
+
+#include "tests/audiosetting/eq/eqpagetest.h"
+#include "tests/platform/testmain.h"
+
+#include <limits>
+
+using namespace eqpage;
+using reference::everywhere;
+
+namespace {
+
+const int minimum = std::numeric_limits<int>::min();
+const int maximum = std::numeric_limits<int>::max();
+const int longPress = 1500;
+
+/// The lines of a slot's storing, after the beep.
+QStringList storing(int slot, const QList<int> &levels) {
+    QStringList lines{lastSlot(slot)};
+    for (int band = 0; band < levels.size(); ++band) {
+        lines << QStringLiteral("setValue(\"%1\", 12, %2, true)").arg(slotKey(slot, band)).arg(levels[band]);
+    }
+    return lines << QStringLiteral("setValue(\"%1\", false, true, true)").arg(storedKey(slot));
+}
+
+}  // namespace
+
+class tst_EqSlots : public PageTest {
+    Q_OBJECT
+private slots:
+    void fiveSlots_data() {
+        QTest::addColumn<int>("slot");
+        for (int slot = 0; slot < 5; ++slot) {
+            QTest::addRow("slot %d", slot) << slot;
+        }
+    }
+
+    void aLongPressStoresTheCurveShown_data() { fiveSlots_data(); }
+    void aLongPressStoresTheCurveShown() {
+        QFETCH(int, slot);
+        setLive(curve(slot));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QPushButton *const key = customKey(page, slot);
+        finger::press(key, key->rect().center());
+        advance(longPress - 1);
+        QCOMPARE(recording::take(), QStringList());
+        advance(1);
+        QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + storing(slot, curve(slot)));
+        QCOMPARE(selected(page), slot);
+        advance(5000);
+        QCOMPARE(recording::take(), QStringList());
+        // The release neither recalls nor beeps.
+        finger::release(key, key->rect().center());
+        QCOMPARE(recording::take(), QStringList{highlight(slot)});
+        QCOMPARE(selected(page), slot);
+        QCOMPARE(reference::levels(page), curve(slot));
+    }
+
+    void storingSelectsTheSlotBeforeTheRelease() {
+        setLive(curve(1));
+        storeSlot(4, curve(1));
+        recording::setStored("HIGHLIGHT_PRESET_ID", 4);
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QCOMPARE(selected(page), 4);
+        QPushButton *const key = customKey(page, 1);
+        finger::press(key, key->rect().center());
+        advance(longPress);
+        QCOMPARE(recording::stored("HIGHLIGHT_PRESET_ID"), QVariant(4));
+        QCOMPARE(selected(page), 1);
+        finger::release(key, key->rect().center());
+        QCOMPARE(recording::stored("HIGHLIGHT_PRESET_ID"), QVariant(1));
+        QCOMPARE(selected(page), 1);
+    }
+
+    void storingIsGivenTheBandDraggedLast() {
+        setLive(everywhere(12));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        finger::hold(customKey(page, 0), longPress);
+        QCOMPARE(debugLines().filter("slot: 0 section: 0 value: 0").size(), 1);
+        finger::tap(reference::sliders(page)[4], at(20));
+        finger::hold(customKey(page, 2), longPress);
+        QCOMPARE(debugLines().filter("slot: 2 section: 4 value: 20").size(), 1);
+        QVERIFY(QMetaObject::invokeMethod(&page, "save_eq_section_drag", Q_ARG(int, 6), Q_ARG(int, 9)));
+        finger::hold(customKey(page, 1), longPress);
+        QCOMPARE(debugLines().filter("slot: 1 section: 6 value: 9").size(), 1);
+    }
+
+    void storingAPresetMakesItTheLiveCurve() {
+        recording::state().eqType = 3;
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        const QList<int> rock = reference::levels(reference::presets()[3]);
+        finger::hold(customKey(page, 1), longPress);
+        QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + storing(1, rock) + QStringList{type(16)} +
+                                        sendAll(rock) + QStringList{highlight(1)});
+        QCOMPARE(reference::levels(page), rock);
+        QCOMPARE(selected(page), 1);
+    }
+
+    void aStoredSlotShowsItsNameAnEmptyOneItsPicture() {
+        storeSlot(3, curve(1));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        const auto check = [&page](const QList<int> &stored) {
+            for (int slot = 0; slot < 5; ++slot) {
+                const auto name = page.findChild<QLabel *>(QStringLiteral("Txt_custom%1").arg(slot + 1));
+                const auto picture = page.findChild<QLabel *>(QStringLiteral("Icn_preset_%1").arg(slot + 1));
+                QCOMPARE(name->isVisible(), stored.contains(slot));
+                QCOMPARE(picture->isVisible(), !stored.contains(slot));
+            }
+        };
+        check({3});
+        finger::hold(customKey(page, 0), longPress);
+        check({0, 3});
+        page.hide();
+        recording::setStored(storedKey(3), false);
+        show(&page);
+        check({0});
+    }
+
+    void aShortPressRecallsAStoredSlot_data() { fiveSlots_data(); }
+    void aShortPressRecallsAStoredSlot() {
+        QFETCH(int, slot);
+        setLive(everywhere(12));
+        storeSlot(slot, curve(3));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QPushButton *const key = customKey(page, slot);
+        finger::press(key, key->rect().center());
+        QCOMPARE(recording::take(), QStringList());
+        finger::release(key, key->rect().center());
+        QStringList lines{"doBeep(0)", highlight(slot), lastSlot(slot)};
+        for (int band = 0; band < 13; ++band) {
+            if (curve(3)[band] != 12) {  // what the service holds already
+                lines << send(24 - curve(3)[band], band);
+            }
+        }
+        QCOMPARE(recording::take(), lines);
+        QCOMPARE(reference::levels(page), curve(3));
+        QCOMPARE(selected(page), slot);
+        for (int band = 0; band < 13; ++band) {
+            QCOMPARE(upKeys(page)[band]->isEnabled(), curve(3)[band] > 0);
+            QCOMPARE(downKeys(page)[band]->isEnabled(), curve(3)[band] < 24);
+        }
+    }
+
+    void recallingLeavesAPreset() {
+        recording::state().eqType = 7;
+        storeSlot(0, everywhere(12));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        finger::tap(customKey(page, 0));
+        QCOMPARE(recording::take(),
+                 QStringList({"doBeep(0)", highlight(0), lastSlot(0), type(16)}) + sendAll(everywhere(12)));
+        QCOMPARE(recording::state().eqType, 16);
+    }
+
+    void anEmptySlotOnlyEvaluatesTheSelection() {
+        setLive(curve(1));
+        storeSlot(4, curve(1));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QCOMPARE(selected(page), 4);
+        finger::tap(customKey(page, 2));
+        QCOMPARE(recording::take(), QStringList());
+        QCOMPARE(selected(page), 4);
+    }
+
+    void aPressJustTooShortToStoreRecalls() {
+        setLive(everywhere(12));
+        storeSlot(2, curve(2));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        finger::hold(customKey(page, 2), longPress - 1);
+        QCOMPARE(recording::take().first(), QStringLiteral("doBeep(0)"));
+        QCOMPARE(recording::stored(slotKey(2, 0)), QVariant(curve(2)[0]));
+        QCOMPARE(reference::levels(page), curve(2));
+    }
+
+    void aNewPressAfterStoringRecalls() {
+        setLive(curve(1));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        finger::hold(customKey(page, 0), longPress);
+        finger::tap(reference::sliders(page)[0], at(0));
+        advance(80);
+        recording::clear();
+        finger::tap(customKey(page, 0));
+        QCOMPARE(recording::take(), QStringList({"doBeep(0)", highlight(0), lastSlot(0), send(24 - curve(1)[0], 0)}));
+        QCOMPARE(reference::levels(page), curve(1));
+    }
+
+    void touchesOnNameAndPictureReachTheKey() {
+        storeSlot(0, curve(1));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        finger::tap(page.findChild<QLabel *>("Txt_custom1"));
+        QVERIFY(recording::take().contains("doBeep(0)"));
+        finger::press(page.findChild<QLabel *>("Icn_preset_2"), QPoint(68, 36));
+        QVERIFY(customKey(page, 1)->isDown());
+        finger::release(page.findChild<QLabel *>("Icn_preset_2"), QPoint(68, 36));
+        finger::tap(page.findChild<QLabel *>("Txt_flat"));
+        QCOMPARE(recording::take().first(), QStringLiteral("doBeep(0)"));
+    }
+
+    // Selection -------------------------------------------------------------------------------------------------
+
+    void theFirstSlotWithTheCurveShownIsSelected() {
+        setLive(curve(1));
+        storeSlot(1, curve(2));
+        storeSlot(2, curve(1));
+        storeSlot(3, curve(1));
+        for (int band = 0; band < 13; ++band) {
+            recording::setStored(slotKey(0, band), curve(1)[band]);  // equal, but never stored
+        }
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QCOMPARE(selected(page), 2);
+        QVERIFY(page.eqValueCompare(0) && page.eqValueCompare(2) && page.eqValueCompare(3));
+        QVERIFY(!page.eqValueCompare(1));
+    }
+
+    void oneLevelOffIsAnotherCurve() {
+        setLive(curve(1));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        for (int band = 0; band < 13; ++band) {
+            QList<int> levels = curve(1);
+            levels[band] += levels[band] < 24 ? 1 : -1;
+            storeSlot(0, levels);
+            page.updateCurrentSelect();
+            QCOMPARE(selected(page), -1);
+        }
+    }
+
+    void theHighlightedSlotIsSelectedWhateverItStores() {
+        setLive(curve(1));
+        storeSlot(1, curve(1));
+        storeSlot(3, curve(2));
+        recording::setStored("HIGHLIGHT_PRESET_ID", 3);
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QCOMPARE(selected(page), 3);
+    }
+
+    void aHighlightThatNamesNoStoredSlotSelectsNone_data() {
+        QTest::addColumn<int>("highlighted");
+        for (int highlighted : {2, 5, -2, minimum, maximum}) {
+            QTest::addRow("%d", highlighted) << highlighted;
+        }
+    }
+    void aHighlightThatNamesNoStoredSlotSelectsNone() {
+        QFETCH(int, highlighted);
+        setLive(curve(1));
+        storeSlot(1, curve(1));
+        recording::setStored("HIGHLIGHT_PRESET_ID", highlighted);
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QCOMPARE(selected(page), -1);
+        QCOMPARE(recording::stored("HIGHLIGHT_PRESET_ID"), QVariant(highlighted));
+    }
+
+    void underAPresetTheSelectionFollowsAfter20Milliseconds() {
+        recording::state().eqType = 3;
+        storeSlot(4, reference::levels(reference::presets()[3]));
+        Audiosetting_right_eq_widget page(nullptr);
+        page.show();
+        advance(19);
+        QCOMPARE(selected(page), -1);
+        advance(1);
+        QCOMPARE(selected(page), 4);
+        QCOMPARE(recording::take(), QStringList());
+    }
+
+    void onlyTheLiveCurveAsksForTheLastSlotAndIsNotEvaluatedLater() {
+        for (int number : {0, 3, 16, 17, 20}) {
+            recording::reset();
+            setLive(curve(1));
+            recording::state().eqType = number;
+            recording::setLogged(recording::Reads);
+            Audiosetting_right_eq_widget page(nullptr);
+            page.show();
+            advance(19);
+            QCOMPARE(recording::take().contains("getValue(\"custom_eq_type_id\", 0)"), number == 16);
+            advance(1);
+            QCOMPARE(recording::take().isEmpty(), number == 16);
+        }
+    }
+
+    void updateCustomEqUiSelectsStoredSlotsOnly() {
+        storeSlot(1, curve(1));
+        Audiosetting_right_eq_widget page(nullptr);
+        page.updateCustomEqUi(1);
+        QCOMPARE(selected(page), 1);
+        for (int slot : {0, 5, -1, minimum, maximum}) {
+            page.updateCustomEqUi(1);
+            page.updateCustomEqUi(slot);
+            QCOMPARE(selected(page), -1);
+        }
+    }
+
+    // What is called by name, and bad values -----------------------------------------------------------------------
+
+    void storingInNoSlotOnlyNotesTheNumber() {
+        Audiosetting_right_eq_widget page(nullptr);
+        for (int slot : {-1, 5, minimum, maximum}) {
+            page.saveCustomEqValue(slot, 0, 0);
+            QCOMPARE(recording::take(), QStringList{lastSlot(slot)});
+        }
+    }
+
+    void slotsAndBandsOutOfRangeAreIgnored() {
+        Audiosetting_right_eq_widget page(nullptr);
+        for (int slot : {-1, 5, minimum, maximum}) {
+            QCOMPARE(page.getCustomEqValue(0, slot), 0);
+            QVERIFY(!page.eqValueCompare(slot));
+            page.updateCustomEqByType(slot, 0, 3);
+            QVERIFY(QMetaObject::invokeMethod(&page, "onButtonCustomPressed", Q_ARG(int, slot)));
+            QVERIFY(QMetaObject::invokeMethod(&page, "onbuttonCustomClicked", Q_ARG(int, slot)));
+            QCOMPARE(recording::take(), QStringList());
+            page.updateEqType(slot);
+            QCOMPARE(recording::take(), QStringList{lastSlot(slot)});
+        }
+        for (int band : {-1, 13}) {
+            page.updateCustomEqByType(0, band, 3);
+            QCOMPARE(recording::take(), QStringList());
+        }
+    }
+
+    void oneLevelIsWrittenAndRead() {
+        Audiosetting_right_eq_widget page(nullptr);
+        QCOMPARE(page.getCustomEqValue(5, 2), 12);
+        page.updateCustomEqByType(2, 5, 7);
+        QCOMPARE(recording::take(), QStringList{"setValue(\"customeq3_5\", 12, 7, true)"});
+        QCOMPARE(page.getCustomEqValue(5, 2), 7);
+    }
+
+    void recallByNameSendsAndShows() {
+        Audiosetting_right_eq_widget page(nullptr);
+        void (Audiosetting_right_eq_widget::*const recalls[])() = {
+            &Audiosetting_right_eq_widget::onSetCustom1, &Audiosetting_right_eq_widget::onSetCustom2,
+            &Audiosetting_right_eq_widget::onSetCustom3, &Audiosetting_right_eq_widget::onSetCustom4,
+            &Audiosetting_right_eq_widget::onSetCustom5};
+        for (int slot = 0; slot < 5; ++slot) {
+            setLive(everywhere(24));
+            recording::state().customEq.fill(-7);
+            storeSlot(slot, curve(slot));
+            (page.*recalls[slot])();
+            QCOMPARE(recording::take(), sendAll(curve(slot)));
+            QCOMPARE(reference::levels(page), curve(slot));
+        }
+    }
+
+    void badLevelsInASlotAreShownAtTheEndsAndKept() {
+        setLive(everywhere(12));
+        QList<int> levels = everywhere(12);
+        levels[0] = 25;
+        levels[1] = -1;
+        levels[2] = maximum;
+        levels[3] = minimum;
+        storeSlot(0, levels);
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        finger::tap(customKey(page, 0));
+        QCOMPARE(reference::levels(page).mid(0, 5), QList<int>({24, 0, 24, 0, 12}));
+        QCOMPARE(selected(page), 0);
+        QCOMPARE(recording::stored(slotKey(0, 3)), QVariant(minimum));
+        QVERIFY(!downKeys(page)[2]->isEnabled());
+        QVERIFY(!upKeys(page)[3]->isEnabled());
+    }
+
+    void aBadLastSlotDoesNoHarmOnShow() {
+        storeSlot(0, curve(1));
+        for (int slot : {-1, 5, minimum, maximum}) {
+            setLive(curve(2));
+            recording::setStored("custom_eq_type_id", slot);
+            Audiosetting_right_eq_widget page(nullptr);
+            show(&page);
+            QCOMPARE(selected(page), -1);
+            QCOMPARE(recording::take(), QStringList());
+            // Recalling a slot repairs it.
+            finger::tap(customKey(page, 0));
+            QCOMPARE(recording::stored("custom_eq_type_id"), QVariant(0));
+            QCOMPARE(reference::levels(page), curve(1));
+            recording::setStored("HIGHLIGHT_PRESET_ID", -1);
+            recording::clear();
+        }
+    }
+};
+
+PAGE_TEST_MAIN(tst_EqSlots)
+#include "tst_eqslots.moc"

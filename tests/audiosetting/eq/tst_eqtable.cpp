@@ -1,0 +1,88 @@
+#include "eq/eqtable.h"
+
+#include "tests/audiosetting/eq/eqreference.h"
+#include "tests/platform/pagetest.h"
+#include "tests/platform/testmain.h"
+
+#include <limits>
+
+using namespace audiosetting;
+
+class tst_EqTable : public PageTest {
+    Q_OBJECT
+private slots:
+    void levelsCountFromTheTop() {
+        QCOMPARE(eq::levelGains().size(), 25);
+        for (int gain = -12; gain <= 12; ++gain) {
+            QCOMPARE(eq::levelOfGain(gain), 12 - gain);
+            QCOMPARE(eq::levelGains().at(12 - gain), gain);
+        }
+    }
+
+    void aGainThatIsNotThereIsLevelZero() {
+        for (int gain : {13, -13, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+            QCOMPARE(eq::levelOfGain(gain), 0);
+        }
+    }
+
+    void countingFromTheOtherEndNeverOverflows() {
+        QCOMPARE(eq::fromOtherEnd(24, 0), 24);
+        QCOMPARE(eq::fromOtherEnd(24, 30), -6);
+        QCOMPARE(eq::fromOtherEnd(12, -12), 24);
+        QCOMPARE(eq::fromOtherEnd(24, std::numeric_limits<int>::min()), std::numeric_limits<int>::max());
+        QCOMPARE(eq::fromOtherEnd(24, std::numeric_limits<int>::max()), 24 - std::numeric_limits<int>::max());
+    }
+
+    void levelsOutsideTheSliderAreShownAtItsEndsAndReported() {
+        QCOMPARE(eq::shownLevel(0), 0);
+        QCOMPARE(eq::shownLevel(24), 24);
+        QCOMPARE(debugLines(), QStringList());
+        QCOMPARE(eq::shownLevel(25), 24);
+        QCOMPARE(debugLines().size(), 1);
+        QCOMPARE(eq::shownLevel(std::numeric_limits<int>::min()), 0);
+        QCOMPARE(debugLines().size(), 2);
+    }
+
+    void holdsThePresetsAndTheFiveCustomRows() {
+        QCOMPARE(eq::presets().size(), 13);
+        for (const reference::Curve &curve : reference::presets()) {
+            const int row = eq::findByType(eq::presets(), curve.type);
+            QVERIFY(row >= 0);
+            QVERIFY(std::equal(curve.gains.begin(), curve.gains.end(), eq::presets().at(row).gain));
+        }
+        for (int type = 16; type <= 20; ++type) {
+            const tagAudioEQItem_T &item = eq::presets().at(eq::findByType(eq::presets(), type));
+            QCOMPARE(item.id, type);
+            QVERIFY(std::all_of(item.gain, item.gain + eqBandCount, [](int gain) { return gain == 0; }));
+        }
+    }
+
+    void rowsCarryTheirIds() {
+        const QList<QPair<int, int>> rows{{0, 0}, {1, 1}, {2, 2}, {3, 3}, {7, 4}, {8, 5}, {4, 6}, {5, 7}};
+        for (int i = 0; i < rows.size(); ++i) {
+            QCOMPARE(eq::presets().at(i).type, rows.at(i).first);
+            QCOMPARE(eq::presets().at(i).id, rows.at(i).second);
+        }
+    }
+
+    void theFirstRowOfATypeWins() {
+        QList<tagAudioEQItem_T> table = eq::presets();
+        table.append(table.at(1));
+        table.last().gain[0] = 9;
+        QCOMPARE(eq::findByType(table, 1), 1);
+        QCOMPARE(eq::curveOfType(table, 1).gain[0], 1);
+    }
+
+    void aTypeWithoutARowIsFlat() {
+        for (int type : {6, 9, 15, 21, -1}) {
+            QCOMPARE(eq::findByType(eq::presets(), type), -1);
+            const tagAudioEQItem_T flat = eq::curveOfType(eq::presets(), type);
+            QVERIFY(std::all_of(flat.gain, flat.gain + eqBandCount, [](int gain) { return gain == 0; }));
+        }
+    }
+
+    void anItemIsFifteenNumbersOf32Bits() { QCOMPARE(sizeof(tagAudioEQItem_T), size_t(15 * 4)); }
+};
+
+PAGE_TEST_MAIN(tst_EqTable)
+#include "tst_eqtable.moc"

@@ -1,0 +1,453 @@
+#include "headunit/host/app/unit.h"
+
+#include "audioservice.h"
+#include "eventhandler.h"
+#include "headunit/audio/service/soundmodel.h"
+#include "headunit/host/app/hostapplication.h"
+#include "headunit/host/app/plugincatalog.h"
+#include "headunit/host/screens/leveloverlay.h"
+#include "headunit/toolkit/language.h"
+#include "headunit/toolkit/unitapplication.h"
+#include "headunit/virtualtime/virtualtime.h"
+#include "keyevent.h"
+#include "settingscache.h"
+#include "settingsfunc.h"
+#include "srcdsplctrl.h"
+#include "statusbarcontrol.h"
+#include "touchevent.h"
+
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWidget>
+
+using headunit::Unit;
+
+namespace {
+const QString app = QStringLiteral("audiosetting");
+const QString requestKey = QStringLiteral("SettingTouchPageType");
+}  // namespace
+
+class TestUnit : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void startsAtHome();
+    void opensAndCloses();
+    void backReturnsToWhereItCameFrom_data();
+    void backReturnsToWhereItCameFrom();
+    void ignoresOtherTouches();
+    void touchesReachTheUnit();
+    void unknownApplication();
+    void applicationWithoutWidget();
+    void requestFromTheCar();
+    void requestWhileInFront();
+    void callTakesTheScreenAndGivesItBack();
+    void callFromTheCar();
+    void homeDuringACall();
+    void bandAdjustOpensAndCloses();
+    void bandAdjustIsLeftForTheRest();
+    void bandAdjustComesBackAfterACall();
+    void volumeKeys();
+    void volumeKeysDuringACall();
+    void levelOverlayGoesByItself();
+    void applicationUsesAKey();
+    void backKey();
+    void homeKey();
+    void statusBarFollowsTheApplication();
+    void sources();
+    void languages();
+    void shutsDown();
+
+private:
+    QStringList takeCalls();
+    QWidget *child(const char *name) { return m_screen->findChild<QWidget *>(QString::fromLatin1(name)); }
+    bool shows(const char *name) { return child(name) && child(name)->isVisible(); }
+    void press(int key) {
+        m_unit->pressHardKey(key);
+        m_unit->releaseHardKey(key);
+    }
+
+    QScopedPointer<headunit::PluginCatalog> m_catalog;
+    QScopedPointer<QWidget> m_screen;
+    QScopedPointer<Unit> m_unit;
+    QObject *m_root = nullptr;
+};
+
+void TestUnit::init() {
+    m_catalog.reset(new headunit::PluginCatalog);
+    m_catalog->load(QStringLiteral(FIXTURES "/application.so"));
+    QCOMPARE(m_catalog->failures(), QStringList());
+    m_root = m_catalog->applications().front().root;
+    m_screen.reset(new QWidget);
+    m_screen->resize(1024, 600);
+    m_unit.reset(new Unit(*m_catalog, m_screen.data(), [] { return QStringLiteral("10:08"); }));
+    m_unit->showHome();
+    m_screen->show();
+    takeCalls();
+    mem::SettingsFunc::instance()->setValue(requestKey, 0, 0, true);
+    qvaudio::AudioService::instance()->setVolumeLevel(16, 0);
+    qvaudio::AudioService::instance()->setVolumeLevel(16, 2);
+}
+
+void TestUnit::cleanup() {
+    m_unit.reset();
+    m_screen.reset();
+    m_catalog.reset();
+}
+
+QStringList TestUnit::takeCalls() {
+    const QStringList calls = m_root->property("calls").toStringList();
+    m_root->setProperty("calls", QStringList());
+    return calls;
+}
+
+void TestUnit::startsAtHome() {
+    QCOMPARE(m_unit->place(), Unit::Home);
+    QVERIFY(shows("home"));
+    QVERIFY(shows("tile_audiosetting"));
+    QVERIFY(shows("status_bar"));
+    // The rest is made when it is wanted.
+    QVERIFY(!child("car"));
+    QVERIFY(!child("call"));
+}
+
+void TestUnit::opensAndCloses() {
+    QVERIFY(m_unit->openApplication(app, Unit::Home));
+    QCOMPARE(m_unit->place(), Unit::InApplication);
+    QCOMPARE(takeCalls(), QStringList({"onCreate", "onShow visible=0", "onEnter visible=1"}));
+    QVERIFY(!shows("home"));
+    m_unit->touch(Qx::TouchClose);
+    QCOMPARE(m_unit->place(), Unit::Home);
+    QCOMPARE(takeCalls(), QStringList({"onExit visible=1", "onHide visible=0"}));
+    QVERIFY(shows("home"));
+    QVERIFY(m_unit->openApplication(app, Unit::Home));
+    QCOMPARE(takeCalls(), QStringList({"onCreate", "onShow visible=0", "onEnter visible=1"}));
+}
+
+void TestUnit::backReturnsToWhereItCameFrom_data() {
+    QTest::addColumn<int>("origin");
+    QTest::newRow("home") << int(Unit::Home);
+    QTest::newRow("car") << int(Unit::Car);
+}
+
+void TestUnit::backReturnsToWhereItCameFrom() {
+    QFETCH(int, origin);
+    m_unit->openApplication(app, Unit::Place(origin));
+    m_unit->touch(Qx::TouchBack);
+    QCOMPARE(int(m_unit->place()), origin);
+    // Close goes home from wherever it came.
+    m_unit->openApplication(app, Unit::Place(origin));
+    m_unit->touch(Qx::TouchClose);
+    QCOMPARE(m_unit->place(), Unit::Home);
+}
+
+void TestUnit::ignoresOtherTouches() {
+    m_unit->openApplication(app, Unit::Home);
+    takeCalls();
+    for (int code : {-1, 0, 2, 14, 16, 1000}) {
+        m_unit->touch(code);
+        QCOMPARE(m_unit->place(), Unit::InApplication);
+    }
+    QCOMPARE(takeCalls(), QStringList());
+    // Back asked for by an application that is not in front any more.
+    m_unit->showCar();
+    m_unit->touch(Qx::TouchBack);
+    QCOMPARE(m_unit->place(), Unit::Car);
+}
+
+void TestUnit::touchesReachTheUnit() {
+    QSignalSpy touched(qApp, SIGNAL(touched(int)));
+    QCoreApplication::postEvent(qApp, new TouchEvent(Qx::TouchBack, -1, -1));
+    QCoreApplication::postEvent(qApp, new TouchEvent(Qx::Touch(99), -1, -1));
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(touched.count(), 2);
+    QCOMPARE(touched.at(0).at(0).toInt(), 15);
+    QCOMPARE(touched.at(1).at(0).toInt(), 99);
+}
+
+void TestUnit::unknownApplication() {
+    QVERIFY(!m_unit->openApplication(QStringLiteral("other"), Unit::Home));
+    QCOMPARE(m_unit->place(), Unit::Home);
+}
+
+void TestUnit::applicationWithoutWidget() {
+    m_root->setProperty("hasWidget", false);
+    m_unit->showCar();
+    QTest::ignoreMessage(QtWarningMsg, "audiosetting: the application has nothing to show");
+    QVERIFY(!m_unit->openApplication(app, Unit::Car));
+    QCOMPARE(m_unit->place(), Unit::Home);
+    QVERIFY(shows("home"));
+}
+
+void TestUnit::requestFromTheCar() {
+    // An application that was open before must not be told twice: once by the signal, once when it is opened.
+    m_unit->openApplication(app, Unit::Home);
+    m_unit->showCar();
+    takeCalls();
+    QSignalSpy signalled(mem::SettingsCache::instance(), SIGNAL(SettingsCacheSig(QString)));
+    QTest::mouseClick(child("car_request"), Qt::LeftButton);
+    QCOMPARE(mem::SettingsFunc::instance()->getValue(requestKey, 0), 3);
+    QCOMPARE(signalled.count(), 0);
+    QCOMPARE(m_unit->place(), Unit::InApplication);
+    QCOMPARE(takeCalls(), QStringList({"onCreate", "onShow visible=0", "onEnter visible=1"}));
+    m_unit->touch(Qx::TouchBack);
+    QCOMPARE(m_unit->place(), Unit::Car);
+    QVERIFY(shows("car"));
+}
+
+void TestUnit::requestWhileInFront() {
+    m_unit->openApplication(app, Unit::Home);
+    takeCalls();
+    QSignalSpy signalled(mem::SettingsCache::instance(), SIGNAL(SettingsCacheSig(QString)));
+    QVERIFY(m_unit->requestVolumeSettings());
+    QCOMPARE(signalled.count(), 1);
+    QCOMPARE(signalled.at(0).at(0).toString(), requestKey);
+    QCOMPARE(mem::SettingsFunc::instance()->getValue(requestKey, 0), 3);
+    QCOMPARE(takeCalls(), QStringList());
+    m_unit->touch(Qx::TouchBack);
+    QCOMPARE(m_unit->place(), Unit::Home);
+}
+
+void TestUnit::callTakesTheScreenAndGivesItBack() {
+    m_unit->openApplication(app, Unit::Car);
+    takeCalls();
+    m_unit->startCall();
+    QCOMPARE(m_unit->place(), Unit::Call);
+    QVERIFY(shows("call"));
+    QCOMPARE(takeCalls(), QStringList({"onExit visible=1", "onHide visible=0"}));
+    m_unit->startCall();
+    QCOMPARE(m_unit->place(), Unit::Call);
+    QTest::mouseClick(child("call_end"), Qt::LeftButton);
+    QCOMPARE(m_unit->place(), Unit::InApplication);
+    QVERIFY(!shows("call"));
+    QCOMPARE(takeCalls(), QStringList({"onCreate", "onShow visible=0", "onEnter visible=1"}));
+    m_unit->endCall();
+    QCOMPARE(takeCalls(), QStringList());
+    m_unit->touch(Qx::TouchBack);
+    QCOMPARE(m_unit->place(), Unit::Car);
+}
+
+void TestUnit::callFromTheCar() {
+    m_unit->showCar();
+    QTest::mouseClick(child("car_call"), Qt::LeftButton);
+    QCOMPARE(m_unit->place(), Unit::Call);
+    m_unit->endCall();
+    QCOMPARE(m_unit->place(), Unit::Car);
+}
+
+void TestUnit::bandAdjustOpensAndCloses() {
+    for (int round = 0; round < 2; ++round) {
+        QTest::mouseClick(child("tile_bandadjust"), Qt::LeftButton);
+        QCOMPARE(m_unit->place(), Unit::BandAdjust);
+        QVERIFY(shows("bandadjust"));
+        QVERIFY(!shows("home"));
+        QVERIFY(shows("status_bar"));
+        // The bands fill the page area of the applications.
+        QCOMPARE(child("bands")->mapTo(m_screen.data(), QPoint()), QPoint(0, 130));
+        QCOMPARE(child("bandadjust")->geometry(), QRect(0, 48, 1024, 552));
+        if (round == 0) {
+            m_unit->touch(Qx::TouchBack);
+        } else {
+            press(KeyEvent::Back);
+        }
+        QCOMPARE(m_unit->place(), Unit::Home);
+        QVERIFY(shows("home"));
+        QVERIFY(!shows("bandadjust"));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(!child("bandadjust"));
+    }
+}
+
+void TestUnit::bandAdjustIsLeftForTheRest() {
+    m_unit->showBandAdjust();
+    m_unit->showBandAdjust();
+    QCOMPARE(m_screen->findChildren<QWidget *>(QStringLiteral("bandadjust")).size(), 1);
+    QVERIFY(m_unit->openApplication(app, Unit::Home));
+    QVERIFY(!shows("bandadjust"));
+    QCOMPARE(m_unit->place(), Unit::InApplication);
+    m_unit->showBandAdjust();
+    QCOMPARE(takeCalls().mid(3), QStringList({"onExit visible=1", "onHide visible=0"}));
+    m_unit->touch(Qx::TouchClose);
+    QCOMPARE(m_unit->place(), Unit::Home);
+    m_unit->showBandAdjust();
+    m_unit->shutDown();
+    QVERIFY(!shows("bandadjust"));
+}
+
+void TestUnit::bandAdjustComesBackAfterACall() {
+    m_unit->showBandAdjust();
+    m_unit->startCall();
+    QVERIFY(!shows("bandadjust"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_unit->endCall();
+    QCOMPARE(m_unit->place(), Unit::BandAdjust);
+    QVERIFY(shows("bandadjust"));
+}
+
+void TestUnit::homeDuringACall() {
+    m_unit->openApplication(app, Unit::Home);
+    m_unit->startCall();
+    takeCalls();
+    press(KeyEvent::Home);
+    QCOMPARE(m_unit->place(), Unit::Home);
+    m_unit->endCall();
+    QCOMPARE(m_unit->place(), Unit::Home);
+    QCOMPARE(takeCalls(), QStringList());
+}
+
+void TestUnit::volumeKeys() {
+    qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
+    press(KeyEvent::VolumeUp);
+    QCOMPARE(audio->getSourceVolByType(0), 17);
+    QVERIFY(shows("level_overlay"));
+    QCOMPARE(m_screen->findChild<headunit::LevelOverlay *>()->level(), 17);
+    press(KeyEvent::VolumeDown);
+    press(KeyEvent::VolumeDown);
+    QCOMPARE(audio->getSourceVolByType(0), 15);
+    audio->setVolumeLevel(0, 0);
+    press(KeyEvent::VolumeDown);
+    QCOMPARE(audio->getSourceVolByType(0), 0);
+    audio->setVolumeLevel(40, 0);
+    press(KeyEvent::VolumeUp);
+    QCOMPARE(audio->getSourceVolByType(0), 40);
+    QCOMPARE(audio->getSourceVolByType(2), 16);
+}
+
+void TestUnit::volumeKeysDuringACall() {
+    m_unit->startCall();
+    press(KeyEvent::VolumeUp);
+    QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(0), 16);
+    QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(2), 17);
+    m_unit->endCall();
+    press(KeyEvent::VolumeUp);
+    QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(0), 17);
+    QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(2), 17);
+}
+
+void TestUnit::levelOverlayGoesByItself() {
+    headunit::VirtualTime *const time = headunit::VirtualTime::instance();
+    press(KeyEvent::VolumeUp);
+    time->advance(1500);
+    press(KeyEvent::VolumeUp);
+    time->advance(headunit::LevelOverlay::showMilliseconds - 1);
+    QVERIFY(shows("level_overlay"));
+    // A finger goes through it.
+    QCOMPARE(m_screen->childAt(child("level_overlay")->geometry().center()), child("home"));
+    time->advance(1);
+    QVERIFY(!shows("level_overlay"));
+    // It stays on top of an application that is opened meanwhile.
+    press(KeyEvent::VolumeUp);
+    m_unit->openApplication(app, Unit::Home);
+    QCOMPARE(m_screen->children().last(), child("level_overlay"));
+}
+
+void TestUnit::applicationUsesAKey() {
+    m_unit->openApplication(app, Unit::Home);
+    takeCalls();
+    press(KeyEvent::VolumeUp);
+    QCOMPARE(takeCalls(), QStringList({"keyEvent press 1", "keyEvent release 1"}));
+    QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(0), 17);
+    m_root->setProperty("keyAnswer", 1);
+    for (int key : {KeyEvent::VolumeUp, KeyEvent::VolumeDown, KeyEvent::Back, KeyEvent::Home}) {
+        press(key);
+    }
+    QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(0), 17);
+    QCOMPARE(m_unit->place(), Unit::InApplication);
+}
+
+void TestUnit::backKey() {
+    press(KeyEvent::Back);
+    QCOMPARE(m_unit->place(), Unit::Home);
+    m_unit->showCar();
+    press(KeyEvent::Back);
+    QCOMPARE(m_unit->place(), Unit::Home);
+
+    m_unit->openApplication(app, Unit::Car);
+    m_root->setProperty("backAnswer", 1);
+    takeCalls();
+    press(KeyEvent::Back);
+    QCOMPARE(takeCalls(), QStringList({"keyEvent press 3", "backEvent", "keyEvent release 3"}));
+    QCOMPARE(m_unit->place(), Unit::InApplication);
+    m_root->setProperty("backAnswer", 0);
+    press(KeyEvent::Back);
+    QCOMPARE(m_unit->place(), Unit::Car);
+}
+
+void TestUnit::homeKey() {
+    m_unit->openApplication(app, Unit::Car);
+    m_root->setProperty("backAnswer", 1);
+    press(KeyEvent::Home);
+    QCOMPARE(m_unit->place(), Unit::Home);
+    m_unit->showCar();
+    press(KeyEvent::Home);
+    QCOMPARE(m_unit->place(), Unit::Home);
+    m_unit->pressHardKey(99);
+    QCOMPARE(m_unit->place(), Unit::Home);
+}
+
+void TestUnit::statusBarFollowsTheApplication() {
+    m_unit->openApplication(app, Unit::Home);
+    // An application that leaves the bar alone has it above its own widget.
+    QVERIFY(shows("status_bar"));
+    QCOMPARE(m_screen->childAt(500, 10), child("status_bar"));
+    cm::StatusBarControl::instance()->sethide(true);
+    QVERIFY(!shows("status_bar"));
+    m_unit->touch(Qx::TouchBack);
+    QVERIFY(shows("status_bar"));
+}
+
+void TestUnit::sources() {
+    QVERIFY(!m_unit->setSource(-1));
+    QVERIFY(!m_unit->setSource(7));
+    m_unit->showCar();
+    QTest::mouseClick(child("car_source_prev"), Qt::LeftButton);
+    QCOMPARE(EventHandler::instance()->control()->currentDspl(), 6);
+    QCOMPARE(headunit::SoundModel::instance().state().activeSource, 6);
+    QTest::mouseClick(child("car_source_next"), Qt::LeftButton);
+    QCOMPARE(EventHandler::instance()->control()->currentDspl(), 0);
+    QCOMPARE(headunit::SoundModel::instance().state().activeSource, 0);
+}
+
+void TestUnit::languages() {
+    QVERIFY(!m_unit->setLanguage(QStringLiteral("xx")));
+    QCOMPARE(headunit::Language::current(), QStringLiteral("en"));
+    m_unit->showCar();
+    QTest::mouseClick(child("car_language_fr"), Qt::LeftButton);
+    QCOMPARE(headunit::Language::current(), QStringLiteral("fr"));
+    QVERIFY(child("car_language_fr")->property("checked").toBool());
+    QVERIFY(!child("car_language_en")->property("checked").toBool());
+    // A second tap on the language in force does not take its mark away.
+    QTest::mouseClick(child("car_language_fr"), Qt::LeftButton);
+    QVERIFY(child("car_language_fr")->property("checked").toBool());
+    // The choice is kept, other than a language that is only set.
+    QVERIFY(m_unit->setLanguage(QStringLiteral("de")));
+    m_unit->restoreLanguage();
+    QCOMPARE(headunit::Language::current(), QStringLiteral("fr"));
+    QTest::mouseClick(child("car_language_en"), Qt::LeftButton);
+    QVERIFY(m_unit->setLanguage(QStringLiteral("de")));
+    m_unit->restoreLanguage();
+    QCOMPARE(headunit::Language::current(), QStringLiteral("en"));
+}
+
+void TestUnit::shutsDown() {
+    m_unit->openApplication(app, Unit::Home);
+    const QPointer<QObject> root = m_root;
+    const QPointer<QWidget> widget = m_root->property("widget").value<QWidget *>();
+    QVERIFY(widget);
+    m_unit->shutDown();
+    QVERIFY(!root);
+    QVERIFY(!widget);
+    m_unit->shutDown();
+}
+
+int main(int argc, char **argv) {
+    headunit::prepareUnitApplication();
+    new headunit::VirtualTime;  // Qt's from here on
+    headunit::HostApplication application(argc, argv);
+    headunit::setUpUnitApplication();
+    TestUnit test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_unit.moc"
