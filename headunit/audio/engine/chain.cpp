@@ -40,10 +40,10 @@ void Chain::endFade() {
     }
 }
 
-void Chain::process(double *mix, double *out, size_t frames, const double *weights) {
+void Chain::process(double *mix, const double *prompts, double *out, size_t frames, const double *weights) {
     std::array<double, largestBlock * outputCount> spread;
     if (!m_fading) {
-        m_filters.process(mix, spread.data(), frames);
+        m_filters.process(mix, prompts, spread.data(), frames);
         m_delay.write(spread.data(), frames);
         m_delay.read(out, frames, m_parameters.delay, m_parameters.gain);
         return;
@@ -51,8 +51,8 @@ void Chain::process(double *mix, double *out, size_t frames, const double *weigh
     std::array<double, largestBlock * outputCount> next;
     std::array<double, largestBlock * stereo> copy;
     std::copy_n(mix, frames * stereo, copy.begin());
-    m_filters.process(mix, spread.data(), frames);
-    m_nextFilters.process(copy.data(), next.data(), frames);
+    m_filters.process(mix, prompts, spread.data(), frames);
+    m_nextFilters.process(copy.data(), prompts, next.data(), frames);
     crossFade(spread.data(), next.data(), weights, frames);
     m_delay.write(spread.data(), frames);
     m_delay.read(out, frames, m_parameters.delay, m_parameters.gain);

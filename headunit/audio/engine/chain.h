@@ -22,9 +22,11 @@ public:
     /// Ends the fade: the parameters that it went to hold alone.
     void endFade();
 
-    /// Takes up to largestBlock \a frames of the mix, which it overwrites; gives as many of outputCount samples.
+    /// Takes up to largestBlock \a frames of the mix, which it overwrites, and of the prompts, which join it on the
+    /// front pair behind equaliser, loudness, balance and fader (null if none sounds); gives as many of outputCount
+    /// samples.
     /// \a weights are those of the parameters that a fade goes to, a weight for each frame; unused without a fade.
-    void process(double *mix, double *out, size_t frames, const double *weights);
+    void process(double *mix, const double *prompts, double *out, size_t frames, const double *weights);
 
 private:
     bool m_fading = false;

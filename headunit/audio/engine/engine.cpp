@@ -28,29 +28,41 @@ void Engine::takeParameters() {
     if (!m_started) {
         m_started = true;
         m_inputGain = m_nextInputGain;
+        for (size_t input = 0; input < inputCount; ++input) {
+            m_ducking[input].jumpTo(parameters->ducking[input]);
+        }
         m_chain.load(parameters->chain);
         return;
+    }
+    for (size_t input = 0; input < inputCount; ++input) {
+        m_ducking[input].goTo(parameters->ducking[input]);
     }
     m_chain.fadeTo(parameters->chain);
     m_fade.restart();
 }
 
-void Engine::mix(const Inputs &inputs, size_t offset, double *mixed, size_t frames) const {
-    std::fill_n(mixed, frames * stereo, 0.0);
-    for (size_t input = 0; input < inputCount; ++input) {
-        const double from = m_inputGain[input];
-        const double way = m_nextInputGain[input] - from;
-        if (!inputs[input] || (from == 0 && way == 0)) {
-            continue;
-        }
-        const float *const samples = inputs[input] + offset * stereo;
-        for (size_t frame = 0; frame < frames; ++frame) {
-            const double gain = way == 0 ? from : from + way * m_fade.weights()[frame];
-            for (size_t side = 0; side < stereo; ++side) {
-                mixed[frame * stereo + side] += tamed(samples[frame * stereo + side]) * gain;
-            }
+/// Adds \a samples of an input, unless they are null; false if nothing was added. Who steps back for a prompt does so
+/// whether he sounds or not.
+bool Engine::add(size_t input, const float *samples, double *mixed, size_t frames) {
+    Ducking &ducking = m_ducking[input];
+    if (!samples && !ducking.isMoving()) {
+        return false;
+    }
+    const double from = m_inputGain[input];
+    const double way = m_nextInputGain[input] - from;
+    const bool silent = (from == 0 && way == 0) || (ducking.gain() == 0 && !ducking.isMoving());
+    std::array<double, Chain::largestBlock> gains;
+    ducking.advance(gains.data(), frames);
+    if (!samples || silent) {
+        return false;
+    }
+    for (size_t frame = 0; frame < frames; ++frame) {
+        const double gain = gains[frame] * (way == 0 ? from : from + way * m_fade.weights()[frame]);
+        for (size_t side = 0; side < stereo; ++side) {
+            mixed[frame * stereo + side] += tamed(samples[frame * stereo + side]) * gain;
         }
     }
+    return true;
 }
 
 /// Behind the limiter, which would give back at once what the fade takes from a sound that is too loud.
@@ -70,10 +82,18 @@ size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, siz
     }
     const bool fading = !m_fade.isOver();
     const size_t count = std::min({frames, Chain::largestBlock, fading ? m_fade.remaining() : frames});
-    std::array<double, Chain::largestBlock * stereo> mixed;
+    std::array<double, Chain::largestBlock * stereo> program;
+    std::array<double, Chain::largestBlock * stereo> prompts;
     std::array<double, Chain::largestBlock * outputCount> sound;
-    mix(inputs, offset, mixed.data(), count);
-    m_chain.process(mixed.data(), sound.data(), count, m_fade.weights());
+    std::fill_n(program.data(), count * stereo, 0.0);
+    std::fill_n(prompts.data(), count * stereo, 0.0);
+    const auto samples = [&](size_t input) { return inputs[input] ? inputs[input] + offset * stereo : nullptr; };
+    add(MainInput, samples(MainInput), program.data(), count);
+    bool prompted = false;
+    for (size_t input = RingtoneInput; input < inputCount; ++input) {
+        prompted |= add(input, samples(input), prompts.data(), count);
+    }
+    m_chain.process(program.data(), prompted ? prompts.data() : nullptr, sound.data(), count, m_fade.weights());
     if (fading) {
         m_fade.advance(count);
         if (m_fade.isOver()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "chain.h"
+#include "ducking.h"
 #include "fade.h"
 #include "limiter.h"
 #include "parameters.h"
@@ -38,13 +39,14 @@ public:
 private:
     void takeParameters();
     size_t processBlock(const Inputs &inputs, size_t offset, float *out, size_t frames);
-    void mix(const Inputs &inputs, size_t offset, double *mixed, size_t frames) const;
+    bool add(size_t input, const float *samples, double *mixed, size_t frames);
     void rise(float *out, size_t frames);
 
     TripleBuffer<Parameters> m_parameters;
     bool m_started = false;
     std::array<double, inputCount> m_inputGain{};
     std::array<double, inputCount> m_nextInputGain{};
+    std::array<Ducking, inputCount> m_ducking;
     Chain m_chain;
     Fade m_fade{fadeSamples};
     Fade m_fadeIn{fadeInSamples};

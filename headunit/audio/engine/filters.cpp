@@ -10,12 +10,18 @@ std::array<double, coefficientCount> coefficients(const Biquad &section) {
     return {section.b0, section.b1, section.b2, section.a1, section.a2};
 }
 
-/// As kernels do it, where there is nothing to filter.
-void spreadOnly(const double *mix, double *spread, size_t frames) {
+void place(const double *mix, const std::array<double, outputCount> &placement, double *spread, size_t frames) {
     for (size_t frame = 0; frame < frames; ++frame) {
         for (size_t output = 0; output < outputCount; ++output) {
-            spread[frame * outputCount + output] = mix[frame * stereo + output % stereo];
+            spread[frame * outputCount + output] = mix[frame * stereo + output % stereo] * placement[output];
         }
+    }
+}
+
+void addPrompts(const double *prompts, double *spread, size_t frames) {
+    for (size_t frame = 0; frame < frames; ++frame) {
+        spread[frame * outputCount + FrontLeft] += prompts[frame * stereo];
+        spread[frame * outputCount + FrontRight] += prompts[frame * stereo + 1];
     }
 }
 
@@ -27,6 +33,7 @@ Filters::Filters(const Kernel &kernel) : m_kernel(&kernel) {
 
 void Filters::load(const ChainParameters &parameters) {
     loadTone(parameters);
+    m_placement = parameters.placement;
     loadCrossover(parameters);
 }
 
@@ -67,16 +74,18 @@ void Filters::loadCrossover(const ChainParameters &parameters) {
     }
 }
 
-void Filters::process(double *mix, double *spread, size_t frames) {
+void Filters::process(double *mix, const double *prompts, double *spread, size_t frames) {
     for (size_t group = 0; group < groupCount; ++group) {
         if (m_toneActive[group]) {
             m_kernel->tone(&m_tone[group], mix, frames);
         }
     }
+    place(mix, m_placement, spread, frames);
+    if (prompts) {
+        addPrompts(prompts, spread, frames);
+    }
     if (m_bankActive) {
-        m_kernel->outputs(&m_bank, mix, spread, frames);
-    } else {
-        spreadOnly(mix, spread, frames);
+        m_kernel->outputs(&m_bank, spread, frames);
     }
 }
 

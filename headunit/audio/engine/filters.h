@@ -16,8 +16,9 @@ public:
     /// Takes other parameters; the filters keep what they have heard.
     void load(const ChainParameters &parameters);
 
-    /// Takes \a frames of the mix, which it overwrites; gives as many of outputCount samples.
-    void process(double *mix, double *spread, size_t frames);
+    /// Takes \a frames of the mix, which it overwrites, and of the prompts, null if none sounds; gives as many of
+    /// outputCount samples.
+    void process(double *mix, const double *prompts, double *spread, size_t frames);
 
 private:
     static constexpr size_t groupCount = toneSections / groupSections;
@@ -29,6 +30,7 @@ private:
     const Kernel *m_kernel;
     std::array<ToneGroup, groupCount> m_tone{};
     std::array<bool, groupCount> m_toneActive{};
+    std::array<double, outputCount> m_placement{};
     OutputBank m_bank{};
     bool m_bankActive = false;
 };

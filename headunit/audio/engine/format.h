@@ -11,7 +11,7 @@ constexpr double pi = 3.14159265358979323846;
 enum Output : size_t { FrontLeft, FrontRight, RearLeft, RearRight, SubLeft, SubRight };
 constexpr size_t outputCount = 6;
 
-/// What is mixed. The source that plays is the main one.
+/// What is mixed. The source that plays is the main one; the others are prompts, in the order of headunit::Prompt.
 enum Input : size_t { MainInput, RingtoneInput, PhoneInput, NavigationInput, VoiceInput, AnnouncementInput, BeepInput };
 constexpr size_t inputCount = 7;
 

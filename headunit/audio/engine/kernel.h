@@ -32,8 +32,8 @@ struct Kernel {
     const char *name;
     /// Filters \a frames of left and right in place.
     void (*tone)(ToneGroup *group, double *samples, size_t frames);
-    /// Spreads \a frames of left and right over the outputs and filters them: outputCount samples a frame.
-    void (*outputs)(OutputBank *bank, const double *samples, double *spread, size_t frames);
+    /// Filters \a frames of outputCount samples in place.
+    void (*outputs)(OutputBank *bank, double *spread, size_t frames);
 };
 
 extern const Kernel plainKernel;  ///< whatever every processor of this kind has; SSE2 on x86-64

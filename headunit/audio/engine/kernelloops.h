@@ -53,10 +53,8 @@ void toneLoop(ToneGroup *group, double *samples, size_t frames) {
 }
 
 /// One vector of outputs, from lane \a first on.
-template <typename Vector> inline __attribute__((always_inline)) void outputLanes(OutputBank *bank,
-                                                                                  const double *samples, double *spread,
-                                                                                  size_t frames, size_t first) {
-    constexpr size_t width = sizeof(Vector) / sizeof(double);
+template <typename Vector>
+inline __attribute__((always_inline)) void outputLanes(OutputBank *bank, double *spread, size_t frames, size_t first) {
     Vector c[crossoverStages][coefficientCount];
     Vector s[crossoverStages][stateCount];
     for (size_t stage = 0; stage < crossoverStages; ++stage) {
@@ -69,9 +67,7 @@ template <typename Vector> inline __attribute__((always_inline)) void outputLane
     }
     for (size_t frame = 0; frame < frames; ++frame) {
         Vector sample;
-        for (size_t lane = 0; lane < width; ++lane) {
-            sample[lane] = samples[frame * stereo + lane % stereo];
-        }
+        __builtin_memcpy(&sample, spread + frame * outputCount + first, sizeof(Vector));
 #pragma GCC unroll 2
         for (size_t stage = 0; stage < crossoverStages; ++stage) {
             step(sample, s[stage][0], s[stage][1], c[stage][0], c[stage][1], c[stage][2], c[stage][3], c[stage][4]);
@@ -85,9 +81,9 @@ template <typename Vector> inline __attribute__((always_inline)) void outputLane
     }
 }
 
-void outputLoop(OutputBank *bank, const double *samples, double *spread, size_t frames) {
-    outputLanes<Quad>(bank, samples, spread, frames, FrontLeft);
-    outputLanes<Pair>(bank, samples, spread, frames, SubLeft);
+void outputLoop(OutputBank *bank, double *spread, size_t frames) {
+    outputLanes<Quad>(bank, spread, frames, FrontLeft);
+    outputLanes<Pair>(bank, spread, frames, SubLeft);
 }
 
 }  // namespace

@@ -13,6 +13,7 @@ namespace headunit::engine {
 namespace {
 
 constexpr double decibelsPerSide = 2;
+constexpr double duckedDecibels = -12;
 constexpr double delayStepsPerSecond = 10000;
 
 int within(int value, const Range &range) {
@@ -86,12 +87,13 @@ void designTone(const SoundState &state, ChainParameters *chain) {
 }
 
 /// Left and right of one place in the car.
-void designPair(size_t left, const CrossoverSections &sections, double gain, const SoundState &state,
+void designPair(size_t left, double fader, const CrossoverSections &sections, double gain, const SoundState &state,
                 ChainParameters *chain) {
     for (const size_t output : {left, left + 1}) {
         const bool atLeft = output == left;
+        chain->placement[output] = state.defeat ? 1 : fader * sideGain(state.balance, atLeft);
         chain->crossover[output] = sections;
-        chain->gain[output] = state.defeat ? gain : gain * sideGain(state.balance, atLeft);
+        chain->gain[output] = gain;
         chain->delay[output] = state.defeat ? 0 : delaySamples(state.delay[output]);
     }
 }
@@ -99,20 +101,39 @@ void designPair(size_t left, const CrossoverSections &sections, double gain, con
 ChainParameters designChain(const SoundState &state) {
     ChainParameters chain;
     if (state.defeat) {
-        designPair(FrontLeft, CrossoverSections(), 1, state, &chain);
-        designPair(RearLeft, CrossoverSections(), 1, state, &chain);
+        designPair(FrontLeft, 1, CrossoverSections(), 1, state, &chain);
+        designPair(RearLeft, 1, CrossoverSections(), 1, state, &chain);
     } else {
         designTone(state, &chain);
-        designPair(FrontLeft, crossover(state.front, frontFrequencies, butterworthHighPass),
-                   filterGain(state.front) * sideGain(state.fader, true), state, &chain);
-        designPair(RearLeft, crossover(state.rear, rearFrequencies, butterworthHighPass),
-                   filterGain(state.rear) * sideGain(state.fader, false), state, &chain);
+        designPair(FrontLeft, sideGain(state.fader, true),
+                   crossover(state.front, frontFrequencies, butterworthHighPass), filterGain(state.front), state,
+                   &chain);
+        designPair(RearLeft, sideGain(state.fader, false), crossover(state.rear, rearFrequencies, butterworthHighPass),
+                   filterGain(state.rear), state, &chain);
     }
     // Defeat leaves the subwoofer's low-pass, level and phase in force: they protect its driver. The fader is between
     // front and rear and leaves it alone.
-    designPair(SubLeft, crossover(state.subwoofer, subwooferFrequencies, butterworthLowPass),
+    designPair(SubLeft, 1, crossover(state.subwoofer, subwooferFrequencies, butterworthLowPass),
                filterGain(state.subwoofer) * subwooferGain(state), state, &chain);
     return chain;
+}
+
+bool sounds(const SoundState &state, Prompt prompt) {
+    return state.activePrompts[static_cast<size_t>(prompt)];
+}
+
+/// Guidance and voice are heard above what plays, a call is heard alone. An announcement stands in for the source that
+/// plays, and steps back for the others like it.
+void designDucking(const SoundState &state, Parameters *parameters) {
+    parameters->ducking.fill(1);
+    double program = 1;
+    if (sounds(state, Prompt::Ringtone) || sounds(state, Prompt::Phone)) {
+        program = 0;
+    } else if (sounds(state, Prompt::Navigation) || sounds(state, Prompt::Voice)) {
+        program = fromDecibels(duckedDecibels);
+    }
+    parameters->ducking[AnnouncementInput] = program;
+    parameters->ducking[MainInput] = sounds(state, Prompt::Announcement) ? 0 : program;
 }
 
 }  // namespace
@@ -123,6 +144,7 @@ Parameters designParameters(const SoundState &state) {
         parameters.inputGain[input] = levelGain(levelOf(state, channelOfInput[input]));
     }
     parameters.inputGain[MainInput] *= state.muted ? 0 : sourceGain(state);
+    designDucking(state, &parameters);
     parameters.chain = designChain(state);
     return parameters;
 }

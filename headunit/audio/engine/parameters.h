@@ -22,18 +22,21 @@ constexpr std::array<size_t, inputCount> channelOfInput = {0, 1, 2, 3, 4, 6, 0};
 /// The filters and gains behind the mix.
 struct ChainParameters {
     std::array<Biquad, toneSections> tone;
+    std::array<double, outputCount> placement{};  ///< balance and fader, which the prompts don't know
     std::array<CrossoverSections, outputCount> crossover;
-    std::array<double, outputCount> gain{};  ///< balance, fader and level; negative where the phase is turned
+    std::array<double, outputCount> gain{};  ///< level; negative where the phase is turned
     std::array<int, outputCount> delay{};    ///< in samples
 
     bool operator==(const ChainParameters &o) const {
-        return tone == o.tone && crossover == o.crossover && gain == o.gain && delay == o.delay;
+        return tone == o.tone && placement == o.placement && crossover == o.crossover && gain == o.gain &&
+               delay == o.delay;
     }
 };
 
 /// Everything that the audio thread needs to know, ready to use.
 struct Parameters {
     std::array<double, inputCount> inputGain{};
+    std::array<double, inputCount> ducking{};  ///< on top of it, while prompts sound
     ChainParameters chain;
 };
 

@@ -15,6 +15,10 @@ struct CrossoverFilter {
     bool operator!=(const CrossoverFilter &o) const { return !(*this == o); }
 };
 
+/// What sounds beside the source that plays, in the order of the engine's inputs. None of it goes through equaliser,
+/// loudness, balance and fader.
+enum class Prompt { Ringtone, Phone, Navigation, Voice, Announcement, Beep };
+
 /// Everything that shapes the sound, as one plain value: what the services were told, within its ranges.
 ///
 /// The services own the one instance; whoever makes the sound is handed a copy.
@@ -22,6 +26,7 @@ struct SoundState {
     static constexpr int bands = 13;
     static constexpr int channels = 8;
     static constexpr int sources = 7;
+    static constexpr int prompts = 6;
     static constexpr int outputs = 6;  ///< front left, front right, rear left, rear right, subwoofer left and right
 
     int eqType = 0;                            ///< curve in force; 16 and above the custom one
@@ -31,7 +36,8 @@ struct SoundState {
     std::array<int, channels> channelLevel{};  ///< 0 to 40
     std::array<int, sources> sourceGain{};     ///< 0 to 20, 10 is neutral
     int activeSource = 0;
-    bool muted = false;  ///< the channels keep their levels
+    bool muted = false;                         ///< the channels keep their levels
+    std::array<bool, prompts> activePrompts{};  ///< by Prompt: those that sound now, for which the others step back
     bool loudness = false;
     bool defeat = false;
     int subwooferLevel = 0;  ///< 0 (silent, or switched off) to 15
@@ -43,8 +49,8 @@ struct SoundState {
 
     /// Every member above, for comparison.
     auto members() const {
-        return std::tie(eqType, customEq, balance, fader, channelLevel, sourceGain, activeSource, muted, loudness,
-                        defeat, subwooferLevel, subwooferPhase, front, rear, subwoofer, delay);
+        return std::tie(eqType, customEq, balance, fader, channelLevel, sourceGain, activeSource, muted, activePrompts,
+                        loudness, defeat, subwooferLevel, subwooferPhase, front, rear, subwoofer, delay);
     }
     bool operator==(const SoundState &o) const { return members() == o.members(); }
     bool operator!=(const SoundState &o) const { return !(*this == o); }

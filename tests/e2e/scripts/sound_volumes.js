@@ -5,6 +5,11 @@ function everywhere(db) {
     return [db, db, db, db, -Infinity, -Infinity];
 }
 
+// Prompts are heard in front.
+function inFront(db) {
+    return [db, db, -Infinity, -Infinity, -Infinity, -Infinity];
+}
+
 function levelDb(level) {
     return level === 0 ? -Infinity : (level - 40) * 1.5;
 }
@@ -14,9 +19,10 @@ var levels = [16, 16, 16, 16, 16, 16];
 
 function hearsLevels(what) {
     levels.forEach(function (level, input) {
-        hears(what + ", input " + input, 1000, everywhere(levelDb(level)), input);
+        var db = levelDb(level);
+        hears(what + ", input " + input, 1000, input === 0 ? everywhere(db) : inFront(db), input);
     });
-    hears(what + ", beep", 1000, everywhere(levelDb(levels[0])), 6);
+    hears(what + ", beep", 1000, inFront(levelDb(levels[0])), 6);
 }
 
 open("audiosetting");
@@ -120,7 +126,7 @@ hearsGains("neutral");
 use("key_return");
 
 // The reset sets its own volumes, and sends the stored gains without their offset, which is required of it,
-// as is the curve Pop: 1 dB more at 1 kHz, on all inputs.
+// as is the curve Pop: 1 dB more at 1 kHz, of what plays.
 var pop = 1;
 
 function afterReset(db) {
@@ -137,5 +143,5 @@ for (var number = 0; number < 6; ++number) {
     hears("reset, source " + number, 1000, afterReset(levelDb(15) - 10 + (store("audioinputgain" + number) || 0)));
 }
 for (var input = 1; input < 6; ++input) {
-    hears("reset, input " + input, 1000, afterReset(levelDb(15)), input);
+    hears("reset, input " + input, 1000, inFront(levelDb(15)), input);
 }

@@ -188,7 +188,24 @@ void presetRows() {
         allOn);
 }
 
+void promptRow(const char *name, Prompt prompt, Input input = MainInput, void (*prepare)(S) = nothing) {
+    row(
+        name, -1, any, [prompt](S s) { s.activePrompts[static_cast<size_t>(prompt)] = true; }, prepare, input);
+}
+
 }  // namespace
+
+void addPrompts() {
+    promptRow("ringtone", Prompt::Ringtone);
+    promptRow("phone", Prompt::Phone);
+    promptRow("navigation", Prompt::Navigation);
+    promptRow("voice", Prompt::Voice);
+    promptRow("announcement", Prompt::Announcement);
+    promptRow("navigation over an announcement", Prompt::Navigation, AnnouncementInput);
+    promptRow("phone during an announcement", Prompt::Phone, AnnouncementInput);
+    promptRow("phone during guidance", Prompt::Phone, MainInput,
+              [](S s) { s.activePrompts[static_cast<size_t>(Prompt::Navigation)] = true; });
+}
 
 void addChangesOfControls() {
     QTest::addColumn<SoundState>("before");

@@ -66,7 +66,8 @@ void TestChain::levelIsTheOnlyChange() {
         for (size_t frame = 0; frame < sound[output].size(); ++frame) {
             // Rounded once, at the very end
             const double mixed = signal[frame * stereo + output % stereo] * parameters.inputGain[MainInput];
-            QVERIFY(sound[output][frame] == static_cast<float>(mixed * parameters.chain.gain[output]));
+            const double placed = mixed * parameters.chain.placement[output];
+            QVERIFY(sound[output][frame] == static_cast<float>(placed * parameters.chain.gain[output]));
         }
     }
 }

@@ -35,6 +35,7 @@ class TestFilters : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void everySectionIsRun();
+    void promptsJoinBehindThePlacement();
     void onlyTheOutputsConcernedChange_data();
     void onlyTheOutputsConcernedChange();
     void otherFiltersGoOnDuringAChange();
@@ -50,23 +51,41 @@ void TestFilters::everySectionIsRun() {
         filters.load(parameters);
         double mix[stereo] = {1, 0.5};
         std::array<double, outputCount> spread;
-        filters.process(mix, spread.data(), 1);
+        filters.process(mix, nullptr, spread.data(), 1);
         return spread;
     };
     for (size_t section = 0; section < toneSections; ++section) {
         ChainParameters parameters;
+        parameters.placement.fill(1);
         parameters.tone[section] = half;
         QVERIFY((spreadOf(parameters) == std::array<double, outputCount>{0.5, 0.25, 0.5, 0.25, 0.5, 0.25}));
     }
     for (size_t output = 0; output < outputCount; ++output) {
         for (size_t stage = 0; stage < crossoverStages; ++stage) {
             ChainParameters parameters;
+            parameters.placement.fill(1);
             parameters.crossover[output][stage] = half;
             std::array<double, outputCount> expected = {1, 0.5, 1, 0.5, 1, 0.5};
             expected[output] /= 2;
             QVERIFY(spreadOf(parameters) == expected);
         }
     }
+}
+
+void TestFilters::promptsJoinBehindThePlacement() {
+    Biquad half;
+    half.b0 = 0.5;
+    ChainParameters parameters;
+    parameters.tone[0] = half;
+    parameters.placement = {0.25, 0, 0.5, 2, 4, 8};
+    parameters.crossover[FrontLeft][0] = parameters.crossover[SubRight][1] = half;
+    Filters filters(bestKernel());
+    filters.load(parameters);
+    double mix[stereo] = {1, 0.5};
+    const double prompts[stereo] = {0.75, 0.375};
+    std::array<double, outputCount> spread;
+    filters.process(mix, prompts, spread.data(), 1);
+    QVERIFY((spread == std::array<double, outputCount>{0.4375, 0.375, 0.25, 0.5, 2, 1}));
 }
 
 void TestFilters::onlyTheOutputsConcernedChange_data() {

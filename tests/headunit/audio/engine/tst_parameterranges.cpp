@@ -114,6 +114,7 @@ void TestParameterRanges::anyValueIsSafe() {
             QVERIFY(gain >= 0 && gain <= fromDecibels(10.001));
         }
         for (size_t output = 0; output < outputCount; ++output) {
+            QVERIFY(parameters.chain.placement[output] >= 0 && parameters.chain.placement[output] <= 1);
             QVERIFY(std::abs(parameters.chain.gain[output]) <= fromDecibels(7.501));
             QVERIFY(parameters.chain.delay[output] >= 0 && parameters.chain.delay[output] <= 475);
         }

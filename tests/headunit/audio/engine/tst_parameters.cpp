@@ -23,6 +23,8 @@ ChainParameters chainOf(const SoundState &state) {
 
 }  // namespace
 
+Q_DECLARE_METATYPE(std::vector<headunit::Prompt>)
+
 class TestParameters : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -31,6 +33,8 @@ private Q_SLOTS:
     void beepFollowsTheMainLevel();
     void sourceGains();
     void mute();
+    void ducking_data();
+    void ducking();
     void balance();
     void fader();
     void subwoofer();
@@ -44,10 +48,12 @@ private Q_SLOTS:
 void TestParameters::neutralPassesEverything() {
     const Parameters parameters = designParameters(neutral());
     ChainParameters expected;
+    expected.placement.fill(1);
     expected.gain.fill(1);
     QVERIFY(parameters.chain == expected);
-    for (const double gain : parameters.inputGain) {
-        QVERIFY(gain == 1.0);
+    for (size_t input = 0; input < inputCount; ++input) {
+        QVERIFY(parameters.inputGain[input] == 1.0);
+        QVERIFY(parameters.ducking[input] == 1.0);
     }
 }
 
@@ -104,11 +110,56 @@ void TestParameters::mute() {
     }
 }
 
+void TestParameters::ducking_data() {
+    QTest::addColumn<std::vector<Prompt>>("prompts");
+    QTest::addColumn<double>("main");
+    QTest::addColumn<double>("announcement");
+    const double ducked = fromDecibels(-12);
+    using P = Prompt;
+    QTest::newRow("nothing") << std::vector<P>{} << 1.0 << 1.0;
+    QTest::newRow("key beep") << std::vector<P>{P::Beep} << 1.0 << 1.0;
+    QTest::newRow("navigation") << std::vector<P>{P::Navigation} << ducked << ducked;
+    QTest::newRow("voice") << std::vector<P>{P::Voice} << ducked << ducked;
+    QTest::newRow("navigation and voice") << std::vector<P>{P::Navigation, P::Voice} << ducked << ducked;
+    QTest::newRow("ringtone") << std::vector<P>{P::Ringtone} << 0.0 << 0.0;
+    QTest::newRow("phone") << std::vector<P>{P::Phone} << 0.0 << 0.0;
+    QTest::newRow("phone and navigation") << std::vector<P>{P::Phone, P::Navigation} << 0.0 << 0.0;
+    QTest::newRow("announcement") << std::vector<P>{P::Announcement} << 0.0 << 1.0;
+    QTest::newRow("announcement and navigation") << std::vector<P>{P::Announcement, P::Navigation} << 0.0 << ducked;
+    QTest::newRow("announcement and phone") << std::vector<P>{P::Announcement, P::Phone} << 0.0 << 0.0;
+    QTest::newRow("all") << std::vector<P>{P::Ringtone, P::Phone, P::Navigation, P::Voice, P::Announcement, P::Beep}
+                         << 0.0 << 0.0;
+}
+
+/// Prompts never step back for one another, and neither Defeat nor mute changes who steps back.
+void TestParameters::ducking() {
+    QFETCH(std::vector<Prompt>, prompts);
+    QFETCH(double, main);
+    QFETCH(double, announcement);
+    for (const bool defeat : {false, true}) {
+        for (const bool muted : {false, true}) {
+            SoundState state = neutral();
+            state.defeat = defeat;
+            state.muted = muted;
+            for (const Prompt prompt : prompts) {
+                state.activePrompts[static_cast<size_t>(prompt)] = true;
+            }
+            const Parameters parameters = designParameters(state);
+            for (size_t input = 0; input < inputCount; ++input) {
+                QCOMPARE(parameters.ducking[input], input == MainInput           ? main
+                                                    : input == AnnouncementInput ? announcement
+                                                                                 : 1.0);
+                QCOMPARE(parameters.inputGain[input], input == MainInput && muted ? 0.0 : 1.0);
+            }
+        }
+    }
+}
+
 void TestParameters::balance() {
     for (int balance = -15; balance <= 15; ++balance) {
         SoundState state = neutral();
         state.balance = balance;
-        const auto gains = chainOf(state).gain;
+        const auto gains = chainOf(state).placement;
         for (const size_t left : {FrontLeft, RearLeft, SubLeft}) {
             QVERIFY(balance == 15 ? gains[left] == 0 : isGain(gains[left], -2 * std::max(balance, 0)));
             QVERIFY(balance == -15 ? gains[left + 1] == 0 : isGain(gains[left + 1], -2 * std::max(-balance, 0)));
@@ -120,7 +171,7 @@ void TestParameters::fader() {
     for (int fader = -15; fader <= 15; ++fader) {
         SoundState state = neutral();
         state.fader = fader;
-        const auto gains = chainOf(state).gain;
+        const auto gains = chainOf(state).placement;
         for (size_t side = 0; side < 2; ++side) {
             QVERIFY(fader == 15 ? gains[FrontLeft + side] == 0
                                 : isGain(gains[FrontLeft + side], -2 * std::max(fader, 0)));
@@ -228,6 +279,7 @@ void TestParameters::defeat() {
     const Parameters parameters = designParameters(state);
     ChainParameters expected;
     expected.crossover[SubLeft] = expected.crossover[SubRight] = butterworthLowPass(2, 63);
+    expected.placement.fill(1);
     expected.gain = {1, 1, 1, 1, -fromDecibels(-3) * fromDecibels(3), -fromDecibels(-3) * fromDecibels(3)};
     QVERIFY(parameters.chain == expected);
     QVERIFY(isGain(parameters.inputGain[MainInput], -30 + 3));

@@ -123,15 +123,14 @@ void TestPlayer::metersLoseNothing() {
     QVERIFY(!player.takeMeters());
     // A chime in the first of many readings that nobody takes
     player.chime(PhoneInput);
-    const float loud = heard(player);
-    QCOMPARE(loud, 0.0F);  // on the left
+    QVERIFY(heard(player) > 0.05F);
     for (int half = 0; half < 10; ++half) {
         heard(player);
     }
     meters = player.takeMeters();
     QVERIFY(meters);
-    QCOMPARE(meters->peak[FrontLeft], 0.0F);
     QVERIFY(meters->peak[FrontRight] > 0.05F);
+    QCOMPARE(meters->peak[RearRight], 0.0F);
     // What was taken is not in the next reading.
     heard(player);
     meters = player.takeMeters();
