@@ -28,7 +28,7 @@ constexpr int patience = 60000;  // ms
 /// Main level 16 of 40 is 36 dB below the file; the subwoofer is off.
 const QRegularExpression meters(
     "^peaks  FL  -42\\.0  FR  -42\\.0  RL  -42\\.0  RR  -42\\.0  SL   -inf  SR   -inf dBFS, "
-    "limiter    0\\.0 dB$");
+    "limiter  front    0\\.0  rear    0\\.0  sub    0\\.0 dB$");
 
 }  // namespace
 

@@ -2,15 +2,18 @@
 
 #include "delayline.h"
 #include "filters.h"
+#include "mixhistory.h"
 #include "parameters.h"
 
 namespace headunit::engine {
 
-/// From the mix to the outputs, under parameters that can be faded over to others. Filters that change run twice during
-/// the fade, from what they had heard before it; the delays lie behind the fade, so that its seams come out in order.
+/// From the inputs to the outputs, under parameters that can be faded over to others. Filters that change run twice
+/// during the fade, and the new ones have heard the last MixHistory::length frames before it begins: neither they nor
+/// the old ones ring into what both of them make of a steady sound. The delays lie behind the fade, so that its seams
+/// come out in order.
 class Chain {
 public:
-    static constexpr size_t largestBlock = 64;  ///< in frames
+    static constexpr size_t largestBlock = Filters::largestBlock;  ///< in frames
 
     explicit Chain(const Kernel &kernel);
 
@@ -22,18 +25,20 @@ public:
     /// Ends the fade: the parameters that it went to hold alone.
     void endFade();
 
-    /// Takes up to largestBlock \a frames of the mix, which it overwrites, and of the prompts, which join it on the
-    /// front pair behind equaliser, loudness, balance and fader (null if none sounds); gives as many of outputCount
-    /// samples.
+    /// Takes up to largestBlock \a frames of the program and of the prompts, which join it on the front pair behind
+    /// equaliser, loudness, balance and fader (null if none sounds); gives as many of outputCount samples.
     /// \a weights are those of the parameters that a fade goes to, a weight for each frame; unused without a fade.
-    void process(double *mix, const double *prompts, double *out, size_t frames, const double *weights);
+    void process(const double *program, const double *prompts, double *out, size_t frames, const double *weights);
 
 private:
+    void letNextFiltersHear();
+
     bool m_fading = false;
     ChainParameters m_parameters;
     ChainParameters m_next;
     Filters m_filters;
     Filters m_nextFilters;
+    MixHistory m_history;
     DelayLine m_delay;
 };
 

@@ -17,6 +17,15 @@ double tamed(float sample) {
     return std::isnan(sample) ? 0 : std::clamp(sample, -largestSample, largestSample);
 }
 
+/// The program's gain comes behind its filters: those that another volume brings have heard it as loud as the others.
+ChainParameters withGainOfProgram(const Parameters &parameters) {
+    ChainParameters chain = parameters.chain;
+    for (double &gain : chain.placement) {
+        gain *= parameters.inputGain[MainInput];
+    }
+    return chain;
+}
+
 }  // namespace
 
 void Engine::takeParameters() {
@@ -24,20 +33,22 @@ void Engine::takeParameters() {
     if (!parameters) {
         return;
     }
+    const ChainParameters chain = withGainOfProgram(*parameters);
     m_nextInputGain = parameters->inputGain;
+    m_nextInputGain[MainInput] = 1;
     if (!m_started) {
         m_started = true;
         m_inputGain = m_nextInputGain;
         for (size_t input = 0; input < inputCount; ++input) {
             m_ducking[input].jumpTo(parameters->ducking[input]);
         }
-        m_chain.load(parameters->chain);
+        m_chain.load(chain);
         return;
     }
     for (size_t input = 0; input < inputCount; ++input) {
         m_ducking[input].goTo(parameters->ducking[input]);
     }
-    m_chain.fadeTo(parameters->chain);
+    m_chain.fadeTo(chain);
     m_fade.restart();
 }
 

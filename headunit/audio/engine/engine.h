@@ -20,12 +20,12 @@ using Inputs = std::array<const float *, inputCount>;
 /// setParameters() belongs to one thread, the rest to another. None of them waits, allocates, or calls the system.
 class Engine {
 public:
-    static constexpr size_t fadeSamples = static_cast<size_t>(0.025 * sampleRate);
+    static constexpr size_t fadeSamples = static_cast<size_t>(0.040 * sampleRate);
     static constexpr size_t fadeInSamples = static_cast<size_t>(0.4 * sampleRate);
     static constexpr size_t latency = Limiter::latency;  ///< in samples, before any delay that is set
 
     /// Silent until the first parameters; what is set before the first sample holds from the first sample on.
-    explicit Engine(const Kernel &kernel = bestKernel()) : m_chain(kernel) {}
+    explicit Engine(const Kernel &kernel = bestKernel()) : m_chain(kernel), m_limiter(kernel) {}
 
     void setParameters(const Parameters &parameters) { m_parameters.write(parameters); }
 
@@ -33,8 +33,8 @@ public:
     void fadeIn() { m_fadeIn.restart(); }
     /// Gives \a frames of outputCount samples, each within full scale. Any number of frames at a time gives the same.
     void process(const Inputs &inputs, float *out, size_t frames);
-    /// The limiter's lowest gain since the last call, 0 to 1.
-    double takeLimiterGain() { return m_limiter.takeLowestGain(); }
+    /// The limiter's lowest gain of each pair since the last call, 0 to 1.
+    std::array<double, pairCount> takeLimiterGains() { return m_limiter.takeLowestGains(); }
 
 private:
     void takeParameters();

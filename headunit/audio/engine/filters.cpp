@@ -1,6 +1,7 @@
 #include "filters.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace headunit::engine {
 
@@ -74,13 +75,52 @@ void Filters::loadCrossover(const ChainParameters &parameters) {
     }
 }
 
-void Filters::process(double *mix, const double *prompts, double *spread, size_t frames) {
-    for (size_t group = 0; group < groupCount; ++group) {
-        if (m_toneActive[group]) {
-            m_kernel->tone(&m_tone[group], mix, frames);
+void Filters::forget() {
+    for (ToneGroup &group : m_tone) {
+        std::fill_n(&group.states[0][0][0], groupSections * stateCount * stereo, 0.0);
+    }
+    std::fill_n(&m_bank.states[0][0][0], crossoverStages * stateCount * outputCount, 0.0);
+}
+
+bool Filters::hasToneOf(const Filters &other) const {
+    return std::equal(m_tone.begin(), m_tone.end(), other.m_tone.begin(), [](const ToneGroup &a, const ToneGroup &b) {
+        return std::memcmp(a.coefficients, b.coefficients, sizeof a.coefficients) == 0;
+    });
+}
+
+bool Filters::hasOutputOf(const Filters &other, size_t output) const {
+    bool same = m_placement[output] == other.m_placement[output];
+    for (size_t stage = 0; stage < crossoverStages; ++stage) {
+        for (size_t i = 0; i < coefficientCount; ++i) {
+            same = same && m_bank.coefficients[stage][i][output] == other.m_bank.coefficients[stage][i][output];
         }
     }
-    place(mix, m_placement, spread, frames);
+    return same;
+}
+
+void Filters::goOnFrom(const Filters &other) {
+    if (!hasToneOf(other)) {
+        return;
+    }
+    m_tone = other.m_tone;
+    for (size_t output = 0; output < outputCount; ++output) {
+        for (size_t stage = 0; stage < crossoverStages && hasOutputOf(other, output); ++stage) {
+            for (size_t i = 0; i < stateCount; ++i) {
+                m_bank.states[stage][i][output] = other.m_bank.states[stage][i][output];
+            }
+        }
+    }
+}
+
+void Filters::process(const double *program, const double *prompts, double *spread, size_t frames) {
+    std::array<double, largestBlock * stereo> toned;
+    std::copy_n(program, frames * stereo, toned.begin());
+    for (size_t group = 0; group < groupCount; ++group) {
+        if (m_toneActive[group]) {
+            m_kernel->tone(&m_tone[group], toned.data(), frames);
+        }
+    }
+    place(toned.data(), m_placement, spread, frames);
     if (prompts) {
         addPrompts(prompts, spread, frames);
     }

@@ -7,18 +7,24 @@
 
 namespace headunit::engine {
 
-/// The filters from the mix to the outputs, under parameters that stand still. Copying them copies what they have
-/// heard, so that the copy goes on without a gap under other parameters.
+/// The filters from the inputs to the outputs, under parameters that stand still. Copying them copies what they have
+/// heard.
 class Filters {
 public:
+    static constexpr size_t largestBlock = 64;  ///< in frames
+
     explicit Filters(const Kernel &kernel);
 
     /// Takes other parameters; the filters keep what they have heard.
     void load(const ChainParameters &parameters);
+    /// Forgets everything that was heard.
+    void forget();
+    /// Takes over what \a other have heard as far as they are the same filters and have heard the same.
+    void goOnFrom(const Filters &other);
 
-    /// Takes \a frames of the mix, which it overwrites, and of the prompts, null if none sounds; gives as many of
+    /// Takes up to largestBlock \a frames of the program and of the prompts, null if none sounds; gives as many of
     /// outputCount samples.
-    void process(double *mix, const double *prompts, double *spread, size_t frames);
+    void process(const double *program, const double *prompts, double *spread, size_t frames);
 
 private:
     static constexpr size_t groupCount = toneSections / groupSections;
@@ -26,6 +32,8 @@ private:
 
     void loadTone(const ChainParameters &parameters);
     void loadCrossover(const ChainParameters &parameters);
+    bool hasToneOf(const Filters &other) const;
+    bool hasOutputOf(const Filters &other, size_t output) const;
 
     const Kernel *m_kernel;
     std::array<ToneGroup, groupCount> m_tone{};

@@ -27,6 +27,12 @@ struct alignas(32) OutputBank {
     double states[crossoverStages][stateCount][outputCount];
 };
 
+/// Filters that run over the same samples, interpolatedFrames at once.
+constexpr size_t interpolatorTaps = 24;
+constexpr size_t interpolatorRows = 4;
+constexpr size_t interpolatedFrames = 16;
+using Interpolator = std::array<std::array<float, interpolatorTaps>, interpolatorRows>;
+
 /// The loops that take the time, once for each instruction set. All of them give the same samples, bit for bit.
 struct Kernel {
     const char *name;
@@ -34,6 +40,9 @@ struct Kernel {
     void (*tone)(ToneGroup *group, double *samples, size_t frames);
     /// Filters \a frames of outputCount samples in place.
     void (*outputs)(OutputBank *bank, double *spread, size_t frames);
+    /// Gives interpolatedFrames for each row, one row after the other; the first from the first interpolatorTaps \a
+    /// samples.
+    void (*interpolate)(const Interpolator &interpolator, const float *samples, float *rows);
 };
 
 extern const Kernel plainKernel;  ///< whatever every processor of this kind has; SSE2 on x86-64

@@ -9,6 +9,7 @@ namespace {
 
 using Pair = double __attribute__((vector_size(2 * sizeof(double))));
 using Quad = double __attribute__((vector_size(4 * sizeof(double))));
+using Octet = float __attribute__((vector_size(8 * sizeof(float))));
 
 /// One step of a section, transposed direct form II.
 template <typename Vector> inline __attribute__((always_inline)) void step(Vector &sample, Vector &s0, Vector &s1,
@@ -86,8 +87,27 @@ void outputLoop(OutputBank *bank, double *spread, size_t frames) {
     outputLanes<Pair>(bank, spread, frames, SubLeft);
 }
 
+void interpolateLoop(const Interpolator &interpolator, const float *samples, float *rows) {
+    const float *taps = &interpolator[0][0];
+    for (size_t row = 0; row < interpolatorRows; ++row) {
+        Octet first = {};
+        Octet second = {};
+        for (size_t tap = 0; tap < interpolatorTaps; ++tap, ++taps) {
+            Octet low;
+            Octet high;
+            __builtin_memcpy(&low, samples + tap, sizeof low);
+            __builtin_memcpy(&high, samples + tap + interpolatedFrames / 2, sizeof high);
+            first += *taps * low;
+            second += *taps * high;
+        }
+        __builtin_memcpy(rows, &first, sizeof first);
+        __builtin_memcpy(rows + interpolatedFrames / 2, &second, sizeof second);
+        rows += interpolatedFrames;
+    }
+}
+
 }  // namespace
 
-const Kernel KERNEL = {KERNEL_NAME, toneLoop, outputLoop};
+const Kernel KERNEL = {KERNEL_NAME, toneLoop, outputLoop, interpolateLoop};
 
 }  // namespace headunit::engine

@@ -7,66 +7,79 @@ namespace headunit::engine {
 
 namespace {
 
-constexpr int64_t releaseSamples = static_cast<int64_t>(0.1 * sampleRate);  ///< time constant
+/// What is limited goes so high: a little below full scale, for what TruePeak may miss.
+constexpr double ceiling = 0.985;
 
 }  // namespace
 
-Limiter::Gain Limiter::wantedGain(const double *frame) {
-    double peak = 0;
-    for (size_t output = 0; output < outputCount; ++output) {
-        peak = std::max(peak, std::abs(frame[output]));
+double Limiter::wantedGain(size_t pair) const {
+    const auto highest = [pair](const auto &a, const auto &b) { return a[pair] < b[pair]; };
+    if ((*std::max_element(m_highest.begin(), m_highest.end(), highest))[pair] <= m_truePeak.harmlessSample()) {
+        return 1;
     }
-    return peak > 1 ? static_cast<Gain>(static_cast<double>(unity) / peak) : unity;
+    TruePeak::Reading highestReading;
+    for (size_t output = stereo * pair; output < stereo * (pair + 1); ++output) {
+        std::array<float, TruePeak::window> samples;
+        const uint64_t first = m_frame - 2 * group - TruePeak::before + length;
+        for (size_t i = 0; i < samples.size(); ++i) {
+            samples[i] = static_cast<float>(m_samples[(first + i) % length * outputCount + output]);
+        }
+        const TruePeak::Reading reading = m_truePeak.read(samples);
+        highestReading.peak = std::max(highestReading.peak, reading.peak);
+        highestReading.unread = std::max(highestReading.unread, reading.unread);
+    }
+    return highestReading.peak > 1 ? ceiling / (highestReading.peak + highestReading.unread) : 1;
 }
 
-void Limiter::holdLowest(Gain gain) {
-    if (m_heldCount > 0 && m_held[m_heldFirst].frame + lookahead <= m_frame) {
-        m_heldFirst = (m_heldFirst + 1) % lookahead;
-        --m_heldCount;
+/// When a group is complete, the one before it can be read.
+void Limiter::analyse() {
+    std::array<double, pairCount> &newest = m_highest[m_frame / group % m_highest.size()];
+    newest = {};
+    const double *sample = &m_samples[(m_frame - group) % length * outputCount];
+    for (size_t frame = 0; frame < group; ++frame) {
+        for (double &highest : newest) {
+            for (size_t side = 0; side < stereo; ++side) {
+                highest = std::max(highest, std::abs(*sample++));
+            }
+        }
     }
-    while (m_heldCount > 0 && m_held[(m_heldFirst + m_heldCount - 1) % lookahead].gain >= gain) {
-        --m_heldCount;
-    }
-    if (gain < unity) {
-        m_held[(m_heldFirst + m_heldCount) % lookahead] = {m_frame, gain};
-        ++m_heldCount;
+    for (size_t pair = 0; pair < pairCount; ++pair) {
+        m_gains[pair].want(wantedGain(pair));
     }
 }
 
-double Limiter::smoothedGain(Gain wanted) {
-    holdLowest(wanted);
-    const Gain lowest = m_heldCount > 0 ? m_held[m_heldFirst].gain : unity;
-    const Gain missing = unity - m_released;
-    m_released = std::min({lowest, unity, m_released + std::max<Gain>(1, missing / releaseSamples)});
-    Gain &oldest = m_history[m_frame % lookahead];
-    m_sum += m_released - oldest;
-    oldest = m_released;
-    m_lowestSum = std::min(m_lowestSum, m_sum);
-    if (m_released < unity) {
-        m_lastLimited = m_frame + lookahead;
+void Limiter::limit(const double *delayed, float *out, size_t frames) {
+    if (std::all_of(m_gains.begin(), m_gains.end(), [](const LimiterGain &gain) { return gain.isUnity(); })) {
+        std::transform(delayed, delayed + frames * outputCount, out, [](double sample) { return float(sample); });
+        return;
     }
-    return static_cast<double>(m_sum) / static_cast<double>(unity * Gain(lookahead));
+    for (size_t pair = 0; pair < pairCount; ++pair) {
+        const bool unity = m_gains[pair].isUnity();
+        for (size_t frame = 0; frame < frames; ++frame) {
+            const double gain = unity ? 1 : m_gains[pair].next();
+            for (size_t i = frame * outputCount + stereo * pair, end = i + stereo; i < end; ++i) {
+                out[i] = static_cast<float>(std::clamp(delayed[i] * gain, -1.0, 1.0));
+            }
+        }
+    }
 }
 
 void Limiter::process(const double *in, float *out, size_t frames) {
-    for (size_t i = 0; i < frames; ++i, in += outputCount, out += outputCount, ++m_frame) {
-        std::copy_n(in, outputCount, &m_samples[m_frame % lookahead * outputCount]);
-        const double *const delayed = &m_samples[(m_frame + 1) % lookahead * outputCount];
-        const Gain wanted = wantedGain(in);
-        if (wanted == unity && m_frame > m_lastLimited) {
-            std::copy_n(delayed, outputCount, out);
-            continue;
-        }
-        const double gain = smoothedGain(wanted);
-        for (size_t output = 0; output < outputCount; ++output) {
-            out[output] = static_cast<float>(std::clamp(delayed[output] * gain, -1.0, 1.0));
+    for (size_t done = 0; done < frames;) {
+        const size_t count = std::min(frames - done, group - m_frame % group);
+        std::copy_n(in + done * outputCount, count * outputCount, &m_samples[m_frame % length * outputCount]);
+        limit(&m_samples[(m_frame + length - latency) % length * outputCount], out + done * outputCount, count);
+        done += count;
+        m_frame += count;
+        if (m_frame % group == 0) {
+            analyse();
         }
     }
 }
 
-double Limiter::takeLowestGain() {
-    const double lowest = static_cast<double>(m_lowestSum) / static_cast<double>(unity * Gain(lookahead));
-    m_lowestSum = m_sum;
+std::array<double, pairCount> Limiter::takeLowestGains() {
+    std::array<double, pairCount> lowest;
+    std::transform(m_gains.begin(), m_gains.end(), lowest.begin(), [](LimiterGain &gain) { return gain.takeLowest(); });
     return lowest;
 }
 

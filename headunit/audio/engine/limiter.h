@@ -1,58 +1,42 @@
 #pragma once
 
-#include "format.h"
-
-#include <array>
-#include <cstdint>
+#include "limitergain.h"
+#include "truepeak.h"
 
 namespace headunit::engine {
 
-/// Keeps all outputs within full scale: one gain for all of them, lowered ahead of a peak and slowly given back. What
-/// needs no limiting passes unchanged, bit for bit.
-///
-/// Gains are whole numbers, so that their mean over the lookahead is exact and returns to exactly 1.
+/// Keeps the outputs within full scale, between the samples, too: each pair has a gain of its own, which is lowered
+/// ahead of a peak. A pair that needs no limiting passes unchanged, bit for bit.
 class Limiter {
+    static constexpr size_t group = LimiterGain::groupFrames;
+
 public:
-    static constexpr size_t lookahead = 64;           ///< in samples
-    static constexpr size_t latency = lookahead - 1;  ///< of what comes out, in samples
+    /// Of what comes out, in samples: whole groups, for the way down from when a peak is known.
+    static constexpr size_t latency = (LimiterGain::attackFrames + 2 * group + group - 1) / group * group;
+
+    explicit Limiter(const Kernel &kernel) : m_truePeak(kernel) {}
 
     /// Takes \a frames of outputCount samples, gives as many, delayed.
     void process(const double *in, float *out, size_t frames);
 
-    /// The lowest gain since the last call, 0 to 1.
-    double takeLowestGain();
+    /// The lowest gain of each pair since the last call, 0 to 1.
+    std::array<double, pairCount> takeLowestGains();
 
 private:
-    using Gain = int64_t;
-    static constexpr Gain unity = Gain(1) << 30;
+    static constexpr size_t length = 512;  ///< of the samples kept, in frames
+    static_assert(length % group == 0 && length >= latency + group, "a chunk lies in one piece");
+    static_assert(group == TruePeak::frames && TruePeak::behind <= group, "a group is read when the next one is there");
 
-    struct Peak {
-        uint64_t frame;
-        Gain gain;
-    };
+    void analyse();
+    double wantedGain(size_t pair) const;
+    void limit(const double *delayed, float *out, size_t frames);
 
-    Gain wantedGain(const double *frame);
-    void holdLowest(Gain gain);
-    double smoothedGain(Gain wanted);
-
-    std::array<double, lookahead * outputCount> m_samples{};
+    TruePeak m_truePeak;
+    std::array<double, length * outputCount> m_samples{};
     uint64_t m_frame = 0;
-    uint64_t m_lastLimited = 0;  ///< the frame in which a gain below unity was last in the mean, plus the lookahead
-    std::array<Peak, lookahead> m_held{};  ///< rising gains of the frames ahead: the first is the lowest
-    size_t m_heldFirst = 0;
-    size_t m_heldCount = 0;
-    Gain m_released = unity;
-    std::array<Gain, lookahead> m_history = filled();
-    Gain m_sum = unity * Gain(lookahead);
-    Gain m_lowestSum = unity * Gain(lookahead);
-
-    static constexpr std::array<Gain, lookahead> filled() {
-        std::array<Gain, lookahead> gains{};
-        for (Gain &gain : gains) {
-            gain = unity;
-        }
-        return gains;
-    }
+    /// Of the last three groups: the one that is read, and those beside it.
+    std::array<std::array<double, pairCount>, 3> m_highest{};
+    std::array<LimiterGain, pairCount> m_gains;
 };
 
 }  // namespace headunit::engine

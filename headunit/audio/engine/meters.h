@@ -10,8 +10,8 @@ namespace headunit::engine {
 
 /// What came out of the unit during some time, for whoever wants to look.
 struct Meters {
-    std::array<float, outputCount> peak{};  ///< highest sample of each output, 0 to 1
-    double limiterGain = 1;                 ///< lowest gain of the limiter, 0 to 1
+    std::array<float, outputCount> peak{};                  ///< highest sample of each output, 0 to 1
+    std::array<double, pairCount> limiterGain = {1, 1, 1};  ///< lowest gain of the limiter of each pair, 0 to 1
 
     void add(const float *out, size_t frames) {
         for (size_t frame = 0; frame < frames; ++frame) {
@@ -25,7 +25,8 @@ struct Meters {
     void add(const Meters &other) {
         std::transform(peak.begin(), peak.end(), other.peak.begin(), peak.begin(),
                        [](float a, float b) { return std::max(a, b); });
-        limiterGain = std::min(limiterGain, other.limiterGain);
+        std::transform(limiterGain.begin(), limiterGain.end(), other.limiterGain.begin(), limiterGain.begin(),
+                       [](double a, double b) { return std::min(a, b); });
     }
 };
 

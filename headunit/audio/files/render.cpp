@@ -56,7 +56,7 @@ bool renderFile(const std::string &in, const std::string &out, const SoundState 
     // A file shorter than the latency has part of it still to be cut off.
     std::fill(stereoBlock.begin(), stereoBlock.end(), 0.0F);
     process(Engine::latency);
-    meters->limiterGain = sound->takeLimiterGain();
+    meters->limiterGain = sound->takeLimiterGains();
     return write(early, Engine::latency) && writer.finish(error);
 }
 

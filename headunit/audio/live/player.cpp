@@ -59,7 +59,7 @@ void Player::fill(float *out, size_t frames) {
     }
     Meters reading;
     reading.add(out, frames);
-    reading.limiterGain = m_engine.takeLimiterGain();
+    reading.limiterGain = m_engine.takeLimiterGains();
     publishMeters(reading);
 }
 

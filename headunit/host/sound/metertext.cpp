@@ -22,7 +22,11 @@ QByteArray meterText(const engine::Meters &meters) {
     for (size_t output = 0; output < engine::outputCount; ++output) {
         text += QByteArray("  ") + outputNames[output] + decibels(static_cast<double>(meters.peak[output]));
     }
-    return text + " dBFS, limiter" + decibels(meters.limiterGain) + " dB";
+    text += " dBFS, limiter";
+    for (size_t pair = 0; pair < engine::pairCount; ++pair) {
+        text += QByteArray("  ") + pairNames[pair] + decibels(meters.limiterGain[pair]);
+    }
+    return text + " dB";
 }
 
 }  // namespace headunit

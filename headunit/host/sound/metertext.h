@@ -6,7 +6,7 @@
 
 namespace headunit {
 
-/// A line with the peak of each output in dB of full scale, and the limiter's gain in dB; -inf is silence.
+/// A line with the peak of each output in dB of full scale, and the limiter's gain of each pair in dB; -inf is silence.
 QByteArray meterText(const engine::Meters &meters);
 
 }  // namespace headunit

@@ -6,5 +6,6 @@ namespace headunit {
 
 /// Names of the outputs, as on the loudspeakers.
 constexpr const char *outputNames[engine::outputCount] = {"FL", "FR", "RL", "RR", "SL", "SR"};
+constexpr const char *pairNames[engine::pairCount] = {"front", "rear", "sub"};
 
 }  // namespace headunit

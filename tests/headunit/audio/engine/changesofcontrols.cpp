@@ -1,9 +1,8 @@
 #include "changesofcontrols.h"
 
 #include "headunit/audio/engine/equaliser.h"
+#include "headunit/audio/service/soundtables.h"
 #include "rendering.h"
-
-#include <QTest>
 
 using namespace headunit;
 using namespace headunit::engine;
@@ -13,26 +12,35 @@ namespace {
 
 using S = SoundState &;
 
-constexpr double any = -90;
-constexpr double oneDecibel = -110;
+constexpr auto any = ChangeOfControl::Any;
+constexpr auto oneDecibel = ChangeOfControl::OneDecibel;
+
+std::vector<ChangeOfControl> table;
+
+template <typename Rows> std::vector<ChangeOfControl> rowsOf(Rows rows) {
+    table.clear();
+    rows();
+    return table;
+}
 
 void nothing(S) {}
 
 /// A change, both ways, after what prepares the settings for it. Its name is followed by \a number, if there is one.
 template <typename Change, typename Prepare = void (*)(S)>
-void row(const char *name, int number, double goal, Change change, Prepare prepare = nothing, Input input = MainInput) {
+void row(const char *name, int number, ChangeOfControl::Size size, Change change, Prepare prepare = nothing,
+         Input input = MainInput) {
     SoundState before = neutral();
     before.delay = {3, 17, 41, 68, 99, 5};  // what changes before a delay comes out later
     prepare(before);
     SoundState after = before;
     change(after);
-    const QString whole = number < 0 ? QString(name) : QStringLiteral("%1 %2").arg(name).arg(number);
-    QTest::newRow(qPrintable(whole)) << before << after << goal << input;
+    const std::string whole = number < 0 ? name : std::string(name) + ' ' + std::to_string(number);
+    table.push_back({whole, size, before, after, input});
 }
 
 template <typename Change, typename Prepare = void (*)(S)>
-void row(const char *name, double goal, Change change, Prepare prepare = nothing) {
-    row(name, -1, goal, change, prepare);
+void row(const char *name, ChangeOfControl::Size size, Change change, Prepare prepare = nothing) {
+    row(name, -1, size, change, prepare);
 }
 
 void levelRows() {
@@ -195,26 +203,28 @@ void promptRow(const char *name, Prompt prompt, Input input = MainInput, void (*
 
 }  // namespace
 
-void addPrompts() {
-    promptRow("ringtone", Prompt::Ringtone);
-    promptRow("phone", Prompt::Phone);
-    promptRow("navigation", Prompt::Navigation);
-    promptRow("voice", Prompt::Voice);
-    promptRow("announcement", Prompt::Announcement);
-    promptRow("navigation over an announcement", Prompt::Navigation, AnnouncementInput);
-    promptRow("phone during an announcement", Prompt::Phone, AnnouncementInput);
-    promptRow("phone during guidance", Prompt::Phone, MainInput,
-              [](S s) { s.activePrompts[static_cast<size_t>(Prompt::Navigation)] = true; });
+const std::vector<ChangeOfControl> &changesOfControls() {
+    static const std::vector<ChangeOfControl> changes = rowsOf([] {
+        levelRows();
+        filterRows();
+        delayRows();
+        toneRows();
+        presetRows();
+    });
+    return changes;
 }
 
-void addChangesOfControls() {
-    QTest::addColumn<SoundState>("before");
-    QTest::addColumn<SoundState>("after");
-    QTest::addColumn<double>("goal");
-    QTest::addColumn<Input>("input");
-    levelRows();
-    filterRows();
-    delayRows();
-    toneRows();
-    presetRows();
+const std::vector<ChangeOfControl> &changesOfPrompts() {
+    static const std::vector<ChangeOfControl> changes = rowsOf([] {
+        promptRow("ringtone", Prompt::Ringtone);
+        promptRow("phone", Prompt::Phone);
+        promptRow("navigation", Prompt::Navigation);
+        promptRow("voice", Prompt::Voice);
+        promptRow("announcement", Prompt::Announcement);
+        promptRow("navigation over an announcement", Prompt::Navigation, AnnouncementInput);
+        promptRow("phone during an announcement", Prompt::Phone, AnnouncementInput);
+        promptRow("phone during guidance", Prompt::Phone, MainInput,
+                  [](S s) { s.activePrompts[static_cast<size_t>(Prompt::Navigation)] = true; });
+    });
+    return changes;
 }

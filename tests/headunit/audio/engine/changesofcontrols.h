@@ -3,14 +3,22 @@
 #include "headunit/audio/engine/format.h"
 #include "headunit/audio/service/soundstate.h"
 
-#include <QMetaType>
+#include <string>
+#include <vector>
 
-Q_DECLARE_METATYPE(headunit::SoundState)
-Q_DECLARE_METATYPE(headunit::engine::Input)
+/// A change of a control: the settings before and after, and the input on which it is heard.
+struct ChangeOfControl {
+    enum Size { Any, OneDecibel };
 
-/// Columns and rows for a test of a change of every control: the settings before and after, the highest residual above
-/// 2 kHz in dB that it may leave, and the input on which it is heard.
-void addChangesOfControls();
+    std::string name;
+    Size size;
+    headunit::SoundState before;
+    headunit::SoundState after;
+    headunit::engine::Input input;
+};
 
-/// Rows of the same kind: prompts begin and end, for which what plays steps back, on a longer way than other changes.
-void addPrompts();
+/// Of every control, small and large.
+const std::vector<ChangeOfControl> &changesOfControls();
+
+/// Prompts begin and end, for which what plays steps back, on a longer way than other changes.
+const std::vector<ChangeOfControl> &changesOfPrompts();

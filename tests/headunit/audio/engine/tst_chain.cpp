@@ -44,7 +44,7 @@ private Q_SLOTS:
 };
 
 void TestChain::flatIsTransparent() {
-    const Stereo signal = noise(5000, 0.99F);
+    const Stereo signal = noise(5000, 0.4F);
     const Sound sound = render(neutral(), signal);
     for (size_t output = 0; output < outputCount; ++output) {
         for (size_t frame = 0; frame < sound[output].size(); ++frame) {
@@ -60,7 +60,7 @@ void TestChain::levelIsTheOnlyChange() {
     state.front.level = 7;
     state.subwooferLevel = 3;
     const Parameters parameters = designParameters(state);
-    const Stereo signal = noise(5000, 0.99F);
+    const Stereo signal = noise(5000, 0.4F);
     const Sound sound = render(state, signal);
     for (size_t output = 0; output < outputCount; ++output) {
         for (size_t frame = 0; frame < sound[output].size(); ++frame) {

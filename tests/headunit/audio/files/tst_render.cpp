@@ -125,11 +125,13 @@ void TestRender::saysHowLoudItBecame() {
     QVERIFY(render());
     const std::array<float, engine::outputCount> peaks = {0, 0, 0.5F, 0.75F, 0, 0};
     QVERIFY(m_meters.peak == peaks);
-    QCOMPARE(m_meters.limiterGain, 1.0);
+    QVERIFY((m_meters.limiterGain == std::array<double, engine::pairCount>{1, 1, 1}));
     state.sourceGain[0] = 20;  // 10 dB
     QVERIFY(render());
-    QVERIFY(std::abs(m_meters.limiterGain - 1 / (0.75 * engine::fromDecibels(10))) < 1e-3);
-    QVERIFY(m_meters.peak[engine::RearRight] > 0.99F && m_meters.peak[engine::RearRight] <= 1);
+    const double needed = 1 / (0.75 * engine::fromDecibels(10));
+    QVERIFY(m_meters.limiterGain[0] == 1 && m_meters.limiterGain[2] == 1);
+    QVERIFY(m_meters.limiterGain[1] < needed && m_meters.limiterGain[1] > 0.8 * needed);
+    QVERIFY(m_meters.peak[engine::RearRight] > 0.8F && m_meters.peak[engine::RearRight] <= 1);
     QCOMPARE(m_meters.peak[engine::FrontRight], 0.0F);
 }
 

@@ -119,7 +119,7 @@ void TestPlayer::metersLoseNothing() {
     const Meters *meters = player.takeMeters();
     QVERIFY(meters);
     QVERIFY(meters->peak == Meters().peak);
-    QCOMPARE(meters->limiterGain, 1.0);
+    QVERIFY((meters->limiterGain == std::array<double, pairCount>{1, 1, 1}));
     QVERIFY(!player.takeMeters());
     // A chime in the first of many readings that nobody takes
     player.chime(PhoneInput);

@@ -1,0 +1,32 @@
+#include "mixhistory.h"
+
+#include <algorithm>
+
+namespace headunit::engine {
+
+void MixHistory::write(const double *program, const double *prompts, size_t frames) {
+    for (size_t done = 0; done < frames;) {
+        const size_t place = m_position;
+        const size_t count = std::min(frames - done, length - place);
+        std::copy_n(program + done * stereo, count * stereo, &m_program[place * stereo]);
+        if (prompts) {
+            std::copy_n(prompts + done * stereo, count * stereo, &m_prompts[place * stereo]);
+        } else {
+            std::fill_n(&m_prompts[place * stereo], count * stereo, 0.0);
+        }
+        m_position = (m_position + count) % length;
+        done += count;
+    }
+}
+
+void MixHistory::read(double *program, double *prompts, size_t age, size_t frames) const {
+    for (size_t done = 0; done < frames;) {
+        const size_t place = (m_position + length - age + done) % length;
+        const size_t count = std::min(frames - done, length - place);
+        std::copy_n(&m_program[place * stereo], count * stereo, program + done * stereo);
+        std::copy_n(&m_prompts[place * stereo], count * stereo, prompts + done * stereo);
+        done += count;
+    }
+}
+
+}  // namespace headunit::engine
