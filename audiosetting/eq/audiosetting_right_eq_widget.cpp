@@ -196,8 +196,9 @@ void Audiosetting_right_eq_widget::updateEqBar(tagAudioEQItem_T &item) {
 }
 
 void Audiosetting_right_eq_widget::updateCustomEQ() {
+    // Unclamped: the band-adjust panel keeps values of another scale, and editing one band commits all thirteen.
     for (int band = 0; band < eqBandCount; ++band) {
-        m_sliders.at(band)->setBarLevel(eq::shownLevel(eq::fromOtherEnd(eq::maxLevel, eq::liveBand(band).value())));
+        m_sliders.at(band)->setBarLevel(eq::fromOtherEnd(eq::maxLevel, eq::liveBand(band).value()));
     }
 }
 
@@ -273,7 +274,7 @@ void Audiosetting_right_eq_widget::setEqBarValue(int section, int value) {
         return;
     }
     m_levels[section] = value;
-    m_sliders.at(section)->setBarLevel(eq::shownLevel(value));
+    m_sliders.at(section)->setBarLevel(value);
 }
 
 void Audiosetting_right_eq_widget::onCustomEqValueDelay() {

@@ -1,9 +1,5 @@
 #include "eqtable.h"
 
-#include "base/debuglog.h"
-
-#include <limits>
-
 namespace audiosetting {
 namespace eq {
 
@@ -23,16 +19,7 @@ int levelOfGain(int gain) {
 }
 
 int fromOtherEnd(int end, int value) {
-    typedef std::numeric_limits<int> Int;
-    return int(qBound<qint64>(Int::min(), qint64(end) - value, Int::max()));
-}
-
-int shownLevel(int level) {
-    const int shown = qBound(0, level, maxLevel);
-    if (shown != level) {
-        AUDIO_LOG << "level out of range:" << level;
-    }
-    return shown;
+    return int(quint32(end) - quint32(value));
 }
 
 const QList<tagAudioEQItem_T> &presets() {

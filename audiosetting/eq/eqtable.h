@@ -24,10 +24,9 @@ const int slotCount = 5;        ///< curves that the driver can store
 const QList<int> &levelGains();
 /// The slider level of a gain: its position in levelGains(), or 0 for a gain that is not there.
 int levelOfGain(int gain);
-/// \a value counted from the other end of a range: \a end - value, for every value of an int.
+/// \a value counted from the other end of a range: \a end - value. Wraps round, so that counting twice gives every int
+/// back.
 int fromOtherEnd(int end, int value);
-/// The level that a slider can show: \a level moved into 0 to 24, with a debug line where it was outside.
-int shownLevel(int level);
 
 /// The curves of the EQ page and of the Factory EQ page.
 const QList<tagAudioEQItem_T> &presets();

@@ -105,7 +105,6 @@ void EQWidget::createSlider(int band) {
     slider->setBorderPoint(borderPoints, pointCount);
     slider->show();
     m_sliders.append(slider);
-    m_labels.append(findChild<QLabel *>(QStringLiteral("val_%1").arg(band)));
     connect(slider, SIGNAL(press(int, int)), this, SLOT(update_eq_section_drag(int, int)));
     connect(slider, SIGNAL(release(int, int)), this, SLOT(save_eq_section_drag(int, int)));
 }
@@ -158,9 +157,9 @@ void EQWidget::updateAllEqLabels(tagAudioEQItem_T &item) {
 
 void EQWidget::updateCustomEQ() {
     for (int band = 0; band < eqBandCount; ++band) {
-        const int level = eq::shownLevel(eq::fromOtherEnd(eq::maxGain, audio()->getCustomEq(band)));
-        m_sliders.at(band)->setBarLevel(level);
-        updateEqLabel(band, gainOfLevel(level));
+        const int gain = audio()->getCustomEq(band);
+        m_sliders.at(band)->setBarLevel(eq::fromOtherEnd(eq::maxGain, gain));
+        updateEqLabel(band, gain);
     }
 }
 
@@ -168,7 +167,8 @@ void EQWidget::updateEqLabel(int band, int gain) {
     if (band < 0 || band >= eqBandCount) {
         return;
     }
-    if (QLabel *label = m_labels.at(band)) {
+    // Looked up each time: a host may add labels for the bands beyond the tenth.
+    if (QLabel *label = findChild<QLabel *>(QStringLiteral("val_%1").arg(band))) {
         label->setText(toEQString(gain));
     }
 }
@@ -219,9 +219,8 @@ void EQWidget::setEqBarValue(int section, int level) {
         return;
     }
     m_gains[section] = gainOfLevel(level);
-    const int shown = eq::shownLevel(level);
-    m_sliders.at(section)->setBarLevel(shown);
-    updateEqLabel(section, gainOfLevel(shown));
+    m_sliders.at(section)->setBarLevel(level);
+    updateEqLabel(section, m_gains.at(section));
 }
 
 // Keys ------------------------------------------------------------------------------------------------------------

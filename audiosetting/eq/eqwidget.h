@@ -7,7 +7,6 @@
 #include <QWidget>
 
 class QImage;
-class QLabel;
 struct tagAudioEQItem_T;
 
 namespace Ui {
@@ -36,8 +35,8 @@ namespace audiosetting {
 ///
 /// Keys step through the curves of the audio service, sliders edit its live custom curve. The panel stores nothing;
 /// a band's value towards the service is its gain, -12 to 12 dB. Its back key posts the platform's back gesture
-/// (TouchEvent 15) to the application object, which a host answers by closing the panel. Values outside their range
-/// are shown at the nearer end.
+/// (TouchEvent 15) to the application object, which a host answers by closing the panel. A value outside that range
+/// is shown as it is on its label.
 class Q_DECL_EXPORT EQWidget : public QWidget {
     Q_OBJECT
 public:
@@ -51,7 +50,8 @@ public:
     void updateEqBar(tagAudioEQItem_T &item);
     void updateCustomEQ();
     void updateAllEqLabels(tagAudioEQItem_T &item);
-    /// Writes the gain of one band, if the panel has a label for it.
+    /// Writes the gain of one band (0 to 12) into the child label "val_<band>", if there is one; a host may add those
+    /// of bands 10 to 12.
     void updateEqLabel(int band, int gain);
     /// One band moved to \a level, 0 (top) to 24.
     void setEqBarValue(int section, int level);
@@ -93,7 +93,6 @@ private:
 
     QScopedPointer<Ui::eq_adjust_fragment> m_ui;
     QList<cm::SliderBarWidget *> m_sliders;
-    QList<QLabel *> m_labels;  ///< the gains by band; null where the panel has no label
     QImage *m_knob = nullptr;
     QList<int> m_gains;  ///< of the live custom curve, by band
     QTimer m_sendTimer;  ///< while it runs, a moving finger sends nothing

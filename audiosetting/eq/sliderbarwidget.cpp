@@ -187,8 +187,10 @@ void SliderBarWidget::paintBar(QPainter &painter) {
 const QPixmap &SliderBarWidget::knob() {
     const int texts = m_texts.size();
     const int index = m_level >= 0 && m_level < texts ? m_level : texts;
-    if (m_knobs.size() != texts + 1) {
+    const qint64 imageKey = m_image ? m_image->cacheKey() : 0;
+    if (m_knobs.size() != texts + 1 || m_knobsKey != imageKey) {
         m_knobs = QVector<QPixmap>(texts + 1);
+        m_knobsKey = imageKey;  // the owner may have drawn into the image
     }
     QPixmap &picture = m_knobs[index];
     const QSize size = knobSize();
@@ -197,10 +199,8 @@ const QPixmap &SliderBarWidget::knob() {
         QFont numberFont = font();
         numberFont.setPointSize(numberPointSize);
         const QString text = index < texts ? QString::number(m_texts.at(index)) : QString();
-        const QString key = QStringLiteral("sliderbar/knob/%1/%2/%3/%4")
-                                .arg(m_image->cacheKey())
-                                .arg(double(ratio))
-                                .arg(text, numberFont.key());
+        const QString key =
+            QStringLiteral("sliderbar/knob/%1/%2/%3/%4").arg(imageKey).arg(double(ratio)).arg(text, numberFont.key());
         picture = sharedPicture(key, size, ratio, [&](QPainter &p) {
             const QRect area(QPoint(0, 0), size);
             p.drawImage(area, *m_image);

@@ -17,7 +17,8 @@ class SliderBarWidget : public QWidget {
 public:
     explicit SliderBarWidget(QWidget *parent);
 
-    /// The knob, which stays the caller's. Its width is also that of the bar's area and of the number.
+    /// The knob, which stays the caller's and is painted as it then is: after drawing into it, update() the slider. Its
+    /// width is also that of the bar's area and of the number.
     void setImage(QImage *&image);
     /// Width in pixels of the filled bar; 16 unless set.
     void setBarWidth(int width);
@@ -82,6 +83,7 @@ private:
     QList<int> m_texts;
 
     QPixmap m_bar;             ///< the bar at its full height
+    qint64 m_knobsKey = 0;     ///< of the image that m_knobs were made of
     QVector<QPixmap> m_knobs;  ///< the knob with the number of each level, and last one without; made when first seen
 };
 

@@ -64,6 +64,7 @@ balanceFaderControl::balanceFaderControl(QWidget *parent, const QRect &geometry)
         QPoint((width() - sizeOf(m_horizontalLine).width()) / 2, m_origin.y() - halfSize(m_horizontalLine).y());
     m_markerPos = m_origin - halfSize(m_marker);
     m_dragTimer.setSingleShot(true);
+    m_dragTimer.setTimerType(Qt::PreciseTimer);
 }
 
 void balanceFaderControl::mousePressEvent(QMouseEvent *event) {

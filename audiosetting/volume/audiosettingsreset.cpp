@@ -190,7 +190,7 @@ void Audiosettingsreset::onAcceptClicked() {
     }
     audio->setEQType(AudioEQPop, true);
 
-    QTimer::singleShot(donePeriod, this, SLOT(onDelayhidePop()));
+    QTimer::singleShot(donePeriod, Qt::PreciseTimer, this, SLOT(onDelayhidePop()));
     emit mem::SettingsCache::instance()->SettingsCacheSig(general::defeat().key());
 }
 

@@ -136,34 +136,34 @@ void Audiovolumsettings::load() {
 // Sliders ---------------------------------------------------------------------------------------------------------
 
 void Audiovolumsettings::onMainVolumeSliderChanged(int, int iValue) {
-    changedBySlider(Main, m_rows[Main].type, iValue);
+    changedBySlider(LOG_PLACE, Main, m_rows[Main].type, iValue);
 }
 
 void Audiovolumsettings::onPhoneVolSliderChanged(int, int iValue) {
-    changedBySlider(Phone, m_rows[Phone].type, iValue);
+    changedBySlider(LOG_PLACE, Phone, m_rows[Phone].type, iValue);
 }
 
 void Audiovolumsettings::onVoiceVolSliderChanged(int, int iValue) {
     // Compared with Navigation's level, not with its own: required.
-    changedBySlider(Voice, m_rows[Navigation].type, iValue);
+    changedBySlider(LOG_PLACE, Voice, m_rows[Navigation].type, iValue);
 }
 
 void Audiovolumsettings::onNaviVolSliderChanged(int, int iValue) {
-    changedBySlider(Navigation, m_rows[Navigation].type, iValue);
+    changedBySlider(LOG_PLACE, Navigation, m_rows[Navigation].type, iValue);
 }
 
 void Audiovolumsettings::onRingtoneVolSliderChanged(int, int iValue) {
-    changedBySlider(Ringtone, m_rows[Ringtone].type, iValue);
+    changedBySlider(LOG_PLACE, Ringtone, m_rows[Ringtone].type, iValue);
 }
 
 void Audiovolumsettings::onTAVolSliderChanged(int, int iValue) {
-    changedBySlider(Ta, m_rows[Ta].type, iValue);
+    changedBySlider(LOG_PLACE, Ta, m_rows[Ta].type, iValue);
 }
 
-void Audiovolumsettings::changedBySlider(RowId id, int comparedType, int value) {
+void Audiovolumsettings::changedBySlider(const LogPlace &slot, RowId id, int comparedType, int value) {
     Row &row = m_rows[id];
     if (!isUpdateVolume(comparedType, value)) {
-        AUDIO_LOG << "level already in force, type:" << row.type << "level:" << value;
+        AUDIO_LOG_AT(slot) << "level already in force, type:" << row.type << "level:" << value;
         return;
     }
     row.level = value;

@@ -8,6 +8,9 @@ class HorizontalSlider;
 namespace Ui {
 class Audiovolumsettings;
 }
+namespace audiosetting {
+struct LogPlace;
+}
 namespace cm {
 class LabelButton;
 class ScrollBar;
@@ -78,7 +81,8 @@ private:
     };
 
     void load();
-    void changedBySlider(RowId id, int comparedType, int value);
+    /// \a slot stands in the debug line.
+    void changedBySlider(const audiosetting::LogPlace &slot, RowId id, int comparedType, int value);
     void stepUp(RowId id);
     void stepDown(RowId id);
     void showLevel(RowId id);

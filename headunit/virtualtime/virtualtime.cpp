@@ -137,7 +137,7 @@ VirtualTime::Timer *VirtualTime::find(quint64 serial) {
 /// Delivers one timeout. The receiver may start and stop timers, run a loop, or be gone afterwards.
 void VirtualTime::fire(quint64 serial) {
     Timer *timer = find(serial);
-    timer->due += timer->interval;
+    timer->due += timer->interval + timer->lateness;
     timer->running = true;
     QTimerEvent event(timer->id);
     QCoreApplication::sendEvent(timer->object, &event);
@@ -146,7 +146,7 @@ void VirtualTime::fire(quint64 serial) {
         timer->running = false;
         // What came due while its own timeout ran a loop is lost, as on a real unit.
         while (timer->interval > 0 && timer->due <= m_now) {
-            timer->due += timer->interval;
+            timer->due += timer->interval + timer->lateness;
         }
     }
 }
@@ -158,7 +158,9 @@ void VirtualTime::registerSocketNotifier(QSocketNotifier *) {
 void VirtualTime::unregisterSocketNotifier(QSocketNotifier *) {}
 
 void VirtualTime::registerTimer(int timerId, int interval, Qt::TimerType timerType, QObject *object) {
-    m_timers.push_back({timerId, interval, timerType, object, m_now + interval, ++m_serial, 0, false});
+    const int lateness = m_coarseLate && timerType != Qt::PreciseTimer ? interval / 20 : 0;
+    m_timers.push_back(
+        {timerId, interval, timerType, lateness, object, m_now + interval + lateness, ++m_serial, 0, false});
 }
 
 bool VirtualTime::unregisterTimer(int timerId) {

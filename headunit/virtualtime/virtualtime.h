@@ -15,7 +15,7 @@ namespace headunit {
 /// until advance() moves it, or an event loop has nothing else to do: a loop that waits (QDialog::exec()) jumps
 /// to the next timer. Without a timer it sleeps until another thread posts an event.
 ///
-/// All timers are exact, whatever their Qt::TimerType. Socket notifiers are not served.
+/// All timers are exact, whatever their Qt::TimerType, unless setCoarseTimersLate(). Socket notifiers are not served.
 class VirtualTime : public QAbstractEventDispatcher {
     Q_OBJECT
 public:
@@ -27,6 +27,9 @@ public:
 
     /// Virtual milliseconds since the start.
     qint64 now() const { return m_now; }
+    /// Timers that start from now on without Qt::PreciseTimer are late by the 5 % that Qt allows them: a product that
+    /// owes a time must not use them.
+    void setCoarseTimersLate(bool late) { m_coarseLate = late; }
     /// Moves time by \a ms: runs what is due in the order of time, then of registration, and delivers posted and
     /// window-system events before, between and after. Deferred deletions take place when no loop runs.
     void advance(int ms);
@@ -49,6 +52,7 @@ private:
         int id;
         int interval;
         Qt::TimerType type;
+        int lateness;  ///< ms added to each interval
         QObject *object;
         qint64 due;
         quint64 serial;  ///< order of registration, and the identity of a timer whose id is used again
@@ -66,6 +70,7 @@ private:
     bool takeWoken();
 
     std::vector<Timer> m_timers;
+    bool m_coarseLate = false;
     qint64 m_now = 0;
     quint64 m_serial = 0;
     quint64 m_pass = 0;

@@ -35,6 +35,9 @@ struct PushButton::Private {
 PushButton::PushButton(QPushButton *button, QObject *parent) : QObject(parent), d(new Private) {
     d->button = button;
     d->hold.setSingleShot(true);
+    for (QTimer *timer : {&d->hold, &d->repeat}) {
+        timer->setTimerType(Qt::PreciseTimer);
+    }
     connect(button, &QPushButton::pressed, this, [this] {
         d->repeat.stop();
         d->hold.start(d->longPress);

@@ -33,6 +33,7 @@ void PageTest::init() {
     s_warnings.clear();
     s_previous = qInstallMessageHandler(handle);
     recording::reset();
+    headunit::VirtualTime::instance()->setCoarseTimersLate(true);
 }
 
 void PageTest::cleanup() {

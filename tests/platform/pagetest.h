@@ -9,7 +9,8 @@
 class QWidget;
 
 /// Base of the tests of what the plug-in shows: a new platform before each test function, and no warning of Qt's
-/// (a signal that does not exist, a picture that cannot be read) during it.
+/// (a signal that does not exist, a picture that cannot be read) during it. Coarse timers are late: what the product
+/// promises to the millisecond needs a precise one.
 ///
 /// A test that has an init() or a cleanup() of its own calls this one's.
 class PageTest : public QObject {

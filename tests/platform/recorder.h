@@ -19,8 +19,8 @@ enum Kind {
 };
 
 /// The log, a line per call with its arguments as written in code, in the order of the calls:
-/// setValue("subwooferLevel", 3, 4, true). Signals of the platform and touches that reached the application object
-/// (postTouch(15, -1, -1)) are lines as well.
+/// setValue("subwooferLevel", 3, 4, true). Signals of the platform are lines as well, and so is
+/// a touch posted to the application object, when it is posted, with its priority: postTouch(15, -1, -1, 0).
 PLATFORM_API QStringList log();
 /// The log, which is empty afterwards.
 PLATFORM_API QStringList take();
@@ -31,8 +31,7 @@ PLATFORM_API void note(const QString &line);
 /// Logs the kinds given (Reads | Toolkit) as well. None after reset().
 PLATFORM_API void setLogged(int kinds);
 
-/// A new platform: nothing stored, services in their first state, empty log. Call it before each test function, with
-/// the application object in place.
+/// A new platform: nothing stored, services in their first state, empty log. Call it before each test function.
 PLATFORM_API void reset();
 
 /// The audio settings store.

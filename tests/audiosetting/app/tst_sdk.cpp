@@ -58,7 +58,7 @@ private slots:
         CHILD(QPushButton, back, widget, "key_return");
         finger::tap(back);
         advance(0);
-        QCOMPARE(recording::take(), QStringList({"doBeep(0)", "postTouch(15, -1, -1)"}));
+        QCOMPARE(recording::take(), QStringList({"doBeep(0)", "postTouch(15, -1, -1, 0)"}));
 
         delete widget;
         QVERIFY(!window->mainWidget());

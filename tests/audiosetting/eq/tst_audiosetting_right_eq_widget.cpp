@@ -131,19 +131,39 @@ private slots:
         QCOMPARE(reference::levels(page), everywhere(24));
     }
 
-    void storedValuesOutOfRangeAreShownAtTheNearerEnd() {
+    void valuesOfAnotherScaleGoThroughShowEditAndCommitUnchanged() {
+        // The band-adjust panel keeps gains, down to -12, where this page keeps 0 to 24.
+        const QList<int> values{-8, 25, -1, -12, 12, 0, 24, 36, maximum, minimum, minimum + 1, 3, -9};
         recording::state().eqType = 16;
-        recording::setStored("eq0", 25);
-        recording::setStored("eq1", -1);
-        recording::setStored("eq2", maximum);
-        recording::setStored("eq3", minimum);
-        recording::setStored("eq4", 12);
+        for (int band = 0; band < 13; ++band) {
+            recording::state().customEq[band] = values[band];
+            recording::setStored(QStringLiteral("eq%1").arg(band), values[band]);
+        }
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
-        QCOMPARE(reference::levels(page).mid(0, 5), QList<int>({0, 24, 0, 24, 12}));
-        QCOMPARE(debugLines().filter("level out of range").size(), 4);
-        QCOMPARE(recording::stored("eq3"), QVariant(minimum));
-        QCOMPARE(recording::take(), QStringList());
+        QCOMPARE(reference::levels(page).mid(0, 8), QList<int>({32, -1, 25, 36, 12, 24, 0, -12}));
+        for (int band = 0; band < 13; ++band) {
+            const int level = reference::levels(page)[band];
+            QCOMPARE(upKeys(page)[band]->isEnabled(), level >= 1);
+            QCOMPARE(downKeys(page)[band]->isEnabled(), level < 24);
+        }
+        finger::tap(reference::sliders(page)[5], at(4));
+        advance(80);
+        QCOMPARE(recording::take(), QStringList({highlight(-1), send(20, 5)}));
+        for (int band = 0; band < 13; ++band) {
+            QCOMPARE(recording::stored(QStringLiteral("eq%1").arg(band)), QVariant(band == 5 ? 20 : values[band]));
+        }
+        // A slot keeps and recalls them as well.
+        finger::hold(customKey(page, 2), 1500);
+        QCOMPARE(recording::stored(slotKey(2, 0)), QVariant(32));
+        recording::clear();
+        finger::tap(customKey(page, 2));
+        QCOMPARE(recording::take(), QStringList({"doBeep(0)", highlight(2), lastSlot(2)}));
+        // Steps start from there.
+        finger::tap(upKeys(page)[0]);
+        QCOMPARE(reference::levels(page)[0], 31);
+        finger::tap(downKeys(page)[1]);
+        QCOMPARE(reference::levels(page)[1], 0);
     }
 
     void everyShowReadsAgain() {
@@ -457,7 +477,7 @@ private slots:
         show(&page);
         for (int value : {minimum, -1, 25, maximum}) {
             QVERIFY(QMetaObject::invokeMethod(&page, "update_eq_section_drag", Q_ARG(int, 3), Q_ARG(int, value)));
-            QCOMPARE(reference::levels(page)[3], value < 0 ? 0 : 24);
+            QCOMPARE(reference::levels(page)[3], value);
             QVERIFY(QMetaObject::invokeMethod(&page, "update_eq_section_drag", Q_ARG(int, value), Q_ARG(int, 3)));
             page.updateCustomEqValue(3, value);
         }
@@ -465,7 +485,7 @@ private slots:
         QVERIFY(QMetaObject::invokeMethod(&page, "onUpdateCustomEqData"));
         recording::clear();
         QVERIFY(QMetaObject::invokeMethod(&page, "onSaveCustomEqValue"));
-        QCOMPARE(recording::take()[1], send(maximum, 0));
+        QCOMPARE(recording::take()[1], send(int(24u - unsigned(minimum)), 0));
     }
 
     void onSetFlatEqOnlyShows() {

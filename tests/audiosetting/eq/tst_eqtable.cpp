@@ -25,22 +25,19 @@ private slots:
         }
     }
 
-    void countingFromTheOtherEndNeverOverflows() {
+    void countingFromTheOtherEndTwiceGivesEveryValueBack() {
         QCOMPARE(eq::fromOtherEnd(24, 0), 24);
         QCOMPARE(eq::fromOtherEnd(24, 30), -6);
+        QCOMPARE(eq::fromOtherEnd(24, -8), 32);
         QCOMPARE(eq::fromOtherEnd(12, -12), 24);
-        QCOMPARE(eq::fromOtherEnd(24, std::numeric_limits<int>::min()), std::numeric_limits<int>::max());
-        QCOMPARE(eq::fromOtherEnd(24, std::numeric_limits<int>::max()), 24 - std::numeric_limits<int>::max());
-    }
-
-    void levelsOutsideTheSliderAreShownAtItsEndsAndReported() {
-        QCOMPARE(eq::shownLevel(0), 0);
-        QCOMPARE(eq::shownLevel(24), 24);
-        QCOMPARE(debugLines(), QStringList());
-        QCOMPARE(eq::shownLevel(25), 24);
-        QCOMPARE(debugLines().size(), 1);
-        QCOMPARE(eq::shownLevel(std::numeric_limits<int>::min()), 0);
-        QCOMPARE(debugLines().size(), 2);
+        const int minimum = std::numeric_limits<int>::min();
+        const int maximum = std::numeric_limits<int>::max();
+        QCOMPARE(eq::fromOtherEnd(24, maximum), 24 - maximum);
+        for (int end : {12, 24}) {
+            for (int value : {minimum, minimum + 1, -13, -1, 0, 13, 25, maximum - 1, maximum}) {
+                QCOMPARE(eq::fromOtherEnd(end, eq::fromOtherEnd(end, value)), value);
+            }
+        }
     }
 
     void holdsThePresetsAndTheFiveCustomRows() {

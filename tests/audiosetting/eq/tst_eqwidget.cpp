@@ -164,14 +164,19 @@ private slots:
         QCOMPARE(nameShown(panel), QStringLiteral("#681"));
     }
 
-    void serviceValuesOutOfRangeAreShownAtTheNearerEnd() {
+    void labelsShowTheServicesOwnValues() {
+        // The EQ page keeps 0 to 24 where this panel keeps gains.
         recording::state().eqType = 16;
         recording::state().customEq = {{13, 24, maximum, -13, minimum, 0, 0, 0, 0, 0, 0, 0, 0}};
         EQWidget panel;
         show(&panel);
-        QCOMPARE(reference::levels(panel).mid(0, 6), QList<int>({0, 0, 0, 24, 24, 12}));
-        QCOMPARE(gainTexts(panel).mid(0, 6), QStringList({"+12", "+12", "+12", "-12", "-12", "0"}));
-        QCOMPARE(debugLines().filter("level out of range").size(), 5);
+        QCOMPARE(reference::levels(panel).mid(0, 4), QList<int>({-1, -12, 12 - maximum, 25}));
+        QCOMPARE(gainTexts(panel).mid(0, 6),
+                 QStringList({"+13", "+24", QStringLiteral("+%1").arg(maximum), "-13", QString::number(minimum), "0"}));
+        QCOMPARE(recording::take(), QStringList());
+        panel.setEqBarValue(3, 30);
+        QCOMPARE(reference::levels(panel)[3], 30);
+        QCOMPARE(gainTexts(panel)[3], QStringLiteral("-18"));
     }
 
     void gainsCarryTheirSign() {
@@ -184,6 +189,30 @@ private slots:
         for (int band : {-1, 10, 12, 13, minimum, maximum}) {
             panel.updateEqLabel(band, 9);  // no such label: nothing happens
         }
+    }
+
+    void labelsThatAHostAddsAreFound() {
+        recording::state().eqType = 16;
+        EQWidget panel;
+        show(&panel);
+        QWidget row(&panel);
+        QHash<int, QLabel *> added;
+        for (int band : {10, 11, 12, 13}) {
+            added[band] = new QLabel(band == 11 ? &row : &panel);
+            added[band]->setObjectName(QStringLiteral("val_%1").arg(band));
+        }
+        recording::state().customEq = {{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 4, -5, 0}};
+        panel.updateEqVal();
+        QCOMPARE(added[10]->text(), QStringLiteral("+4"));
+        QCOMPARE(added[11]->text(), QStringLiteral("-5"));
+        QCOMPARE(added[12]->text(), QStringLiteral("0"));
+        panel.setEqBarValue(12, 3);
+        QCOMPARE(added[12]->text(), QStringLiteral("+9"));
+        panel.updateEqLabel(13, 1);
+        QCOMPARE(added[13]->text(), QString());
+        // A label that goes is not written.
+        delete added.take(10);
+        panel.updateEqVal();
     }
 
     // Sliders ---------------------------------------------------------------------------------------------------
@@ -343,7 +372,7 @@ private slots:
         QSignalSpy back(&panel, SIGNAL(touchBack()));
         finger::tap(panel.findChild<QPushButton *>("key_back"));
         advance(0);
-        QCOMPARE(recording::take(), QStringList({"doBeep(0)", "postTouch(15, -1, -1)"}));
+        QCOMPARE(recording::take(), QStringList({"doBeep(0)", "postTouch(15, -1, -1, 0)"}));
         QVERIFY(panel.isVisible());  // the host closes it
         QCOMPARE(back.size(), 0);
     }
@@ -408,10 +437,9 @@ private slots:
         for (int value : {minimum, -1, 13, 25, maximum}) {
             QVERIFY(QMetaObject::invokeMethod(&panel, "update_eq_section_drag", Q_ARG(int, value), Q_ARG(int, 4)));
             QVERIFY(QMetaObject::invokeMethod(&panel, "update_eq_section_drag", Q_ARG(int, 4), Q_ARG(int, value)));
-            const int level = reference::levels(panel)[4];
-            QVERIFY(level >= 0 && level <= 24);
+            QCOMPARE(reference::levels(panel)[4], value);
         }
-        QCOMPARE(gainTexts(panel)[4], QStringLiteral("-12"));
+        QCOMPARE(gainTexts(panel)[4], QString::number(12 - maximum));
     }
 
     void languageIsFollowed() {

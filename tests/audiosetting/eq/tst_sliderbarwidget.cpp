@@ -395,6 +395,28 @@ private slots:
         QVERIFY(difference(picture(slider), drawn(slider, small, 6, 67, QStringLiteral("0"))) <= 3);
     }
 
+    void whatTheOwnerDrawsIntoTheKnobIsPainted() {
+        QImage knob = knobPicture();
+        QImage *image = &knob;
+        Slider slider;
+        slider.setImage(image);
+        show(&slider);
+        for (int level : {12, 24}) {
+            slider.setBarLevel(level);
+            picture(slider);
+        }
+        QPainter(&knob).fillRect(6, 6, 24, 14, Qt::red);
+        for (int level : {12, 24}) {
+            slider.setBarLevel(level);
+            const int point = reference::pageCenters[level];
+            QVERIFY(difference(picture(slider), drawn(slider, knob, 16, point, QString::number(12 - level))) <= 3);
+        }
+        knob.setPixelColor(2, 2, Qt::green);
+        QVERIFY(difference(picture(slider), drawn(slider, knob, 16, 137, QStringLiteral("-12"))) <= 3);
+        knob = knobPicture(QSize(30, 20));  // an image of another size in the same place
+        QVERIFY(difference(picture(slider), drawn(slider, knob, 16, 137, QStringLiteral("-12"))) <= 3);
+    }
+
     void aBarTooShortForItsCornersIsDrawnAllTheSame() {
         Slider slider;
         slider.resize(36, 75);

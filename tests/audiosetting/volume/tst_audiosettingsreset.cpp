@@ -508,7 +508,7 @@ private slots:
             QCOMPARE(root.childAt(close->mapTo(&root, corner)), close);
         }
         finger::tap(close, QPoint(2, 69));
-        QCOMPARE(recording::take(), (QStringList{beep, QStringLiteral("postTouch(1, -1, -1)")}));
+        QCOMPARE(recording::take(), (QStringList{beep, QStringLiteral("postTouch(1, -1, -1, 0)")}));
     }
 
     void whatLiesBehindIsDimAndUntouchable() {

@@ -528,6 +528,10 @@ private slots:
             slide(page, row, 33, 33);
             QCOMPARE(recording::take(), QStringList());
             QCOMPARE(debugLines().size(), lines + 1);
+            // The line carries the name of the slot.
+            QVERIFY2(
+                debugLines().last().contains(QStringLiteral("Audiovolumsettings::%1(int, int)").arg(row.sliderSlot)),
+                qPrintable(debugLines().last()));
             // The page's own level is as before: minus steps from 16.
             call(page, QByteArray(row.slot) + "Minus");
             QCOMPARE(sliderOf(page, row)->value(), 15);
@@ -571,7 +575,12 @@ private slots:
         for (int type = -1; type < 9; ++type) {
             recording::setLogged(recording::Toolkit);
             recording::clear();
+            const int lines = debugLines().size();
             recording::announceVolume(1, 0, type);
+            QCOMPARE(debugLines().size(), lines + 1);
+            QVERIFY2(debugLines().last().contains("Audiovolumsettings::onAudioVolumeChange(int, int, int)") &&
+                         debugLines().last().endsWith(QStringLiteral("-- vol: 0 type: %1").arg(type)),
+                     qPrintable(debugLines().last()));
             const auto row =
                 std::find_if(std::begin(rows), std::end(rows), [&](const Row &r) { return r.type == type; });
             QStringList expected{QStringLiteral("audioVolumeChanged(1, 0, %1)").arg(type)};

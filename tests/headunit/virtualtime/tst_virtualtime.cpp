@@ -101,6 +101,24 @@ private slots:
         QCOMPARE(log, QStringList({"v@999", "c@999", "p@999"}));
     }
 
+    void coarseTimersAreLateOnRequest() {
+        time->setCoarseTimersLate(true);
+        QTimer coarse, veryCoarse, precise;
+        coarse.setTimerType(Qt::CoarseTimer);
+        veryCoarse.setTimerType(Qt::VeryCoarseTimer);
+        precise.setTimerType(Qt::PreciseTimer);
+        add(veryCoarse, "v", 1000);
+        add(coarse, "c", 100);
+        add(precise, "p", 100);
+        time->setCoarseTimersLate(false);
+        time->advance(210);
+        QCOMPARE(log, QStringList({"p@100", "c@105", "p@200", "c@210"}));
+        coarse.stop();
+        precise.stop();
+        time->advance(2100 - 210);
+        QCOMPARE(log.mid(4), QStringList({"v@1050", "v@2100"}));
+    }
+
     void singleShotFiresOnce() {
         QTimer timer;
         timer.setSingleShot(true);
