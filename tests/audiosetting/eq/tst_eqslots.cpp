@@ -354,7 +354,7 @@ private slots:
         }
     }
 
-    void badLevelsInASlotAreShownAtTheEndsAndKept() {
+    void levelsOutOfRangeInASlotGoThroughUnchanged() {
         setLive(everywhere(12));
         QList<int> levels = everywhere(12);
         levels[0] = 25;
@@ -365,7 +365,7 @@ private slots:
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         finger::tap(customKey(page, 0));
-        QCOMPARE(reference::levels(page).mid(0, 5), QList<int>({24, 0, 24, 0, 12}));
+        QCOMPARE(reference::levels(page), levels);
         QCOMPARE(selected(page), 0);
         QCOMPARE(recording::stored(slotKey(0, 3)), QVariant(minimum));
         QVERIFY(!downKeys(page)[2]->isEnabled());
