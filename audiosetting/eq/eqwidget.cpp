@@ -2,6 +2,7 @@
 
 #include "audioservice.h"
 #include "base/debuglog.h"
+#include "base/look.h"
 #include "base/picture.h"
 #include "base/posttouch.h"
 #include "eqtable.h"
@@ -56,8 +57,10 @@ int gainOfLevel(int level) {
 
 }  // namespace
 
-EQWidget::EQWidget(QWidget *parent) : QWidget(parent), m_ui(new Ui::eq_adjust_fragment) {
+EQWidget::EQWidget(QWidget *parent) : QWidget(parent), m_look(new Look), m_ui(new Ui::eq_adjust_fragment) {
+    m_look->colourTexts(this);
     m_ui->setupUi(this);
+    m_look->dressKeys(this);
     m_sendTimer.setSingleShot(true);
     m_sendTimer.setTimerType(Qt::PreciseTimer);
     init();

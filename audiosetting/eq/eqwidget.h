@@ -31,6 +31,8 @@ Q_DECLARE_METATYPE(SettingPageType)
 
 namespace audiosetting {
 
+class Look;
+
 /// The band-adjust panel: an equaliser that a host may show by itself, 1024 x 552 px.
 ///
 /// Keys step through the curves of the audio service, sliders edit its live custom curve. The panel stores nothing;
@@ -91,6 +93,7 @@ private:
     void updateName();
     void afterStep();
 
+    QScopedPointer<Look> m_look;
     QScopedPointer<Ui::eq_adjust_fragment> m_ui;
     QList<cm::SliderBarWidget *> m_sliders;
     QImage *m_knob = nullptr;

@@ -40,6 +40,7 @@ const int titleSourceGain = 1072;
 }  // namespace
 
 AudioRootPagtSettings::AudioRootPagtSettings(QWidget *parent) : QWidget(parent) {
+    m_look.colourTexts(this);
     initContainerUi();
     onShowInitWidget();
     connect(mem::SettingsCache::instance(), SIGNAL(SettingsCacheSig(QString)), this, SLOT(onSettingsCacheSig(QString)));
@@ -56,6 +57,7 @@ void AudioRootPagtSettings::initContainerUi() {
     connect(m_top, SIGNAL(backClicked()), this, SLOT(onBackClicked()));
     m_tab = new AudiosettingsTab(m_form->left_widget);
     connect(m_tab, SIGNAL(itemClicked(int)), this, SLOT(onPageChanged(int)));
+    m_look.dressKeys(m_container);
 }
 
 void AudioRootPagtSettings::onShowInitWidget() {
@@ -159,6 +161,7 @@ void AudioRootPagtSettings::onShowSourceGain() {
     hideContainerChilds();
     if (!m_sourceGain) {
         m_sourceGain = createSourceGainPage(this);
+        m_look.dressKeys(m_sourceGain);
     }
     showFullWidthPage(m_sourceGain, PageSourceGain, titleSourceGain);
 }
@@ -258,6 +261,7 @@ template <class Page> bool AudioRootPagtSettings::createOnce(Page *&page, QWidge
         return false;
     }
     page = new Page(parent);
+    m_look.dressKeys(page);
     return true;
 }
 

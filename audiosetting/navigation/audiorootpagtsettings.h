@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/look.h"
+
 #include <QScopedPointer>
 #include <QWidget>
 
@@ -64,6 +66,7 @@ private:
     void showFullWidthPage(QWidget *page, int id, int titleId);
     void setTitle(int textId);
 
+    audiosetting::Look m_look;
     int m_currentpageId = 0;
     AudiosettingsTop *m_top = nullptr;
     AudiosettingsRoot *m_settingsRoot = nullptr;
