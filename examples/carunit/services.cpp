@@ -66,6 +66,10 @@ void sendDelays() {
 void sendDefeat() { send("defeat", {stored("ADV_AUDIO_SETTINGS", 0)}); }
 
 void powerUp() {
+    // The EQ page reads the curve from the store, and its default there is -12 dB: a new unit writes the flat curve.
+    for (int band = 0; band < bands; ++band) {
+        keep(QStringLiteral("eq%1").arg(band), stored("eq" + QByteArray::number(band), flat));
+    }
     sendCrossover();
     sendDelays();
     sendDefeat();

@@ -49,7 +49,6 @@ void AudioSettingsUtils::setValue(const QString &key, const QVariant &, const QV
 
 void AudioSettingsUtils::clear(const QString &path) {
     d->file.clear();
-    for (int band = 0; band < 13; ++band) { write(d->file, QStringLiteral("eq%1").arg(band), 12); }
     const QSettings factory(unitPath(path), QSettings::IniFormat);
     for (const QString &key : factory.allKeys()) { write(d->file, key, factory.value(key)); }
     carunit::powerUp();
