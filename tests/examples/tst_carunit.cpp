@@ -295,14 +295,15 @@ void TestCarUnit::keysOfTheUnitLeaveTheApplication() {
 
 void TestCarUnit::badArgumentsAreOneLine() {
     QProcess unit;
+    QTemporaryDir root;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_LOGGING_RULES", "*.debug=false");
+    environment.insert("XDG_RUNTIME_DIR", root.path());
     unit.setProcessEnvironment(environment);
     unit.start(CARUNIT, QStringList());
     QVERIFY(unit.waitForFinished(patience));
     QCOMPARE(unit.exitCode(), 2);
     QCOMPARE(unit.readAllStandardError().count('\n'), 1);
-    QTemporaryDir root;
     unit.start(CARUNIT, {root.path(), CARUNIT});
     QVERIFY(unit.waitForFinished(patience));
     QCOMPARE(unit.exitCode(), 1);
