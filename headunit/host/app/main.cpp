@@ -163,6 +163,7 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
     QObject::connect(&application, &HostApplication::touched, &unit, &Unit::touch);
     QObject::connect(window.hardKeys(), &HardKeys::keyPressed, &unit, &Unit::pressHardKey);
     QObject::connect(window.hardKeys(), &HardKeys::keyReleased, &unit, &Unit::releaseHardKey);
+    limitMainVolume();
     if (options.language.isEmpty()) {
         unit.restoreLanguage();
     } else if (!unit.setLanguage(options.language)) {
