@@ -1,3 +1,4 @@
+#include "headunit/audio/service/soundmodel.h"
 #include "headunit/host/app/deskscripttarget.h"
 #include "headunit/host/app/deskwindow.h"
 #include "headunit/host/app/hostapplication.h"
@@ -185,6 +186,9 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
                 sound.reset(startSound(options.play, options.meters, &silentBecause));
                 if (!silentBecause.isEmpty()) {
                     std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
+                }
+                if (!sound) {
+                    SoundModel::instance().setFault(SoundFault::NoLibrary);
                 }
             });
         }
