@@ -10,7 +10,7 @@ namespace qvaudio {
 /// The unit's audio service: equaliser, balance and fader, channel volumes, key beep.
 ///
 /// One object per process, used from the GUI thread. No operation reports an error: a value outside the
-/// range given below is clamped or ignored by the service, which writes one debug line.
+/// range given below is clamped or ignored by the service, which writes a debug line, one each kind and second.
 class PLATFORM_API AudioService : public QObject {
     Q_OBJECT
 public:

@@ -6,7 +6,7 @@
 class KeyEvent : public QEvent {
 public:
     /// Codes of the hard keys.
-    enum Key { VolumeUp = 1, VolumeDown = 2, Back = 3, Home = 4 };
+    enum Key { VolumeUp = 1, VolumeDown = 2, Back = 3, Home = 4, Mute = 5 };
 
     /// \a type is QEvent::KeyPress or QEvent::KeyRelease.
     KeyEvent(QEvent::Type type, int key) : QEvent(type), m_key(key) {}

@@ -2,6 +2,7 @@
 
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/audio/service/soundtext.h"
+#include "headunit/settings/linelimit.h"
 #include "headunit/settings/trace.h"
 
 #include <QDebug>
@@ -67,7 +68,9 @@ void McuService::setAudioTimerDelay(int enable, int *delays) {
     constexpr int enabled = 1;  // the only value that the unit knows
     if (enable != enabled || delays == nullptr) {
         HEADUNIT_TRACE(traceCall("setAudioTimerDelay", {enable}), QStringLiteral("no delays, ignored"));
-        qDebug("sound: delays with enable %d%s, ignored", enable, delays == nullptr ? " and no array" : "");
+        if (headunit::lineMayPass("delays")) {
+            qDebug("sound: delays with enable %d%s, ignored", enable, delays == nullptr ? " and no array" : "");
+        }
         return;
     }
     HEADUNIT_TRACE(headunit::delaysCall(enable, delays), headunit::delaysText(delays));

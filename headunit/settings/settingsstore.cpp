@@ -1,5 +1,6 @@
 #include "settingsstore.h"
 
+#include "linelimit.h"
 #include "settingsfile.h"
 #include "settingswriter.h"
 
@@ -89,7 +90,9 @@ bool SettingsStore::boolValue(const QString &key, bool defaultValue) const {
 void SettingsStore::set(const QString &key, const QVariant &value) {
     const QVariant kept = storableValue(value);
     if (!kept.isValid() && value.isValid()) {
-        qWarning("settings: %s cannot hold a %s", qUtf8Printable(key), value.typeName());
+        if (lineMayPass(value.typeName())) {
+            qWarning("settings: %s cannot hold a %s", qUtf8Printable(key), value.typeName());
+        }
         return;
     }
     const auto it = m_values.find(key);

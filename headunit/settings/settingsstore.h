@@ -33,7 +33,7 @@ public:
     bool boolValue(const QString &key, bool defaultValue) const;  ///< see toBool()
     const SettingsMap &values() const { return m_values; }
 
-    /// An invalid value removes the key; what cannot be kept is refused with one warning.
+    /// An invalid value removes the key; what cannot be kept is refused with a warning, one a second each type.
     void set(const QString &key, const QVariant &value);
     void replaceAll(const SettingsMap &values);
 

@@ -1,5 +1,6 @@
 #include "unitsettings.h"
 
+#include "audiokeys.h"
 #include "soundlistener.h"
 #include "unitroot.h"
 
@@ -46,6 +47,18 @@ QStringList openSettings() {
     problems.removeAll(QString());
     notifySound(SoundPart::All);
     return problems;
+}
+
+void limitMainVolume() {
+    const int highest = keys::powerUpLimit.defaultValue;
+    const int limit = toInt(factory().state.values.value(QString::fromLatin1(keys::powerUpLimit.name)), highest);
+    const QString key = QString::fromLatin1(keys::channelLevel.name).arg(0);
+    const int level = audioStore().intValue(key, keys::channelLevel.defaultValue);
+    // What is no volume at all is left to its readers, who take their default.
+    if (limit >= 0 && level > limit && level <= highest) {
+        audioStore().set(key, limit);
+        notifySound(SoundPart::All);
+    }
 }
 
 bool flushSettings() {

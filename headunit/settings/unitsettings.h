@@ -15,9 +15,12 @@ SettingsStore &sharedStore();
 /// Opens both stores below the unit's root, and reads the factory file so that a reset need not wait for the disk; the
 /// sound follows. Where the root has neither audio settings nor a factory file (the first start), the factory file
 /// that ships with this unit is put there first. An audio store without a file of its own starts from the factory
-/// state. Returns what went wrong, a readable line each, which is also in the log. Without this call, the stores work
-/// in memory only.
+/// state. Returns what went wrong, a
+/// readable line each, which is also in the log. Without this call, the stores work in memory only.
 QStringList openSettings();
+/// Lowers a main volume above the limit that the factory file names, and the sound follows: however loud it was when
+/// the unit went off, nobody is startled when it comes on.
+void limitMainVolume();
 /// Saves both stores now, as for an orderly shutdown, and waits for it (a few seconds at most). False if that fails.
 bool flushSettings();
 /// Saves and forgets both stores.

@@ -223,6 +223,38 @@
         <source>Traffic</source>
         <translation>Verkehrsfunk</translation>
     </message>
+    <message id="20031">
+        <source>Voice</source>
+        <translation>Assistent</translation>
+    </message>
+    <message id="20032">
+        <source>Traffic</source>
+        <translation>Verkehr</translation>
+    </message>
+    <message id="20033">
+        <source>Key beep</source>
+        <translation>Tastenton</translation>
+    </message>
+    <message id="20034">
+        <source>Muted</source>
+        <translation>Stumm geschaltet</translation>
+    </message>
+    <message id="20035">
+        <source>No sound: no sound server answers</source>
+        <translation>Kein Ton: Es antwortet kein Soundserver</translation>
+    </message>
+    <message id="20036">
+        <source>No sound: there is no sound device</source>
+        <translation>Kein Ton: Es gibt kein Audiogerät</translation>
+    </message>
+    <message id="20037">
+        <source>No sound: the file cannot be played</source>
+        <translation>Kein Ton: Die Datei lässt sich nicht abspielen</translation>
+    </message>
+    <message id="20038">
+        <source>No sound: the sound library is missing</source>
+        <translation>Kein Ton: Die Klangbibliothek fehlt</translation>
+    </message>
     <message id="20017">
         <source>DAB</source>
         <translation>DAB</translation>

@@ -223,6 +223,38 @@
         <source>Traffic</source>
         <translation>Traffic</translation>
     </message>
+    <message id="20031">
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message id="20032">
+        <source>Traffic</source>
+        <translation>Traffic</translation>
+    </message>
+    <message id="20033">
+        <source>Key beep</source>
+        <translation>Key beep</translation>
+    </message>
+    <message id="20034">
+        <source>Muted</source>
+        <translation>Muted</translation>
+    </message>
+    <message id="20035">
+        <source>No sound: no sound server answers</source>
+        <translation>No sound: no sound server answers</translation>
+    </message>
+    <message id="20036">
+        <source>No sound: there is no sound device</source>
+        <translation>No sound: there is no sound device</translation>
+    </message>
+    <message id="20037">
+        <source>No sound: the file cannot be played</source>
+        <translation>No sound: the file cannot be played</translation>
+    </message>
+    <message id="20038">
+        <source>No sound: the sound library is missing</source>
+        <translation>No sound: the sound library is missing</translation>
+    </message>
     <message id="20017">
         <source>DAB</source>
         <translation>DAB</translation>

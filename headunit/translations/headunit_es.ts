@@ -223,6 +223,38 @@
         <source>Traffic</source>
         <translation>Tráfico</translation>
     </message>
+    <message id="20031">
+        <source>Voice</source>
+        <translation>Voz</translation>
+    </message>
+    <message id="20032">
+        <source>Traffic</source>
+        <translation>Tráfico</translation>
+    </message>
+    <message id="20033">
+        <source>Key beep</source>
+        <translation>Pitido</translation>
+    </message>
+    <message id="20034">
+        <source>Muted</source>
+        <translation>Sonido desactivado</translation>
+    </message>
+    <message id="20035">
+        <source>No sound: no sound server answers</source>
+        <translation>Sin sonido: ningún servidor de sonido responde</translation>
+    </message>
+    <message id="20036">
+        <source>No sound: there is no sound device</source>
+        <translation>Sin sonido: no hay ningún dispositivo de audio</translation>
+    </message>
+    <message id="20037">
+        <source>No sound: the file cannot be played</source>
+        <translation>Sin sonido: el archivo no se puede reproducir</translation>
+    </message>
+    <message id="20038">
+        <source>No sound: the sound library is missing</source>
+        <translation>Sin sonido: falta la biblioteca de sonido</translation>
+    </message>
     <message id="20017">
         <source>DAB</source>
         <translation>DAB</translation>

@@ -223,6 +223,38 @@
         <source>Traffic</source>
         <translation>Info trafic</translation>
     </message>
+    <message id="20031">
+        <source>Voice</source>
+        <translation>Voix</translation>
+    </message>
+    <message id="20032">
+        <source>Traffic</source>
+        <translation>Trafic</translation>
+    </message>
+    <message id="20033">
+        <source>Key beep</source>
+        <translation>Bip</translation>
+    </message>
+    <message id="20034">
+        <source>Muted</source>
+        <translation>Son coupé</translation>
+    </message>
+    <message id="20035">
+        <source>No sound: no sound server answers</source>
+        <translation>Pas de son : aucun serveur de son ne répond</translation>
+    </message>
+    <message id="20036">
+        <source>No sound: there is no sound device</source>
+        <translation>Pas de son : aucun périphérique audio</translation>
+    </message>
+    <message id="20037">
+        <source>No sound: the file cannot be played</source>
+        <translation>Pas de son : le fichier ne peut pas être lu</translation>
+    </message>
+    <message id="20038">
+        <source>No sound: the sound library is missing</source>
+        <translation>Pas de son : la bibliothèque audio est absente</translation>
+    </message>
     <message id="20017">
         <source>DAB</source>
         <translation>DAB</translation>

@@ -223,6 +223,38 @@
         <source>Traffic</source>
         <translation>交通情報</translation>
     </message>
+    <message id="20031">
+        <source>Voice</source>
+        <translation>音声</translation>
+    </message>
+    <message id="20032">
+        <source>Traffic</source>
+        <translation>交通情報</translation>
+    </message>
+    <message id="20033">
+        <source>Key beep</source>
+        <translation>操作音</translation>
+    </message>
+    <message id="20034">
+        <source>Muted</source>
+        <translation>消音中</translation>
+    </message>
+    <message id="20035">
+        <source>No sound: no sound server answers</source>
+        <translation>音が出ません：サウンドサーバーが応答しません</translation>
+    </message>
+    <message id="20036">
+        <source>No sound: there is no sound device</source>
+        <translation>音が出ません：音声デバイスがありません</translation>
+    </message>
+    <message id="20037">
+        <source>No sound: the file cannot be played</source>
+        <translation>音が出ません：ファイルを再生できません</translation>
+    </message>
+    <message id="20038">
+        <source>No sound: the sound library is missing</source>
+        <translation>音が出ません：サウンドライブラリがありません</translation>
+    </message>
     <message id="20017">
         <source>DAB</source>
         <translation>DAB</translation>

@@ -145,12 +145,17 @@ constexpr std::array<Notes, engine::inputCount> chimes = {{{0, 0, 0},
                                                            {1760, 1760, 0.006}}};
 constexpr uint64_t noteFrames = static_cast<uint64_t>(0.25 * sampleRate);
 constexpr uint64_t chimeFrames = static_cast<uint64_t>(2 * sampleRate);
+constexpr uint64_t beepSpacing = static_cast<uint64_t>(sampleRate);
 constexpr uint64_t clickFrames = static_cast<uint64_t>(0.06 * sampleRate);
 
 }  // namespace
 
 bool Chime::isPlaying() const {
     return m_frame < (m_input == engine::BeepInput ? clickFrames : chimeFrames);
+}
+
+bool Chime::isOver() const {
+    return m_frame >= (m_input == engine::BeepInput ? beepSpacing : chimeFrames);
 }
 
 void Chime::fill(float *stereo, size_t frames) {

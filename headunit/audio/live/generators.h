@@ -67,6 +67,8 @@ public:
 
     void restart() { m_frame = 0; }
     bool isPlaying() const;
+    /// As long after its beginning as it takes before the same sound again does not seem hasty.
+    bool isOver() const;
     void fill(float *stereo, size_t frames);
 
 private:

@@ -23,15 +23,22 @@ bool Player::choose(const std::string &what, std::string *error) {
     return true;
 }
 
+void Player::setState(const SoundState &state) {
+    m_engine.setParameters(engine::designParameters(state));
+    for (size_t prompt = 0; prompt < state.activePrompts.size(); ++prompt) {
+        m_active[RingtoneInput + prompt] = state.activePrompts[prompt];
+    }
+}
+
 void Player::fillBlock(float *out, size_t frames) {
     Inputs inputs{};
     std::visit([this, frames](auto &source) { source.fill(m_blocks[MainInput].data(), frames); }, m_source);
     inputs[MainInput] = m_blocks[MainInput].data();
     for (size_t input = RingtoneInput; input < inputCount; ++input) {
-        if (m_wanted[input].exchange(false)) {
+        if (m_wanted[input].exchange(false) || (m_active[input] && m_chimes[input].isOver())) {
             m_chimes[input].restart();
         }
-        if (m_chimes[input].isPlaying()) {
+        if (!m_chimes[input].isOver()) {
             m_chimes[input].fill(m_blocks[input].data(), frames);
             inputs[input] = m_blocks[input].data();
         }

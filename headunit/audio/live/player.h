@@ -22,8 +22,8 @@ public:
     /// reason in \a error, if it cannot be played. Before the first fill().
     bool choose(const std::string &what, std::string *error);
 
-    void setState(const SoundState &state) { m_engine.setParameters(engine::designParameters(state)); }
-    /// Plays an input's own short sound; the main one has none.
+    void setState(const SoundState &state);
+    /// Plays an input's own short sound; the main one has none. Prompts that are active play theirs again and again.
     void chime(engine::Input input) { m_wanted[input] = true; }
 
     /// What was played since the last call, or null if nothing was. The reading stays as it is until the next call.
@@ -47,6 +47,7 @@ private:
     engine::Engine m_engine;
     std::variant<Silence, Music, PinkNoise, Sweep, LoudspeakerTone, FileLoop> m_source;
     std::array<std::atomic<bool>, engine::inputCount> m_wanted{};
+    std::array<std::atomic<bool>, engine::inputCount> m_active{};
     std::array<Chime, engine::inputCount> m_chimes = {Chime(engine::MainInput),  Chime(engine::RingtoneInput),
                                                       Chime(engine::PhoneInput), Chime(engine::NavigationInput),
                                                       Chime(engine::VoiceInput), Chime(engine::AnnouncementInput),

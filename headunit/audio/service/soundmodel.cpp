@@ -2,6 +2,7 @@
 
 #include "soundlimits.h"
 #include "soundtables.h"
+#include "soundtext.h"
 
 #include "headunit/settings/audiokeys.h"
 #include "headunit/settings/trace.h"
@@ -73,6 +74,9 @@ void SoundModel::setCustomEq(int band, int value) {
         return;
     }
     const size_t index = static_cast<size_t>(band);
+    if (tooLoud(value, ranges::bandValue, "equaliser band value")) {
+        return;
+    }
     const int kept = clamped(value, ranges::bandValue, "equaliser band value");
     keep(m_bandKeys[index], kept);
     assign(m_state.customEq[index], kept);
@@ -90,13 +94,14 @@ void SoundModel::setBalanceFader(int balance, int fader) {
 }
 
 void SoundModel::setChannelLevel(int channel, int level) {
-    if (!exists(channel, SoundState::channels, "volume channel")) {
+    if (!exists(channel, SoundState::channels, "volume channel") ||
+        !exists(level, ranges::channelLevel.high + 1, "channel level")) {
         return;
     }
     const size_t index = static_cast<size_t>(channel);
     SoundState next = m_state;
-    next.channelLevel[index] = clamped(level, ranges::channelLevel, "channel level");
-    keep(m_levelKeys[index], next.channelLevel[index]);
+    next.channelLevel[index] = level;
+    keep(m_levelKeys[index], level);
     apply(next);
 }
 
@@ -106,7 +111,7 @@ int SoundModel::channelLevel(int channel) const {
 }
 
 void SoundModel::setSourceGain(int source, int value) {
-    if (exists(source, SoundState::sources, "source")) {
+    if (exists(source, SoundState::sources, "source") && !tooLoud(value, ranges::sourceGain, "source gain")) {
         assign(m_state.sourceGain[static_cast<size_t>(source)], clamped(value, ranges::sourceGain, "source gain"));
     }
 }
@@ -116,7 +121,9 @@ void SoundModel::setLoudness(int on) {
 }
 
 void SoundModel::setSubwooferLevel(int level) {
-    assign(m_state.subwooferLevel, clamped(level, ranges::subwooferLevel, "subwoofer level"));
+    if (!tooLoud(level, ranges::subwooferLevel, "subwoofer level")) {
+        assign(m_state.subwooferLevel, clamped(level, ranges::subwooferLevel, "subwoofer level"));
+    }
 }
 
 void SoundModel::setSubwooferPhase(int phase) {
@@ -126,7 +133,8 @@ void SoundModel::setSubwooferPhase(int phase) {
 }
 
 void SoundModel::setFilter(FilterChannel channel, const CrossoverFilter &filter) {
-    if (!exists(filter.freq, frequencyCount(channel), "crossover frequency index")) {
+    if (!exists(filter.freq, frequencyCount(channel), "crossover frequency index") ||
+        tooLoud(filter.level, ranges::filterLevel, "crossover level")) {
         return;
     }
     CrossoverFilter checked = filter;
@@ -153,24 +161,58 @@ void SoundModel::setActiveSource(int source) {
 }
 
 void SoundModel::setMuted(bool muted) {
+    HEADUNIT_TRACE(traceCall("mute", {muted}), muted ? QStringLiteral("what plays falls silent, prompts do not")
+                                                     : QStringLiteral("what plays is heard again"));
     assign(m_state.muted, muted);
+}
+
+void SoundModel::setPromptActive(Prompt prompt, bool active) {
+    HEADUNIT_TRACE(traceCall("prompt", {promptName(prompt), active}), promptText(prompt, active));
+    assign(m_state.activePrompts[static_cast<size_t>(prompt)], active);
 }
 
 void SoundModel::beep(int sound) {
     Q_EMIT beeped(sound);
 }
 
+void SoundModel::setFault(SoundFault fault) {
+    if (fault != m_fault) {
+        m_fault = fault;
+        Q_EMIT faultChanged();
+    }
+}
+
 void SoundModel::apply(const SoundState &next) {
     if (next == m_state) {
         return;
     }
-    const SoundState before = m_state;
     m_state = next;
     Q_EMIT changed();
-    for (size_t channel = 0; channel < before.channelLevel.size(); ++channel) {
-        if (next.channelLevel[channel] != before.channelLevel[channel]) {
-            Q_EMIT channelLevelChanged(static_cast<int>(channel), next.channelLevel[channel]);
+    announceLevels();
+}
+
+/// What a listener sets meanwhile is announced when all of them have heard the level before.
+void SoundModel::announceLevels() {
+    if (m_announcing) {
+        return;
+    }
+    m_announcing = true;
+    constexpr int mostAnswers = 1000;  // listeners that never agree must not stop the unit
+    int announced = 0;
+    for (size_t channel = 0; channel < m_announcedLevel.size() && announced < mostAnswers;) {
+        const int level = m_state.channelLevel[channel];
+        if (level == m_announcedLevel[channel]) {
+            ++channel;
+            continue;
         }
+        m_announcedLevel[channel] = level;
+        ++announced;
+        Q_EMIT channelLevelChanged(static_cast<int>(channel), level);
+        channel = 0;
+    }
+    m_announcing = false;
+    if (announced == mostAnswers) {
+        qWarning("sound: listeners answer a channel's level with another one again and again");
     }
 }
 

@@ -15,11 +15,15 @@ namespace headunit {
 /// The crossover's three filters.
 enum class FilterChannel { Front, Rear, Subwoofer };
 
+/// Why what plays is not heard although it should be.
+enum class SoundFault { None, NothingToPlay, NoLibrary, NoServer, NoDevice };
+
 /// The sound of the unit: the one SoundState, the checks at its boundary, and the settings that the services keep
 /// themselves (live equaliser bands, curve in force, channel levels).
 ///
-/// A quantity out of range is clamped; a number that names something that does not exist (band, channel, source,
-/// frequency index) makes the call void. Both write one debug line. GUI thread only.
+/// A quantity out of range is clamped, unless that could make something louder: a volume out of range, and a gain above
+/// its range, make the call void, as does a number that names something that does not exist (band, channel, source,
+/// frequency index). Either writes a debug line, one each kind and second. GUI thread only.
 class SoundModel : public QObject {
     Q_OBJECT
 public:
@@ -30,8 +34,8 @@ public:
 
     const SoundState &state() const { return m_state; }
 
-    /// Takes \a part from the store, in which what was never written reads as its readers' default. Active source
-    /// and mute are not kept there and stay.
+    /// Takes \a part from the store, in which what was never written reads as its readers' default. Active source,
+    /// mute and prompts are not kept there and stay.
     void restore(SoundPart part = SoundPart::All);
 
     void setEqType(int type);               ///< any integer
@@ -47,14 +51,23 @@ public:
     void setFilter(FilterChannel channel, const CrossoverFilter &filter);
     void setDelays(const std::array<int, SoundState::outputs> &delays);
     void setActiveSource(int source);
+    /// Muted, the source that plays is silent; prompts are not.
     void setMuted(bool muted);
+    /// A prompt begins or ends; what plays steps back for it as long as it sounds.
+    void setPromptActive(Prompt prompt, bool active);
     void beep(int sound);
+
+    /// Whoever makes the sound says what keeps it from being heard.
+    void setFault(SoundFault fault);
+    SoundFault fault() const { return m_fault; }
 
 Q_SIGNALS:
     /// The state differs from before; once per call that changed it.
     void changed();
-    /// A channel's level differs from before, whoever changed it.
+    /// A channel's level differs from before, whoever changed it. A listener may answer by setting levels; all of them
+    /// hear this one first, and last the one that is in force.
     void channelLevelChanged(int channel, int level);
+    void faultChanged();
     /// A key click is wanted.
     void beeped(int sound);
 
@@ -65,11 +78,15 @@ private:
     bool restoredDefeat() const;
     /// Takes over a whole state and says what changed.
     void apply(const SoundState &next);
+    void announceLevels();
     template <typename T> void assign(T &member, const T &value);
     void keep(const QString &key, int value);
 
     SettingsStore &m_store;
     SoundState m_state;
+    std::array<int, SoundState::channels> m_announcedLevel{};
+    bool m_announcing = false;
+    SoundFault m_fault = SoundFault::None;
     QString m_eqTypeKey;
     std::array<QString, SoundState::bands> m_bandKeys;  // made once: a drag writes all bands many times a second
     std::array<QString, SoundState::channels> m_levelKeys;

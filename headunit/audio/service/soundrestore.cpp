@@ -17,14 +17,36 @@ bool storedFlag(const SettingsStore &store, const SettingKey &key) {
     return store.boolValue(QString::fromLatin1(key.name), key.defaultValue != 0);
 }
 
-template <size_t Count> std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key,
-                                                         const Range &range, int offset = 0) {
+/// A stored \a value that decides how loud something is: out of range, it is taken for never written.
+int storedGain(int value, const Range &range, int otherwise, const char *what) {
+    if (value >= range.low && value <= range.high) {
+        return value;
+    }
+    if (lineMayPass(what)) {
+        qDebug("sound: %s %d is not within %d to %d, taken as %d", what, value, range.low, range.high, otherwise);
+    }
+    return otherwise;
+}
+
+template <size_t Count> std::array<int, Count> storedGains(const SettingsStore &store, const SettingKey &key,
+                                                           const Range &range, int offset = 0) {
     std::array<int, Count> row;
     // In the store's numbers, so that a debug line says what stands there.
     const Range storedRange = {range.low - offset, range.high - offset};
     for (size_t number = 0; number < Count; ++number) {
         const QString name = QString::fromLatin1(key.name).arg(number);
-        row[number] = clamped(store.intValue(name, key.defaultValue), storedRange, qPrintable(name)) + offset;
+        const int value = store.intValue(name, key.defaultValue);
+        row[number] = storedGain(value, storedRange, key.defaultValue, qPrintable(name)) + offset;
+    }
+    return row;
+}
+
+template <size_t Count>
+std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key, const Range &range) {
+    std::array<int, Count> row;
+    for (size_t number = 0; number < Count; ++number) {
+        const QString name = QString::fromLatin1(key.name).arg(number);
+        row[number] = clamped(store.intValue(name, key.defaultValue), range, qPrintable(name));
     }
     return row;
 }
@@ -35,7 +57,8 @@ CrossoverFilter storedFilter(const SettingsStore &store, const FilterKeys &keysO
     // A stored index beyond the table means off here, as there is no earlier filter to stay with.
     filter.freq = exists(freq, static_cast<int>(frequencies), keysOfFilter.freq.name) ? freq : 0;
     filter.slope = clamped(stored(store, keysOfFilter.slope), ranges::slope, keysOfFilter.slope.name);
-    filter.level = clamped(stored(store, keysOfFilter.level), ranges::filterLevel, keysOfFilter.level.name);
+    filter.level = storedGain(stored(store, keysOfFilter.level), ranges::filterLevel, keysOfFilter.level.defaultValue,
+                              keysOfFilter.level.name);
     return filter;
 }
 
@@ -65,17 +88,19 @@ SoundState SoundModel::restored() const {
     SoundState next;
     next.activeSource = m_state.activeSource;
     next.muted = m_state.muted;
+    next.activePrompts = m_state.activePrompts;
     next.eqType = stored(m_store, keys::eqType);
-    next.customEq = storedRow<SoundState::bands>(m_store, keys::customEq, ranges::bandValue);
+    next.customEq = storedGains<SoundState::bands>(m_store, keys::customEq, ranges::bandValue);
     next.balance = clamped(stored(m_store, keys::balance), ranges::balanceFader, keys::balance.name);
     next.fader = clamped(stored(m_store, keys::fader), ranges::balanceFader, keys::fader.name);
-    next.channelLevel = storedRow<SoundState::channels>(m_store, keys::channelLevel, ranges::channelLevel);
-    next.sourceGain = storedRow<SoundState::sources>(m_store, keys::sourceGain, ranges::sourceGain, neutralSourceGain);
+    next.channelLevel = storedGains<SoundState::channels>(m_store, keys::channelLevel, ranges::channelLevel);
+    next.sourceGain =
+        storedGains<SoundState::sources>(m_store, keys::sourceGain, ranges::sourceGain, neutralSourceGain);
     next.loudness = storedFlag(m_store, keys::loudness);
     next.defeat = restoredDefeat();
     if (storedFlag(m_store, keys::subwooferOn)) {
-        next.subwooferLevel =
-            clamped(stored(m_store, keys::subwooferLevel), ranges::subwooferLevel, keys::subwooferLevel.name);
+        next.subwooferLevel = storedGain(stored(m_store, keys::subwooferLevel), ranges::subwooferLevel,
+                                         keys::subwooferLevel.defaultValue, keys::subwooferLevel.name);
     }
     const int phase = stored(m_store, keys::subwooferPhase);
     next.subwooferPhase = exists(phase, ranges::flag.high + 1, keys::subwooferPhase.name) ? phase : 0;

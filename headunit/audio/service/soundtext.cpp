@@ -23,6 +23,21 @@ template <typename Table> QString frequencyText(int index, const Table &table) {
     return index == 0 ? QStringLiteral("off") : QStringLiteral("%1 Hz").arg(table[static_cast<size_t>(index)]);
 }
 
+struct PromptRow {
+    const char *name;
+    const char *spoken;
+    const char *effect;
+};
+
+/// By Prompt
+constexpr std::array<PromptRow, SoundState::prompts> prompts = {
+    {{"ringtone", "ringtone", "what plays falls silent"},
+     {"phone", "phone", "what plays falls silent"},
+     {"navigation", "navigation", "what plays steps back by 12 dB"},
+     {"voice", "voice", "what plays steps back by 12 dB"},
+     {"announcement", "announcement", "in place of what plays"},
+     {"beep", "key beep", "beside what plays"}}};
+
 QString sideText(int value, const char *negative, const char *positive) {
     if (value == 0) {
         return QStringLiteral("centre");
@@ -33,6 +48,16 @@ QString sideText(int value, const char *negative, const char *positive) {
 }
 
 }  // namespace
+
+QString promptName(Prompt prompt) {
+    return QString::fromLatin1(prompts[static_cast<size_t>(prompt)].name);
+}
+
+QString promptText(Prompt prompt, bool active) {
+    const PromptRow &row = prompts[static_cast<size_t>(prompt)];
+    return active ? QStringLiteral("%1 begins, %2").arg(QLatin1String(row.spoken), QLatin1String(row.effect))
+                  : QStringLiteral("%1 ends").arg(QLatin1String(row.spoken));
+}
 
 QString eqTypeText(int type) {
     switch (type) {

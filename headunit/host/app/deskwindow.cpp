@@ -20,6 +20,9 @@ int hardKeyOf(int key) {
         case Qt::Key_Minus:
         case Qt::Key_VolumeDown:
             return KeyEvent::VolumeDown;
+        case Qt::Key_M:
+        case Qt::Key_VolumeMute:
+            return KeyEvent::Mute;
         case Qt::Key_Escape:
         case Qt::Key_Back:
             return KeyEvent::Back;

@@ -1,3 +1,4 @@
+#include "headunit/audio/service/soundmodel.h"
 #include "headunit/host/app/deskscripttarget.h"
 #include "headunit/host/app/deskwindow.h"
 #include "headunit/host/app/hostapplication.h"
@@ -163,6 +164,7 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
     QObject::connect(&application, &HostApplication::touched, &unit, &Unit::touch);
     QObject::connect(window.hardKeys(), &HardKeys::keyPressed, &unit, &Unit::pressHardKey);
     QObject::connect(window.hardKeys(), &HardKeys::keyReleased, &unit, &Unit::releaseHardKey);
+    limitMainVolume();
     if (options.language.isEmpty()) {
         unit.restoreLanguage();
     } else if (!unit.setLanguage(options.language)) {
@@ -184,6 +186,9 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
                 sound.reset(startSound(options.play, options.meters, &silentBecause));
                 if (!silentBecause.isEmpty()) {
                     std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
+                }
+                if (!sound) {
+                    SoundModel::instance().setFault(SoundFault::NoLibrary);
                 }
             });
         }

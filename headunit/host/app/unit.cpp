@@ -1,6 +1,7 @@
 #include "headunit/host/app/unit.h"
 
 #include "audioservice.h"
+#include "headunit/audio/service/soundmodel.h"
 #include "headunit/audio/service/soundtables.h"
 #include "headunit/host/app/plugincatalog.h"
 #include "headunit/host/app/stage.h"
@@ -38,6 +39,8 @@ constexpr int phoneChannel = 2;
 Unit::Unit(PluginCatalog &catalog, QWidget *screen, StatusBar::Clock clock)
     : m_catalog(catalog), m_screen(screen), m_clock(std::move(clock)), m_stage(new Stage(screen, this)) {
     setStatusBarObserver([this](bool) { updateStatusBar(); });
+    connect(&SoundModel::instance(), &SoundModel::changed, this, &Unit::showSound);
+    connect(&SoundModel::instance(), &SoundModel::faultChanged, this, &Unit::showSound);
 }
 
 Unit::~Unit() {
@@ -185,6 +188,10 @@ void Unit::pressHardKey(int key) {
         case KeyEvent::VolumeDown:
             stepVolume(-1);
             break;
+        case KeyEvent::Mute:
+            setMuted(!SoundModel::instance().state().muted);
+            showLevel(mainChannel);
+            break;
         case KeyEvent::Home:
             showHome();
             break;
@@ -225,15 +232,26 @@ void Unit::touch(int code) {
 }
 
 void Unit::stepVolume(int by) {
-    const texts::Channel &channel = texts::channels[m_callActive ? phoneChannel : mainChannel];
+    const int number = m_callActive ? phoneChannel : mainChannel;
+    const texts::Channel &channel = texts::channels[number];
     qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
     const int level =
         qBound(ranges::channelLevel.low, audio->getSourceVolByType(channel.type) + by, ranges::channelLevel.high);
     audio->setVolumeLevel(level, channel.type);
+    if (!m_callActive) {
+        setMuted(false);  // who turns the volume wants to hear it
+    }
+    showLevel(number);
+}
+
+void Unit::showLevel(int number) {
+    const texts::Channel &channel = texts::channels[number];
     if (!m_levelOverlay) {
         m_levelOverlay = new LevelOverlay(m_screen);
     }
-    m_levelOverlay->showLevel(channel.textId, level);
+    const bool muted = number == mainChannel && SoundModel::instance().state().muted;
+    m_levelOverlay->showLevel(channel.textId, qvaudio::AudioService::instance()->getSourceVolByType(channel.type),
+                              muted);
 }
 
 void Unit::shutDown() {

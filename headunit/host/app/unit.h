@@ -1,5 +1,6 @@
 #pragma once
 
+#include "headunit/audio/service/soundstate.h"
 #include "headunit/host/screens/statusbar.h"
 
 #include <QObject>
@@ -46,6 +47,9 @@ public:
     bool setLanguage(const QString &code);
     /// Changes the language and keeps the choice for the next start.
     void chooseLanguage(const QString &code);
+    /// Begins or ends a prompt.
+    void togglePrompt(Prompt prompt);
+    void setMuted(bool muted);
     /// Takes the language that was chosen last.
     void restoreLanguage();
 
@@ -63,12 +67,14 @@ private:
     void leaveApplication();
     void closeBandAdjust();
     void stepVolume(int by);
+    void showLevel(int number);  ///< index into texts::channels
     void setCallActive(bool active);
     HomeScreen *homeScreen();
     CarScreen *carScreen();
     CallScreen *callScreen();
     StatusBar *statusBar();
     void updateStatusBar();
+    void showSound();
 
     PluginCatalog &m_catalog;
     QWidget *const m_screen;

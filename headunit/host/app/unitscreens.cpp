@@ -22,15 +22,58 @@ namespace {
 // The language last chosen, as a number in the order of Language::all().
 const QLatin1String languageKey("UnitLanguage");
 
+int faultText(SoundFault fault) {
+    switch (fault) {
+        case SoundFault::NothingToPlay:
+            return texts::nothingToPlay;
+        case SoundFault::NoLibrary:
+            return texts::noSoundLibrary;
+        case SoundFault::NoServer:
+            return texts::noSoundServer;
+        case SoundFault::NoDevice:
+            return texts::noSoundDevice;
+        case SoundFault::None:
+            break;
+    }
+    return 0;
+}
+
 }  // namespace
 
 void Unit::setCallActive(bool active) {
     m_callActive = active;
+    SoundModel::instance().setPromptActive(Prompt::Phone, active);
     if (m_car) {
         m_car->setCallActive(active);
     }
     if (m_statusBar) {
         m_statusBar->setCallActive(active);
+    }
+}
+
+void Unit::togglePrompt(Prompt prompt) {
+    SoundModel &model = SoundModel::instance();
+    model.setPromptActive(prompt, !model.state().activePrompts[static_cast<size_t>(prompt)]);
+}
+
+void Unit::setMuted(bool muted) {
+    if (muted != SoundModel::instance().state().muted) {
+        SoundModel::instance().setMuted(muted);
+    }
+}
+
+/// What the host's screens say about the sound.
+void Unit::showSound() {
+    const SoundModel &model = SoundModel::instance();
+    const bool faulty = model.fault() != SoundFault::None;
+    if (m_car) {
+        m_car->setActivePrompts(model.state().activePrompts);
+    }
+    if (m_statusBar) {
+        m_statusBar->setSilent(faulty || model.state().muted);
+    }
+    if (m_home) {
+        m_home->setSilence(faulty ? faultText(model.fault()) : model.state().muted ? texts::muted : 0, faulty);
     }
 }
 
@@ -87,6 +130,7 @@ HomeScreen *Unit::homeScreen() {
         connect(m_home, &HomeScreen::applicationChosen, this, [this](const QString &id) { openApplication(id, Home); });
         connect(m_home, &HomeScreen::bandAdjustChosen, this, &Unit::showBandAdjust);
         connect(m_home, &HomeScreen::carChosen, this, &Unit::showCar);
+        showSound();
     }
     return m_home;
 }
@@ -100,6 +144,8 @@ CarScreen *Unit::carScreen() {
         connect(m_car, &CarScreen::volumeSettingsRequested, this, &Unit::requestVolumeSettings);
         connect(m_car, &CarScreen::sourceChosen, this, &Unit::setSource);
         connect(m_car, &CarScreen::languageChosen, this, &Unit::chooseLanguage);
+        connect(m_car, &CarScreen::promptToggled, this, &Unit::togglePrompt);
+        showSound();
         connect(m_car, &CarScreen::callToggled, this, [this] { m_callActive ? endCall() : startCall(); });
     }
     return m_car;
@@ -118,6 +164,7 @@ StatusBar *Unit::statusBar() {
         m_statusBar = new StatusBar(m_clock, m_screen);
         m_statusBar->setSourceTextId(texts::sources[m_source]);
         m_statusBar->setCallActive(m_callActive);
+        showSound();
     }
     return m_statusBar;
 }

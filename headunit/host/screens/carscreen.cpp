@@ -2,6 +2,7 @@
 
 #include "audioservice.h"
 #include "headunit/audio/service/soundtables.h"
+#include "headunit/audio/service/soundtext.h"
 #include "headunit/host/screens/key.h"
 #include "headunit/host/screens/look.h"
 #include "headunit/host/screens/texts.h"
@@ -19,9 +20,9 @@ namespace {
 
 constexpr int sourceCount = std::size(texts::sources);
 constexpr int channelCount = std::size(texts::channels);
-enum Row { SourceRow, ChannelRow, LevelRow, LanguageRow, ActionRow };
-constexpr int firstRowTop = 88;
-constexpr int rowHeight = look::keySize + look::gap + 8;
+enum Row { SourceRow, ChannelRow, LevelRow, LanguageRow, PromptRow, ActionRow };
+constexpr int firstRowTop = 64;
+constexpr int rowHeight = look::keySize + 8;
 constexpr int captionWidth = 216;
 constexpr int contentLeft = look::margin + captionWidth;
 constexpr int contentWidth = look::screenWidth - look::margin - contentLeft;
@@ -47,6 +48,7 @@ CarScreen::CarScreen(QWidget *parent) : QWidget(parent) {
     addStepper(ChannelRow, {"car_channel_prev", "prev"}, {"car_channel_next", "next"}, &CarScreen::stepChannel);
     addStepper(LevelRow, {"car_level_minus", "minus"}, {"car_level_plus", "plus"}, &CarScreen::stepLevel);
     addLanguages();
+    addPrompts();
     addActions();
     // The level shown is the service's, whoever changes it.
     connect(qvaudio::AudioService::instance(), &qvaudio::AudioService::audioVolumeChanged, this, [this] { update(); });
@@ -76,6 +78,18 @@ void CarScreen::addLanguages() {
     }
 }
 
+void CarScreen::addPrompts() {
+    for (int i = 0; i < SoundState::prompts; ++i) {
+        const Prompt prompt = static_cast<Prompt>(i);
+        Key *key = new Key(QStringLiteral("car_prompt_") + promptName(prompt),
+                           cell(PromptRow, look::margin, SoundState::prompts, i), this);
+        key->setTextId(texts::prompts[i]);
+        key->setCheckable(true);
+        connect(key, &Key::clicked, this, [this, prompt] { Q_EMIT promptToggled(prompt); });
+        m_promptKeys[static_cast<size_t>(i)] = key;
+    }
+}
+
 void CarScreen::addActions() {
     Key *request = new Key(QStringLiteral("car_request"), cell(ActionRow, look::margin, 2, 0), this);
     request->setTextId(texts::volumeSettings);
@@ -98,6 +112,12 @@ void CarScreen::setLanguage(const QString &code) {
 
 void CarScreen::setCallActive(bool active) {
     m_callKey->setTextId(active ? texts::endCall : texts::startCall);
+}
+
+void CarScreen::setActivePrompts(const std::array<bool, SoundState::prompts> &active) {
+    for (size_t i = 0; i < active.size(); ++i) {
+        m_promptKeys[i]->setChecked(active[i]);
+    }
 }
 
 void CarScreen::stepSource(int by) {

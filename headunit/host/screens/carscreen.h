@@ -1,5 +1,7 @@
 #pragma once
 
+#include "headunit/audio/service/soundstate.h"
+
 #include <QVector>
 #include <QWidget>
 
@@ -17,12 +19,14 @@ public:
     void setSource(int source);
     void setLanguage(const QString &code);
     void setCallActive(bool active);
+    void setActivePrompts(const std::array<bool, SoundState::prompts> &active);
 
 Q_SIGNALS:
     void volumeSettingsRequested();
     void sourceChosen(int source);
     void languageChosen(const QString &code);
     void callToggled();
+    void promptToggled(headunit::Prompt prompt);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -36,14 +40,16 @@ private:
     };
     void addStepper(int row, const StepKey &down, const StepKey &up, void (CarScreen::*step)(int));
     void addLanguages();
+    void addPrompts();
     void addActions();
     void stepSource(int by);
     void stepChannel(int by);
     void stepLevel(int by);
 
     int m_source = 0;
-    int m_channel = 0;              ///< index into texts::channels
-    QVector<Key *> m_languageKeys;  ///< in the order of Language::all()
+    int m_channel = 0;                                      ///< index into texts::channels
+    QVector<Key *> m_languageKeys;                          ///< in the order of Language::all()
+    std::array<Key *, SoundState::prompts> m_promptKeys{};  ///< by Prompt
     Key *m_callKey = nullptr;
 };
 

@@ -28,6 +28,7 @@ constexpr HardKeyRow rows[] = {
     {"hardkey_back", "back", KeyEvent::Back, false},
     {"hardkey_volume_up", "volume_up", KeyEvent::VolumeUp, true},
     {"hardkey_volume_down", "volume_down", KeyEvent::VolumeDown, true},
+    {"hardkey_mute", "mute", KeyEvent::Mute, false},
 };
 
 }  // namespace

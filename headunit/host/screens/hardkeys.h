@@ -4,7 +4,7 @@
 
 namespace headunit {
 
-/// The keys beside the screen: volume up and down, Back, Home. Codes are those of KeyEvent.
+/// The keys beside the screen: Home, Back, volume up and down, mute. Codes are those of KeyEvent.
 class HardKeys : public QWidget {
     Q_OBJECT
 public:

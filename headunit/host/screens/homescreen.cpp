@@ -4,7 +4,9 @@
 #include "headunit/host/screens/look.h"
 #include "headunit/host/screens/statusbar.h"
 #include "headunit/host/screens/texts.h"
+#include "translator.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace headunit {
@@ -57,6 +59,25 @@ void HomeScreen::addTiles(const QStringList &applications) {
     connect(car, &Key::clicked, this, &HomeScreen::carChosen);
 }
 
+void HomeScreen::setSilence(int textId, bool fault) {
+    if (textId != m_silenceTextId || fault != m_silenceIsFault) {
+        m_silenceTextId = textId;
+        m_silenceIsFault = fault;
+        update();
+    }
+}
+
+QString HomeScreen::silence() const {
+    return m_silenceTextId ? Translator::translate(m_silenceTextId) : QString();
+}
+
+void HomeScreen::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::LanguageChange) {
+        update();
+    }
+    QWidget::changeEvent(event);
+}
+
 void HomeScreen::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     look::paintGround(painter, rect());
@@ -64,6 +85,8 @@ void HomeScreen::paintEvent(QPaintEvent *) {
     const QStringList shown = m_failures.mid(qMax(0, m_failures.size() - failureLines));
     QRect line(look::margin, height() - footHeight - shown.size() * failureLineHeight, width() - 2 * look::margin,
                failureLineHeight);
+    painter.setPen(m_silenceIsFault ? look::warning : look::softText);
+    painter.drawText(line.translated(0, -failureLineHeight), Qt::AlignCenter, silence());
     painter.setPen(look::warning);
     for (const QString &failure : shown) {
         painter.drawText(line, Qt::AlignCenter,

@@ -5,13 +5,18 @@
 
 namespace headunit {
 
-/// The home screen: a tile for each application, for the band-adjust panel and for the rest of the car, and a line for
-/// each plug-in that could not be loaded.
+/// The home screen: a tile for each application, for the band-adjust panel and for the rest of the car, and lines for
+/// what the driver should know: why nothing is heard, and each plug-in that could not be loaded.
 class HomeScreen : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(QString silence READ silence)
 public:
     /// \a applications are ids, \a failures readable lines.
     HomeScreen(const QStringList &applications, const QStringList &failures, QWidget *parent);
+
+    /// Why nothing is heard, as a text's id, and whether that is a fault. 0: all is heard.
+    void setSilence(int textId, bool fault);
+    QString silence() const;
 
 Q_SIGNALS:
     void applicationChosen(const QString &id);
@@ -20,11 +25,14 @@ Q_SIGNALS:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void addTiles(const QStringList &applications);
 
     const QStringList m_failures;
+    int m_silenceTextId = 0;
+    bool m_silenceIsFault = false;
 };
 
 }  // namespace headunit

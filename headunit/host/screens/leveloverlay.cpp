@@ -5,6 +5,7 @@
 #include "translator.h"
 
 #include <QPainter>
+#include <QPixmap>
 
 namespace headunit {
 
@@ -28,9 +29,10 @@ LevelOverlay::LevelOverlay(QWidget *parent) : QWidget(parent) {
     connect(&m_hideTimer, &QTimer::timeout, this, &QWidget::hide);
 }
 
-void LevelOverlay::showLevel(int nameTextId, int level) {
+void LevelOverlay::showLevel(int nameTextId, int level, bool muted) {
     m_nameTextId = nameTextId;
     m_level = level;
+    m_muted = muted;
     show();
     raise();
     update();
@@ -44,7 +46,14 @@ void LevelOverlay::paintEvent(QPaintEvent *) {
     painter.setFont(look::font(look::captionPixels));
     painter.drawText(nameArea, Qt::AlignLeft | Qt::AlignVCenter, Translator::translate(m_nameTextId));
     painter.setFont(look::font(look::valuePixels));
-    painter.drawText(valueArea, Qt::AlignRight | Qt::AlignVCenter, QString::number(m_level));
+    if (m_muted) {
+        const QPixmap crossedLoudspeaker(look::picture(QStringLiteral("mute_n")));
+        const QSize size = crossedLoudspeaker.size() / crossedLoudspeaker.devicePixelRatio();
+        painter.drawPixmap(valueArea.right() + 1 - size.width(), valueArea.center().y() - size.height() / 2,
+                           crossedLoudspeaker);
+    } else {
+        painter.drawText(valueArea, Qt::AlignRight | Qt::AlignVCenter, QString::number(m_level));
+    }
 
     const qreal radius = trackArea.height() / 2.0;
     painter.setPen(Qt::NoPen);
@@ -53,7 +62,7 @@ void LevelOverlay::paintEvent(QPaintEvent *) {
     if (m_level > 0) {
         QRect filled = trackArea;
         filled.setWidth(qMax(trackArea.height(), trackArea.width() * m_level / ranges::channelLevel.high));
-        painter.setBrush(colour::accent);
+        painter.setBrush(m_muted ? look::softText : colour::accent);
         painter.drawRoundedRect(filled, radius, radius);
     }
 }

@@ -15,7 +15,8 @@ public:
     explicit LevelOverlay(QWidget *parent);
 
     /// Shows \a level (0 to 40) of the channel whose name has that text id.
-    void showLevel(int nameTextId, int level);
+    /// \a muted: the level is there, but not heard.
+    void showLevel(int nameTextId, int level, bool muted = false);
     int level() const { return m_level; }
 
 protected:
@@ -24,6 +25,7 @@ protected:
 private:
     int m_nameTextId = 0;
     int m_level = 0;
+    bool m_muted = false;
     QTimer m_hideTimer;
 };
 

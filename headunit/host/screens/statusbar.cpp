@@ -12,7 +12,7 @@
 namespace headunit {
 
 namespace {
-constexpr int callPictureSize = 32;
+constexpr int pictureSize = 32;
 constexpr int clockCheckMilliseconds = 1000;
 }  // namespace
 
@@ -34,17 +34,30 @@ void StatusBar::setCallActive(bool active) {
     update();
 }
 
+void StatusBar::setSilent(bool silent) {
+    if (silent != m_silent) {
+        m_silent = silent;
+        update();
+    }
+}
+
 void StatusBar::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     look::paintGround(painter, rect());
-    const QRect area = rect().adjusted(look::margin, 0, -look::margin, 0);
+    QRect area = rect().adjusted(look::margin, 0, -look::margin, 0);
+    const int pictureTop = (height() - pictureSize) / 2;
+    if (m_silent) {
+        const QPixmap crossedLoudspeaker(look::picture(QStringLiteral("status_silent")));
+        painter.drawPixmap(area.left(), pictureTop, crossedLoudspeaker);
+        area.setLeft(area.left() + pictureSize + look::gap);
+    }
     painter.setPen(look::softText);
     if (m_sourceTextId) {
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, Translator::translate(m_sourceTextId));
     }
     if (m_callActive) {
         const QPixmap phone(look::picture(QStringLiteral("status_call")));
-        painter.drawPixmap((width() - callPictureSize) / 2, (height() - callPictureSize) / 2, phone);
+        painter.drawPixmap((width() - pictureSize) / 2, pictureTop, phone);
     }
     painter.setPen(colour::text);
     painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, m_time);

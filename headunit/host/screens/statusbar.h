@@ -6,9 +6,11 @@
 
 namespace headunit {
 
-/// The strip on top of the host's own screens: what plays on the left, a call, the time on the right.
+/// The strip on top of the host's own screens: what plays on the left, behind a crossed loudspeaker while it cannot be
+/// heard, a call, the time on the right.
 class StatusBar : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(bool silent READ isSilent)
 public:
     static constexpr int barHeight = 48;
 
@@ -19,6 +21,8 @@ public:
 
     void setSourceTextId(int id);
     void setCallActive(bool active);
+    void setSilent(bool silent);
+    bool isSilent() const { return m_silent; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -30,6 +34,7 @@ private:
     QString m_time;
     int m_sourceTextId = 0;
     bool m_callActive = false;
+    bool m_silent = false;
 };
 
 }  // namespace headunit

@@ -24,8 +24,18 @@ struct Channel {
 /// The volume channels that have a name.
 constexpr Channel channels[] = {{0, 20011}, {1, 20012}, {2, 20013}, {3, 20014}, {4, 20015}, {6, 20016}};
 
+/// Names of the prompts, in the order of headunit::Prompt; short enough for a row of keys.
+constexpr int prompts[] = {20012, 20013, 20014, 20031, 20032, 20033};
+
 /// Names of the audio sources, in the order of their numbers.
 constexpr int sources[] = {361, 16, 1084, 14, 15, 427, 20017};
+
+// Why nothing is heard
+constexpr int muted = 20034;
+constexpr int noSoundServer = 20035;
+constexpr int noSoundDevice = 20036;
+constexpr int nothingToPlay = 20037;
+constexpr int noSoundLibrary = 20038;
 
 }  // namespace texts
 

@@ -2,6 +2,7 @@
 
 #include "audioservice.h"
 #include "headunit/audio/engine/format.h"
+#include "headunit/audio/service/soundtext.h"
 #include "headunit/host/script/scripttarget.h"
 #include "headunit/host/script/soundobject.h"
 #include "headunit/settings/unitsettings.h"
@@ -270,6 +271,22 @@ void ScriptApi::source(int number) {
 void ScriptApi::call(bool active) {
     m_target.setCallActive(active);
     m_target.wait(0);
+}
+
+void ScriptApi::mute(bool muted) {
+    SoundModel::instance().setMuted(muted);
+    m_target.wait(0);
+}
+
+void ScriptApi::prompt(const QString &name, bool active) {
+    for (int i = 0; i < SoundState::prompts; ++i) {
+        if (promptName(static_cast<Prompt>(i)) == name) {
+            SoundModel::instance().setPromptActive(static_cast<Prompt>(i), active);
+            m_target.wait(0);
+            return;
+        }
+    }
+    fail(QStringLiteral("there is no prompt \"%1\"").arg(name));
 }
 
 void ScriptApi::open(const QString &application) {

@@ -57,6 +57,9 @@ public:
     Q_INVOKABLE void volume(int type, int level);
     Q_INVOKABLE void source(int number);
     Q_INVOKABLE void call(bool active);
+    Q_INVOKABLE void mute(bool muted);
+    /// A prompt begins or ends: ringtone, phone, navigation, voice, announcement or beep.
+    Q_INVOKABLE void prompt(const QString &name, bool active);
     Q_INVOKABLE void open(const QString &application);
     Q_INVOKABLE void home();
     Q_INVOKABLE void car();

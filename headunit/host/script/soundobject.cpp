@@ -11,7 +11,7 @@ namespace headunit {
 
 namespace {
 
-template <std::size_t N> QJSValue array(QJSEngine &engine, const std::array<int, N> &values) {
+template <typename T, std::size_t N> QJSValue array(QJSEngine &engine, const std::array<T, N> &values) {
     QJSValue result = engine.newArray(N);
     for (std::size_t i = 0; i < N; ++i) {
         result.setProperty(quint32(i), values[i]);
@@ -43,6 +43,7 @@ QJSValue soundObject(QJSEngine &engine) {
     set("sourceGain", array(engine, state.sourceGain));
     set("activeSource", state.activeSource);
     set("muted", state.muted);
+    set("activePrompts", array(engine, state.activePrompts));
     set("loudness", state.loudness);
     set("defeat", state.defeat);
     set("subwooferLevel", state.subwooferLevel);

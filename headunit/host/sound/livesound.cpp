@@ -26,6 +26,7 @@ LiveSound::LiveSound(const QString &what, QString *problem) {
     std::string error;
     if (!m_player.choose(QFile::encodeName(what).toStdString(), &error)) {
         *problem = QFile::decodeName(error.c_str());
+        SoundModel::instance().setFault(SoundFault::NothingToPlay);
         m_player.choose("silence", &error);
     }
     SoundModel &model = SoundModel::instance();

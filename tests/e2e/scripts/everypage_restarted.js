@@ -14,7 +14,8 @@ function expectSound() {
     expect(s.loudness === true);
     expect(s.delay.join() === "1,2,0,0,0,1");
     expect(s.sourceGain.join() === "11,12,10,10,9,10,10");
-    expect(s.channelLevel.slice(0, 5).join() === "40,15,17,16,22");
+    // The main volume was 40: more than the factory file lets the unit start with.
+    expect(s.channelLevel.slice(0, 5).join() === "30,15,17,16,22");
     expect(s.customEq.join() === store("test/customEq"));
     ["front", "rear", "subwoofer"].forEach(function (channel) {
         expect(s[channel].freq === 2 && s[channel].slope === 2 && s[channel].level === 11, channel);
@@ -42,7 +43,7 @@ tab("key_general");
 use("key_advanced");
 expect("Key_001_loudness", "checked", true);
 use("Key_004_vol_settings");
-expect("key_main_plus", "enabled", false);
+expect("key_main_plus", "enabled", true);
 expect("key_phone_volume_plus", "enabled", true);
 use("key_return");
 use("Key_003_source_gain");

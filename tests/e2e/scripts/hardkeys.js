@@ -14,6 +14,33 @@ release();
 expect(sound().channelLevel[0] < 10);
 expect(sound().channelLevel[0] >= 0);
 
+// Mute is shown, keeps the level, and ends when the volume is turned.
+var level = sound().channelLevel[0];
+tap("hardkey_mute");
+expect(sound().muted === true);
+expect("level_overlay", "visible", true);
+expect("status_bar", "silent", true);
+expect("home", "silence", "Muted");
+expect(sound().channelLevel[0] === level);
+tap("hardkey_mute");
+expect(sound().muted === false);
+expect("status_bar", "silent", false);
+expect("home", "silence", "");
+tap("hardkey_mute");
+tap("hardkey_volume_up");
+expect(sound().muted === false);
+expect(sound().channelLevel[0] === level + 1);
+// In an application that hides the status bar the key says it itself.
+open("audiosetting");
+wait(3000);
+tap("hardkey_mute");
+expect(sound().muted === true);
+expect("level_overlay", "visible", true);
+home();
+expect("status_bar", "silent", true);
+mute(false);
+expect("status_bar", "silent", false);
+
 // An application answers Back itself: the hard key does nothing. Home goes home.
 open("audiosetting");
 wait(200);

@@ -62,6 +62,8 @@ void TestDeskWindow::keyboard_data() {
     QTest::newRow("volume up") << int(Qt::Key_VolumeUp) << int(KeyEvent::VolumeUp);
     QTest::newRow("minus") << int(Qt::Key_Minus) << int(KeyEvent::VolumeDown);
     QTest::newRow("volume down") << int(Qt::Key_VolumeDown) << int(KeyEvent::VolumeDown);
+    QTest::newRow("m") << int(Qt::Key_M) << int(KeyEvent::Mute);
+    QTest::newRow("mute") << int(Qt::Key_VolumeMute) << int(KeyEvent::Mute);
     QTest::newRow("escape") << int(Qt::Key_Escape) << int(KeyEvent::Back);
     QTest::newRow("home") << int(Qt::Key_Home) << int(KeyEvent::Home);
     QTest::newRow("another") << int(Qt::Key_A) << 0;
@@ -88,6 +90,7 @@ void TestDeskWindow::hardKeys_data() {
     QTest::newRow("back") << "hardkey_back" << int(KeyEvent::Back);
     QTest::newRow("volume up") << "hardkey_volume_up" << int(KeyEvent::VolumeUp);
     QTest::newRow("volume down") << "hardkey_volume_down" << int(KeyEvent::VolumeDown);
+    QTest::newRow("mute") << "hardkey_mute" << int(KeyEvent::Mute);
 }
 
 void TestDeskWindow::hardKeys() {
@@ -109,7 +112,8 @@ void TestDeskWindow::hardKeys() {
 }
 
 void TestDeskWindow::heldVolumeKeyRepeats() {
-    for (const char *name : {"hardkey_volume_up", "hardkey_volume_down", "hardkey_back", "hardkey_home"}) {
+    for (const char *name :
+         {"hardkey_volume_up", "hardkey_volume_down", "hardkey_back", "hardkey_home", "hardkey_mute"}) {
         QSignalSpy pressed(m_window->hardKeys(), SIGNAL(keyPressed(int)));
         QWidget *const key = m_window->findChild<QWidget *>(QString::fromLatin1(name));
         QTest::mousePress(key, Qt::LeftButton);

@@ -39,6 +39,7 @@ private Q_SLOTS:
     void scriptsImportOthers();
     void scriptsAreInstant();
     void trace();
+    void traceOfTheCar();
     void traceOfAVisit();
     void debugLines();
     void tourThatCannotKeepAPicture();
@@ -341,6 +342,20 @@ void TestHeadunit::trace() {
     QVERIFY2(calls.at(2).startsWith("setVolumeLevel(7, 2) -> "), qPrintable(calls.at(2)));
     QVERIFY(calls.at(0).size() > int(qstrlen("setVolumeLevel(21, 0) -> ")));
     QCOMPARE(run({"--script", script}).out, QStringLiteral("between\n"));
+}
+
+void TestHeadunit::traceOfTheCar() {
+    const QString script = write("s.js",
+                                 "prompt('navigation', true); prompt('navigation', false); mute(true);"
+                                 "call(true); call(false); car(); tap('car_prompt_announcement');");
+    const QStringList lines = run({"--trace", "--script", script}).out.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(lines.filter(QRegularExpression("^(prompt|mute)")),
+             QStringList({"prompt(\"navigation\", true) -> navigation begins, what plays steps back by 12 dB",
+                          "prompt(\"navigation\", false) -> navigation ends",
+                          "mute(true) -> what plays falls silent, prompts do not",
+                          "prompt(\"phone\", true) -> phone begins, what plays falls silent",
+                          "prompt(\"phone\", false) -> phone ends",
+                          "prompt(\"announcement\", true) -> announcement begins, in place of what plays"}));
 }
 
 void TestHeadunit::traceOfAVisit() {

@@ -21,6 +21,10 @@
 #include <QTest>
 #include <QWidget>
 
+using headunit::Prompt;
+using headunit::SoundFault;
+using headunit::SoundModel;
+using headunit::SoundState;
 using headunit::Unit;
 
 namespace {
@@ -52,6 +56,11 @@ private Q_SLOTS:
     void volumeKeys();
     void volumeKeysDuringACall();
     void levelOverlayGoesByItself();
+    void muteKey();
+    void volumeKeysEndTheMute();
+    void promptsFromTheCar();
+    void aCallIsAPrompt();
+    void silenceIsShown();
     void applicationUsesAKey();
     void backKey();
     void homeKey();
@@ -324,6 +333,105 @@ void TestUnit::volumeKeysDuringACall() {
     press(KeyEvent::VolumeUp);
     QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(0), 17);
     QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(2), 17);
+}
+
+void TestUnit::muteKey() {
+    const SoundModel &model = SoundModel::instance();
+    QVERIFY(!child("status_bar")->property("silent").toBool());
+    QCOMPARE(child("home")->property("silence").toString(), QString());
+    press(KeyEvent::Mute);
+    QVERIFY(model.state().muted);
+    QCOMPARE(qvaudio::AudioService::instance()->getSourceVolByType(0), 16);
+    QVERIFY(shows("level_overlay"));
+    QVERIFY(child("status_bar")->property("silent").toBool());
+    QCOMPARE(child("home")->property("silence").toString(), QString("Muted"));
+    press(KeyEvent::Mute);
+    QVERIFY(!model.state().muted);
+    QVERIFY(!child("status_bar")->property("silent").toBool());
+    QCOMPARE(child("home")->property("silence").toString(), QString());
+}
+
+void TestUnit::volumeKeysEndTheMute() {
+    const SoundModel &model = SoundModel::instance();
+    for (const int key : {KeyEvent::VolumeUp, KeyEvent::VolumeDown}) {
+        press(KeyEvent::Mute);
+        press(key);
+        QVERIFY(!model.state().muted);
+    }
+    // During a call they are the phone's.
+    press(KeyEvent::Mute);
+    m_unit->startCall();
+    press(KeyEvent::VolumeUp);
+    QVERIFY(model.state().muted);
+    m_unit->endCall();
+    press(KeyEvent::Mute);
+    QVERIFY(!model.state().muted);
+}
+
+void TestUnit::promptsFromTheCar() {
+    SoundModel &model = SoundModel::instance();
+    m_unit->showCar();
+    const char *const keys[] = {"car_prompt_ringtone", "car_prompt_phone",        "car_prompt_navigation",
+                                "car_prompt_voice",    "car_prompt_announcement", "car_prompt_beep"};
+    for (size_t prompt = 0; prompt < std::size(keys); ++prompt) {
+        QWidget *const key = child(keys[prompt]);
+        QVERIFY(key);
+        QVERIFY(!key->property("checked").toBool());
+        std::array<bool, SoundState::prompts> expected{};
+        expected[prompt] = true;
+        QTest::mouseClick(key, Qt::LeftButton);
+        QVERIFY(model.state().activePrompts == expected);
+        QVERIFY(key->property("checked").toBool());
+        QTest::mouseClick(key, Qt::LeftButton);
+        QVERIFY((model.state().activePrompts == std::array<bool, SoundState::prompts>{}));
+        QVERIFY(!key->property("checked").toBool());
+        // Whoever begins and ends it
+        model.setPromptActive(static_cast<Prompt>(prompt), true);
+        QVERIFY(key->property("checked").toBool());
+        model.setPromptActive(static_cast<Prompt>(prompt), false);
+        QVERIFY(!key->property("checked").toBool());
+    }
+}
+
+void TestUnit::aCallIsAPrompt() {
+    const auto &active = SoundModel::instance().state().activePrompts;
+    m_unit->startCall();
+    QVERIFY((active == std::array<bool, SoundState::prompts>{false, true}));
+    m_unit->showCar();
+    QVERIFY(child("car_prompt_phone")->property("checked").toBool());
+    m_unit->endCall();
+    QVERIFY((active == std::array<bool, SoundState::prompts>{}));
+    QVERIFY(!child("car_prompt_phone")->property("checked").toBool());
+}
+
+void TestUnit::silenceIsShown() {
+    SoundModel &model = SoundModel::instance();
+    const std::pair<SoundFault, const char *> faults[] = {
+        {SoundFault::NothingToPlay, "No sound: the file cannot be played"},
+        {SoundFault::NoLibrary, "No sound: the sound library is missing"},
+        {SoundFault::NoServer, "No sound: no sound server answers"},
+        {SoundFault::NoDevice, "No sound: there is no sound device"}};
+    for (const auto &[fault, line] : faults) {
+        model.setFault(fault);
+        QVERIFY(child("status_bar")->property("silent").toBool());
+        QCOMPARE(child("home")->property("silence").toString(), QString(line));
+        // A fault says more than that it is muted as well.
+        model.setMuted(true);
+        QCOMPARE(child("home")->property("silence").toString(), QString(line));
+        model.setFault(SoundFault::None);
+        QCOMPARE(child("home")->property("silence").toString(), QString("Muted"));
+        model.setMuted(false);
+        QVERIFY(!child("status_bar")->property("silent").toBool());
+        QCOMPARE(child("home")->property("silence").toString(), QString());
+    }
+    // What is made later knows, too.
+    model.setFault(SoundFault::NoDevice);
+    Unit other(*m_catalog, m_screen.data(), [] { return QString(); });
+    other.showHome();
+    const QList<QWidget *> homes = m_screen->findChildren<QWidget *>("home");
+    QCOMPARE(homes.size(), 2);
+    QVERIFY(!homes.last()->property("silence").toString().isEmpty());
+    model.setFault(SoundFault::None);
 }
 
 void TestUnit::levelOverlayGoesByItself() {

@@ -85,7 +85,8 @@ void tst_FactoryFile::shipped() {
     installFactoryFile(path);
     const FactoryState state = readFactoryFile(path);
     QCOMPARE(state.problem, QString());
-    QCOMPARE(state.values.size(), 13);
+    QCOMPARE(state.values.size(), 14);
+    QVERIFY(sameValue(state.values.value("powerup/mainlimit"), 30));
     for (int band = 0; band < 13; ++band) {
         QVERIFY(sameValue(state.values.value(QString("eq%1").arg(band)), 12));
     }

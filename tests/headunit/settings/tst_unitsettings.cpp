@@ -23,6 +23,8 @@ private Q_SLOTS:
     void factoryFileIsNotPutBack();
     void damagedStoreStartsFromTheFactory();
     void rootThatCannotBe();
+    void mainVolumeIsLimitedAtPowerUp_data();
+    void mainVolumeIsLimitedAtPowerUp();
     void soundFollowsTheOpening();
     void sharedSettings();
     void announcement();
@@ -127,6 +129,47 @@ void tst_UnitSettings::rootThatCannotBe() {
     QVERIFY(!flushSettings());
     QCOMPARE(audioStore().intValue("a", 0), 1);
     QVERIFY(log.takeWarnings().join('\n').contains(file.fileName()));
+}
+
+void tst_UnitSettings::mainVolumeIsLimitedAtPowerUp_data() {
+    QTest::addColumn<QByteArray>("factory");
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QVariant>("expected");
+    const QByteArray limit = "powerup/mainlimit=25\n";
+    QTest::newRow("louder") << limit << QVariant(26) << QVariant(25);
+    QTest::newRow("loudest") << limit << QVariant(40) << QVariant(25);
+    QTest::newRow("at the limit") << limit << QVariant(25) << QVariant(25);
+    QTest::newRow("quieter") << limit << QVariant(3) << QVariant(3);
+    QTest::newRow("never set") << limit << QVariant() << QVariant();
+    QTest::newRow("no volume") << limit << QVariant(41) << QVariant(41);  // whose readers take their default
+    QTest::newRow("default above the limit") << QByteArray("powerup/mainlimit=9\n") << QVariant() << QVariant(9);
+    QTest::newRow("limit of nothing") << QByteArray("powerup/mainlimit=0\n") << QVariant(12) << QVariant(0);
+    QTest::newRow("limit that is none") << QByteArray("powerup/mainlimit=-1\n") << QVariant(40) << QVariant(40);
+    QTest::newRow("limit in words") << QByteArray("powerup/mainlimit=low\n") << QVariant(40) << QVariant(40);
+    QTest::newRow("no limit") << QByteArray("a=1\n") << QVariant(40) << QVariant(40);
+}
+
+void tst_UnitSettings::mainVolumeIsLimitedAtPowerUp() {
+    QFETCH(QByteArray, factory);
+    QFETCH(QVariant, stored);
+    QFETCH(QVariant, expected);
+    QVERIFY(QDir().mkpath(inRoot("factory")));
+    QFile file(inRoot("factory/audiosettings.ini"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(factory) == factory.size());
+    file.close();
+    openSettings();
+    audioStore().set("inputgain0", stored);
+    audioStore().set("inputgain1", 40);
+    QVERIFY(saved());
+    closeSettings();
+    openSettings();
+    QCOMPARE(audioStore().values().value("inputgain0"), stored);  // a look into the settings changes nothing
+    int told = 0;
+    setSoundListener([&told](SoundPart) { ++told; });
+    limitMainVolume();
+    QCOMPARE(audioStore().values().value("inputgain0"), expected);
+    QCOMPARE(told, stored == expected ? 0 : 1);
+    QCOMPARE(audioStore().intValue("inputgain1", 0), 40);
 }
 
 void tst_UnitSettings::soundFollowsTheOpening() {

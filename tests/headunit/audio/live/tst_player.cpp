@@ -32,6 +32,7 @@ private Q_SLOTS:
     void everySourceIsHeard_data();
     void everySourceIsHeard();
     void chimesFollowTheirLevel();
+    void promptsSoundAsLongAsTheyAreActive();
     void loudspeakersTakeTurns();
     void metersLoseNothing();
     void unknownSource();
@@ -83,6 +84,29 @@ void TestPlayer::chimesFollowTheirLevel() {
         heard(player);
         player.chime(static_cast<Input>(input));
         QVERIFY(std::abs(heard(player) / loud - fromDecibels(-6)) < 0.001);
+    }
+}
+
+void TestPlayer::promptsSoundAsLongAsTheyAreActive() {
+    for (size_t prompt = 0; prompt < SoundState::prompts; ++prompt) {
+        Player player;
+        QVERIFY(player.choose("silence", &m_error));
+        SoundState state = rendering::neutral();
+        player.setState(state);
+        QCOMPARE(heard(player), 0.0F);
+        state.activePrompts[prompt] = true;
+        player.setState(state);
+        for (int round = 0; round < 5; ++round) {
+            // Within any two seconds
+            const float loud = std::max({heard(player), heard(player), heard(player), heard(player)});
+            QVERIFY(loud > 0.05F);
+        }
+        state.activePrompts[prompt] = false;
+        player.setState(state);
+        for (int half = 0; half < 5; ++half) {
+            heard(player);  // rings out
+        }
+        QCOMPARE(heard(player), 0.0F);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "headunit/audio/service/soundmodel.h"
 
+#include "headunit/settings/linelimit.h"
 #include "tests/headunit/settings/logwatch.h"
 
 #include <QtTest>
@@ -18,20 +19,38 @@ Q_DECLARE_METATYPE(Expected)
 class tst_SoundModel : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void init();
+    void cleanup();
     void emptyStore();
     void setters_data();
     void setters();
     void keepsWhatNoPageWrites();
     void readsOfNothing();
     void levelsAreAnnounced();
+    void aListenerMayAnswerALevelWithALevel();
+    void listenersThatNeverAgreeAreLeftAlone();
+    void promptsComeAndGo();
+    void faults();
     void restoresEveryKey();
     void restoresParts();
     void storedNonsense_data();
     void storedNonsense();
     void aStoredValueOutOfRangeIsReportedAsItStands();
+    void storedLevelsOutOfRangeAreNeverLoud();
     void anyValueStaysInRange();
+    void noCallOutOfRangeIsLouder();
+    void refusedValuesAreOneLineASecond();
     void beeps();
 };
+
+/// Each line comes a second after the one before.
+void tst_SoundModel::init() {
+    setLineClock([time = qint64(0)]() mutable { return time += 1000; });
+}
+
+void tst_SoundModel::cleanup() {
+    setLineClock({});
+}
 
 void tst_SoundModel::emptyStore() {
     SettingsStore store;
@@ -66,7 +85,7 @@ void tst_SoundModel::setters_data() {
     row(
         "band in gains", 0, [](M m) { m.setCustomEq(0, -12); }, [](S s) { s.customEq[0] = -12; });
     row(
-        "band too high", 1, [](M m) { m.setCustomEq(0, 25); }, [](S s) { s.customEq[0] = 24; });
+        "band too high", 1, [](M m) { m.setCustomEq(0, 25); }, [](S) {});
     row(
         "band too low", 1, [](M m) { m.setCustomEq(0, near); }, [](S s) { s.customEq[0] = -12; });
     row(
@@ -81,9 +100,9 @@ void tst_SoundModel::setters_data() {
     row(
         "level", 0, [](M m) { m.setChannelLevel(7, 40); }, [](S s) { s.channelLevel[7] = 40; });
     row(
-        "level too high", 1, [](M m) { m.setChannelLevel(0, 41); }, [](S s) { s.channelLevel[0] = 40; });
+        "level too high", 1, [](M m) { m.setChannelLevel(0, 41); }, [](S) {});
     row(
-        "level too low", 1, [](M m) { m.setChannelLevel(0, -1); }, [](S s) { s.channelLevel[0] = 0; });
+        "level too low", 1, [](M m) { m.setChannelLevel(0, -1); }, [](S) {});
     row(
         "channel 8", 1, [](M m) { m.setChannelLevel(8, 5); }, [](S) {});
     row(
@@ -93,7 +112,7 @@ void tst_SoundModel::setters_data() {
     row(
         "gain without its offset", 1, [](M m) { m.setSourceGain(0, -10); }, [](S s) { s.sourceGain[0] = 0; });
     row(
-        "gain too high", 1, [](M m) { m.setSourceGain(0, far); }, [](S s) { s.sourceGain[0] = 20; });
+        "gain too high", 1, [](M m) { m.setSourceGain(0, far); }, [](S) {});
     row(
         "source 7", 1, [](M m) { m.setSourceGain(7, 5); }, [](S) {});
     row(
@@ -107,7 +126,7 @@ void tst_SoundModel::setters_data() {
     row(
         "subwoofer", 0, [](M m) { m.setSubwooferLevel(15); }, [](S s) { s.subwooferLevel = 15; });
     row(
-        "subwoofer too high", 1, [](M m) { m.setSubwooferLevel(16); }, [](S s) { s.subwooferLevel = 15; });
+        "subwoofer too high", 1, [](M m) { m.setSubwooferLevel(16); }, [](S) {});
     row(
         "subwoofer too low", 1, [](M m) { m.setSubwooferLevel(-1); }, [](S) {});
     row(
@@ -165,9 +184,15 @@ void tst_SoundModel::setters_data() {
         },
         [](S) {});
     row(
-        "slope 0, level 13", 2,
+        "filter level too high", 1,
         [](M m) {
             m.setFilter(FilterChannel::Front, {3, 0, 13});
+        },
+        [](S) {});
+    row(
+        "slope 0", 1,
+        [](M m) {
+            m.setFilter(FilterChannel::Front, {3, 0, 12});
         },
         [](S s) {
             s.front = {3, 1, 12};
@@ -198,6 +223,8 @@ void tst_SoundModel::setters_data() {
         "source in force 7", 1, [](M m) { m.setActiveSource(7); }, [](S) {});
     row(
         "mute", 0, [](M m) { m.setMuted(true); }, [](S s) { s.muted = true; });
+    row(
+        "prompt", 0, [](M m) { m.setPromptActive(Prompt::Voice, true); }, [](S s) { s.activePrompts[3] = true; });
 }
 
 void tst_SoundModel::setters() {
@@ -225,12 +252,14 @@ void tst_SoundModel::keepsWhatNoPageWrites() {
     SettingsStore store;
     SoundModel model(store);
     model.setCustomEq(3, -12);
-    model.setCustomEq(4, 30);
+    model.setCustomEq(4, 24);
+    model.setCustomEq(4, 30);  // void
     model.setChannelLevel(5, 12);
     model.setChannelLevel(0, 16);  // what it is already: kept all the same
     model.setEqType(16);
     model.setCustomEq(13, 1);
     model.setChannelLevel(8, 1);
+    model.setChannelLevel(5, 41);
     QCOMPARE(
         store.values(),
         (SettingsMap{{"eq3", -12}, {"eq4", 24}, {"inputgain5", 12}, {"inputgain0", 16}, {"audioservice/eqtype", 16}}));
@@ -244,6 +273,7 @@ void tst_SoundModel::keepsWhatNoPageWrites() {
     model.setDelays({1, 2, 3, 4, 5, 6});
     model.setSourceGain(1, 3);
     model.setMuted(true);
+    model.setPromptActive(Prompt::Phone, true);
     model.setActiveSource(2);
     QCOMPARE(store.values(), before);
 }
@@ -280,6 +310,73 @@ void tst_SoundModel::levelsAreAnnounced() {
     model.restore();
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.at(0), QVariantList({6, 2}));
+}
+
+void tst_SoundModel::aListenerMayAnswerALevelWithALevel() {
+    SettingsStore store;
+    SoundModel model(store);
+    std::vector<std::pair<int, int>> heardLater;
+    connect(&model, &SoundModel::channelLevelChanged, this, [&model](int channel, int level) {
+        if (channel == 0 && level == 20) {
+            model.setChannelLevel(0, 30);
+            model.setChannelLevel(3, 5);
+            QCOMPARE(model.channelLevel(0), 30);
+        }
+    });
+    connect(&model, &SoundModel::channelLevelChanged, this,
+            [&heardLater](int channel, int level) { heardLater.emplace_back(channel, level); });
+    model.setChannelLevel(0, 20);
+    QVERIFY((heardLater == std::vector<std::pair<int, int>>{{0, 20}, {0, 30}, {3, 5}}));
+    // A level that is taken back at once is announced as what it was before.
+    heardLater.clear();
+    connect(&model, &SoundModel::channelLevelChanged, this, [&model](int channel, int level) {
+        if (channel == 6 && level == 40) {
+            model.setChannelLevel(6, 16);
+        }
+    });
+    model.setChannelLevel(6, 40);
+    QVERIFY((heardLater == std::vector<std::pair<int, int>>{{6, 40}, {6, 16}}));
+}
+
+void tst_SoundModel::listenersThatNeverAgreeAreLeftAlone() {
+    SettingsStore store;
+    SoundModel model(store);
+    int heard = 0;
+    const auto quarrel = connect(&model, &SoundModel::channelLevelChanged, this, [&](int channel, int level) {
+        ++heard;
+        model.setChannelLevel(channel, level == 10 ? 11 : 10);
+    });
+    LogWatch log;
+    model.setChannelLevel(0, 10);
+    QCOMPARE(log.takeWarnings().size(), 1);
+    QVERIFY(heard > 1 && heard <= 1000);
+    disconnect(quarrel);
+    QSignalSpy spy(&model, SIGNAL(channelLevelChanged(int, int)));
+    model.setChannelLevel(0, 33);
+    QCOMPARE(spy, QList<QVariantList>({{0, 33}}));
+}
+
+void tst_SoundModel::promptsComeAndGo() {
+    SettingsStore store;
+    SoundModel model(store);
+    for (int i = 0; i < SoundState::prompts; ++i) {
+        model.setPromptActive(static_cast<Prompt>(i), true);
+        for (int other = 0; other < SoundState::prompts; ++other) {
+            QCOMPARE(model.state().activePrompts[size_t(other)], other == i);
+        }
+        model.setPromptActive(static_cast<Prompt>(i), false);
+    }
+}
+
+void tst_SoundModel::faults() {
+    SettingsStore store;
+    SoundModel model(store);
+    QSignalSpy spy(&model, SIGNAL(faultChanged()));
+    QVERIFY(model.fault() == SoundFault::None);
+    model.setFault(SoundFault::NoServer);
+    model.setFault(SoundFault::NoServer);
+    QCOMPARE(spy.count(), 1);
+    QVERIFY(model.fault() == SoundFault::NoServer);
 }
 
 void tst_SoundModel::restoresEveryKey() {
@@ -322,9 +419,11 @@ void tst_SoundModel::restoresEveryKey() {
     expected.subwoofer = {5, 2, 7};
     expected.activeSource = 4;
     expected.muted = true;
+    expected.activePrompts[2] = true;
     SoundModel model(store);
     model.setActiveSource(4);
     model.setMuted(true);
+    model.setPromptActive(Prompt::Navigation, true);
     store.replaceAll(values);
     QSignalSpy changed(&model, SIGNAL(changed()));
     model.restore();
@@ -424,14 +523,79 @@ void tst_SoundModel::aStoredValueOutOfRangeIsReportedAsItStands() {
     store.set("audioinputgain6", -11);
     LogWatch log;
     const SoundModel model(store);
-    QCOMPARE(log.takeDebug(), QStringList({"sound: eq3 99 is not within -12 to 24, taken as 24",
-                                           "sound: eq12 -13 is not within -12 to 24, taken as -12",
-                                           "sound: audioinputgain5 2147483647 is not within -10 to 10, taken as 10",
-                                           "sound: audioinputgain6 -11 is not within -10 to 10, taken as -10"}));
-    QCOMPARE(model.state().customEq[3], 24);
-    QCOMPARE(model.state().customEq[12], -12);
-    QCOMPARE(model.state().sourceGain[5], 20);
-    QCOMPARE(model.state().sourceGain[6], 0);
+    QCOMPARE(log.takeDebug(), QStringList({"sound: eq3 99 is not within -12 to 24, taken as 0",
+                                           "sound: eq12 -13 is not within -12 to 24, taken as 0",
+                                           "sound: audioinputgain5 2147483647 is not within -10 to 10, taken as 0",
+                                           "sound: audioinputgain6 -11 is not within -10 to 10, taken as 0"}));
+    QCOMPARE(model.state().customEq[3], 0);
+    QCOMPARE(model.state().customEq[12], 0);
+    QCOMPARE(model.state().sourceGain[5], 10);
+    QCOMPARE(model.state().sourceGain[6], 10);
+}
+
+/// Whatever a store that was damaged, or made elsewhere, says: what decides how loud it is has its readers' default.
+void tst_SoundModel::storedLevelsOutOfRangeAreNeverLoud() {
+    SettingsStore empty;
+    const SoundState expected = SoundModel(empty).state();
+    for (const int value : {-1000, 25, 41, 99999, std::numeric_limits<int>::max()}) {
+        SettingsStore store;
+        for (int number = 0; number < SoundState::bands; ++number) {
+            store.set(QString("eq%1").arg(number), value);
+            store.set(QString("audioinputgain%1").arg(number), value);
+            store.set(QString("inputgain%1").arg(number), value == 25 ? 41 : value);
+        }
+        store.set("crossover/frontlevel", value);
+        store.set("crossover/rearlevel", value);
+        store.set("crossover/subwooferlevel", value);
+        QVERIFY(SoundModel(store).state() == expected);
+        store.set("Setup_Sub", true);
+        store.set("subwooferLevel", value);
+        QCOMPARE(SoundModel(store).state().subwooferLevel, 3);
+    }
+}
+
+void tst_SoundModel::noCallOutOfRangeIsLouder() {
+    SettingsStore store;
+    SoundModel model(store);
+    model.setChannelLevel(0, 7);
+    model.setSourceGain(0, 2);
+    model.setCustomEq(5, 3);
+    model.setSubwooferLevel(1);
+    model.setFilter(FilterChannel::Rear, {2, 2, 1});
+    const SoundState before = model.state();
+    const SettingsMap kept = store.values();
+    for (const int value : {41, 1000, std::numeric_limits<int>::max()}) {
+        model.setChannelLevel(0, value);
+        model.setSourceGain(0, value);
+        model.setCustomEq(5, value);
+        model.setSubwooferLevel(value);
+        model.setFilter(FilterChannel::Rear, {2, 2, value});
+        QVERIFY(model.state() == before);
+    }
+    QCOMPARE(store.values(), kept);
+}
+
+void tst_SoundModel::refusedValuesAreOneLineASecond() {
+    qint64 time = 0;
+    setLineClock([&time] { return time; });
+    SettingsStore store;
+    SoundModel model(store);
+    LogWatch log;
+    const auto goAstray = [&] {
+        for (int i = 0; i < 1000; ++i) {
+            model.setChannelLevel(0, 100 + i);
+            model.setBalanceFader(-i - 16, 0);
+            model.setDelays({0, 0, 0, 0, 0, 100 + i});
+        }
+        return log.takeDebug();
+    };
+    QCOMPARE(goAstray(), QStringList({"sound: channel level 100 is not one of 0 to 40, ignored",
+                                      "sound: balance -16 is not within -15 to 15, taken as -15",
+                                      "sound: delay 100 is not within 0 to 99, taken as 99"}));
+    time = 999;
+    QCOMPARE(goAstray(), QStringList());
+    time = 1000;
+    QCOMPARE(goAstray().size(), 3);
 }
 
 void tst_SoundModel::anyValueStaysInRange() {

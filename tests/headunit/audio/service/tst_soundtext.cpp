@@ -34,6 +34,13 @@ void tst_SoundText::texts_data() {
     row(bandText(6, 12), "band 1000 Hz: 0 dB");
     row(bandText(6, -5), "band 1000 Hz: -12 dB");
     row(bandText(13, 0), "band 13 (does not exist)");
+    row(promptName(Prompt::Announcement), "announcement");
+    row(promptText(Prompt::Ringtone, true), "ringtone begins, what plays falls silent");
+    row(promptText(Prompt::Phone, true), "phone begins, what plays falls silent");
+    row(promptText(Prompt::Voice, true), "voice begins, what plays steps back by 12 dB");
+    row(promptText(Prompt::Announcement, true), "announcement begins, in place of what plays");
+    row(promptText(Prompt::Beep, true), "key beep begins, beside what plays");
+    row(promptText(Prompt::Beep, false), "key beep ends");
     row(balanceFaderText(3, -2), "balance 3 right, fader 2 front");
     row(balanceFaderText(-15, 15), "balance 15 left, fader 15 rear");
     row(balanceFaderText(0, 0), "balance centre, fader centre");
