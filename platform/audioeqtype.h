@@ -12,5 +12,4 @@ enum AudioEQType : int {
     AudioEQJazz = 7,
     AudioEQHipHop = 8,
     AudioEQCustom = 16,  ///< the live custom curve; 16 to 20 also name the stored curves 1 to 5
-    AudioEQCustomLast = 20,
 };

@@ -7,6 +7,8 @@
 
 /// The unit's store of audio settings: typed values under text keys, kept over restarts and power cuts.
 ///
+/// A value that was written as one type is read as the other: true is 1, false is 0, and every number but 0 is true.
+///
 /// One object per process, used from the GUI thread. Writing raises no signal: whoever changes a key on behalf
 /// of others raises mem::SettingsCache::SettingsCacheSig itself.
 class PLATFORM_API AudioSettingsUtils : public QObject {

@@ -32,9 +32,11 @@ const int textLevel = 1079;
 
 const int maxLevel = 12;
 const int levelStep = 21;  // px that a level step moves the curve
-// The subwoofer's curve grows more on the way up than it shrinks on the way down: required.
+// The subwoofer's curve grows more on the way up than it shrinks on the way down. Required: cars hold the heights that
+// this has left, and a recalled preset must lie where it lay when it was saved.
 const int levelGrowth[channelCount] = {levelStep, levelStep, 25};
-// Where a wrap of the level puts the curve; neither is a multiple of the step: required.
+// Where a wrap of the level puts the curve. Required, though neither is a multiple of the step: the places are stored
+// too.
 const int wrappedTopY = 0;
 const int wrappedBottomY = 250;
 const int wrappedHeigh = 256;

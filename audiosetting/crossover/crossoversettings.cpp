@@ -7,7 +7,8 @@ namespace {
 
 const int defaults[fieldCount] = {0, 0, 12, 1, 506};
 
-// The preset keys are irregular (an underscore in the front ones only, "REAT"): required.
+// The preset keys are irregular (an underscore in the front ones only, "REAT"). Required: cars hold their presets under
+// these names.
 const char *const presetKeys[channelCount][fieldCount] = {
     {"crossover/PRESET_FRONT_FREQ%1", "crossover/PRESET_FRONT_Y%1", "crossover/PRESET_FRONT_LEVEL%1",
      "crossover/PRESET_FRONT_SLOPE%1", "crossover/PRESET_FRONT_HEIGH%1"},

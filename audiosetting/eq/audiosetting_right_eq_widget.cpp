@@ -35,7 +35,7 @@ const QRect captionRect(-4, 330, 44, 22);
 const QRect stepKeyRect(-2, 0, 40, 40);
 const int downKeyY = 260;
 
-// The irregular last steps are required.
+// The irregular last steps are required: the knob ends at the track, and the lowest touch zone is that much longer.
 const int centerPoints[] = {0,  5,  11, 16, 22, 28,  33,  39,  44,  50,  56,  61, 67,
                             72, 78, 83, 89, 95, 100, 106, 111, 117, 123, 128, 137};
 const int borderPoints[] = {5,  11, 16, 22, 28,  33,  39,  44,  50,  56,  61,  67, 72,
@@ -52,7 +52,7 @@ qvaudio::AudioService *audio() {
 }  // namespace
 
 Audiosetting_right_eq_widget::Audiosetting_right_eq_widget(QWidget *parent)
-    : QWidget(parent), m_ui(new Ui::Audiosetting_right_eq_widget), m_settings(AudioSettingsUtils::instance()) {
+    : QWidget(parent), m_ui(new Ui::Audiosetting_right_eq_widget) {
     m_ui->setupUi(this);
     initUi();
     initEqTypeLongPressed();
@@ -211,7 +211,8 @@ void Audiosetting_right_eq_widget::onEqTypeChanged(int type) {
 void Audiosetting_right_eq_widget::onSaveCustomEqValue() {
     audio()->setEQType(audio()->getCurrEQType(), true);
     for (int band = 0; band < eqBandCount; ++band) {
-        // Levels go out where the service expects its own values, which count the other way: required.
+        // Levels go out where the service expects its own values, which count the other way. Required: whoever invokes
+        // this slot counts on it.
         audio()->setCustomEq(m_levels.at(band), band, true);
     }
 }
@@ -224,7 +225,7 @@ void Audiosetting_right_eq_widget::onUpdateCustomEqData() {
 
 void Audiosetting_right_eq_widget::onResetEqValue() {
     audio()->setEQType(AudioEQFlat, true);
-    // The last three bands keep their levels: required.
+    // The last three bands keep their levels. Required: the command covers ten bands, here as on the panel.
     for (int band = 0; band < resetBandCount; ++band) {
         setEqBarValue(band, eq::flatLevel);
     }
@@ -290,7 +291,8 @@ void Audiosetting_right_eq_widget::updateCustomEqValue(int band, int level) {
         AUDIO_LOG << "custom_eq_type_id:" << slot;
         return;
     }
-    // The live custom curve is always type 16, whichever slot was last used: required.
+    // Always type 16, whichever slot was last used. Required: the service has one live custom curve, and Factory EQ and
+    // the panel know it by this number.
     if (audio()->getCurrEQType() != AudioEQCustom) {
         audio()->setEQType(AudioEQCustom, true);
     }

@@ -6,7 +6,6 @@
 #include <QTimer>
 #include <QWidget>
 
-class AudioSettingsUtils;
 class QButtonGroup;
 class QLabel;
 struct tagAudioEQItem_T;
@@ -108,7 +107,6 @@ private:
     QList<QLabel *> m_emptyIcons;  ///< by slot, shown while it is empty
     QList<QLabel *> m_captions;    ///< by slot, shown while it is stored
     QButtonGroup *m_slotGroup = nullptr;
-    AudioSettingsUtils *m_settings;
     QList<int> m_levels;  ///< by band
     int m_dragSection = 0;
     int m_dragValue = 0;

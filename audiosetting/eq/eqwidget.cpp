@@ -253,7 +253,8 @@ void EQWidget::afterStep() {
     updateEqVal();
 }
 
-// Stepping passes through every number, also those without a curve of their own: required.
+// Stepping passes through every number, also those without a curve of their own. Required: a unit's service may have
+// curves there that this panel has no name for.
 void EQWidget::prevEQType() {
     const int type = audio()->getCurrEQType();
     const bool last = type == AudioEQCustom || type == std::numeric_limits<int>::max();
@@ -288,7 +289,7 @@ void EQWidget::onUpdateCustomEqData() {
 void EQWidget::onResetEqValue() {
     audio()->doBeep(0);
     audio()->setEQType(AudioEQFlat, true);
-    // The last three bands are left as they are: required.
+    // The last three bands are left as they are. Required: the command covers the ten bands that the panel shows.
     for (int band = 0; band < resetBandCount; ++band) {
         setEqBarValue(band, eq::flatLevel);
     }

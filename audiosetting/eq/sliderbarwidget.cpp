@@ -65,14 +65,16 @@ void SliderBarWidget::setBarWidth(int width) {
 }
 
 void SliderBarWidget::setCenterPoint(const int *points, unsigned int count) {
-    // A count of more than 25, as which a negative one arrives too, stands for 24: required.
+    // A count of more than 25, as which a negative one arrives too, stands for 24. Required: owners count on it, and no
+    // count may read beyond the table.
     m_centerCount = count > maxCenterPoints ? maxCenterPoints - 1 : int(count);
     std::copy(points, points + m_centerCount, m_centerPoints);
     update();
 }
 
 void SliderBarWidget::setBorderPoint(const int *points, unsigned int count) {
-    // A table of 25 loses its last entry: required, the lowest level has no lower limit.
+    // A table of 25 loses its last entry. Required: the lowest level has no lower limit, or a touch below the last
+    // border would be level 25.
     m_borderCount = count > maxBorderPoints ? int(maxBorderPoints) : int(count);
     std::copy(points, points + m_borderCount, m_borderPoints);
 }
@@ -91,7 +93,8 @@ void SliderBarWidget::setBarLevel(int level) {
 }
 
 int SliderBarWidget::level2Point(int level) const {
-    // It is the current level that is compared with the count, not the argument: required.
+    // It is the current level that is compared with the count, not the argument. Required: a level of another scale is
+    // drawn at the top, whatever an owner asks for meanwhile.
     const bool known = m_level < m_centerCount && level >= 0 && level < maxCenterPoints;
     return m_centerPoints[known ? level : 0];
 }
@@ -102,13 +105,13 @@ int SliderBarWidget::point2Level(int y) const {
 }
 
 void SliderBarWidget::clickNext() {
-    // From 24 the next level is 1, not 0: required.
+    // From 24 the next level is 1, not 0. Required: the EQ page's keys never get there, owners that step on do.
     setBarLevel((m_level >= lastLevel ? 0 : m_level) + 1);
     emit valueChanged(m_id, m_level);
 }
 
 void SliderBarWidget::clickPrev() {
-    // From 0 the previous level is 23, not 24: required.
+    // From 0 the previous level is 23, not 24. Required like the wrap of clickNext().
     setBarLevel((m_level < 1 ? lastLevel : m_level) - 1);
     emit valueChanged(m_id, m_level);
 }
@@ -120,7 +123,7 @@ void SliderBarWidget::mousePressEvent(QMouseEvent *event) {
 
 void SliderBarWidget::mouseMoveEvent(QMouseEvent *event) {
     touch(event->pos().y());
-    // A move is announced as a press: required.
+    // A move is announced as a press. Required: the band-adjust panel follows a drag by this signal alone.
     emit press(m_id, m_level);
 }
 

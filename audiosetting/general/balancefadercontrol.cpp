@@ -21,7 +21,7 @@ const qreal disabledOpacity = 0.4;
 const int farAway = 1 << 20;  // px; keeps marker positions of absurd stored values drawable
 
 // The touch and the marker run on different scales, so away from the centre the marker lies beside the finger:
-// required.
+// required, drivers know where to touch.
 int stepsFromPixels(int distance) {
     int steps = distance / touchStep;
     if (qAbs(distance % touchStep) >= touchRoundUp) {

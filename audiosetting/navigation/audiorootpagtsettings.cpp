@@ -27,7 +27,8 @@ using namespace audiosetting;
 
 namespace {
 
-// Titles. The ids of Crossover and Factory EQ run the other way than their page ids: required.
+// Titles. The ids of Crossover and Factory EQ run the other way than their page ids. Required: they name rows of the
+// unit's text table.
 const int titleGeneral = 1065;
 const int titleEq = 1066;
 const int titleFactoryEq = 1067;
@@ -230,6 +231,8 @@ void AudioRootPagtSettings::onBackClicked() {
 
 void AudioRootPagtSettings::onSettingsCacheSig(const QString &key) {
     if (key == touchPageKey()) {
+        // Only then the mark: showing a page hides the others, which takes it away. A page that is hidden here writes
+        // this very key (Volume Settings does); that raises no signal, or this slot would enter itself.
         onShowInitWidget();
         m_reentry = true;
     }

@@ -35,7 +35,6 @@ public:
     void onShowInitWidget();
     /// Shows a page; an unknown id shows General.
     void updateCurrentPage(int id);
-    int currentPageId() const { return m_currentpageId; }
 
     // The argument of these has no meaning; callers pass false.
     void showGeneralWidget(bool);

@@ -4,7 +4,6 @@
 #include "base/buttongroup.h"
 #include "base/debuglog.h"
 #include "base/presetkey.h"
-#include "commsystemutils.h"
 #include "delayunits.h"
 #include "mcuservice.h"
 #include "pushbutton.h"
@@ -95,8 +94,6 @@ void Audiosetting_right_timing_widget::initUi() {
     connectStepKey(m_ui->key_sl_plus, this, SLOT(onSubLeftPlus()), SLOT(onSLNextPressedRepeat()));
     connectStepKey(m_ui->key_sr_minus, this, SLOT(onSubRightMinus()), SLOT(onSRPrevPressedRepeat()));
     connectStepKey(m_ui->key_sr_plus, this, SLOT(onSubRightPlus()), SLOT(onSRNextPressedRepeat()));
-
-    CommSystemUtils::instance()->sync_default_font(this, QStringLiteral("txt_"));
 }
 
 void Audiosetting_right_timing_widget::showEvent(QShowEvent *event) {

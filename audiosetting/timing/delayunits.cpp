@@ -14,7 +14,8 @@ const double stepsPerMillisecond = 24.0;
 const double centimetresPerInch = 2.54;
 const double centimetresPerMillisecond = 34.0;
 
-// Single precision is required: it decides which way some delays are rounded.
+// Single precision is required: it decides which way some delays are rounded, and a driver must see the inches that he
+// has always seen.
 float milliseconds(int delay) {
     return static_cast<float>(delay / delaysPerMillisecond);
 }

@@ -19,7 +19,8 @@ const int presetCount = 2;
 inline Setting unit() {
     return Setting(QStringLiteral("timing/type"), Milliseconds);
 }
-/// Delay of an output, 0 to 99 in 0.1 ms. The key says type and holds a delay: required.
+/// Delay of an output, 0 to 99 in 0.1 ms. The key says type and holds a delay. Required: cars hold
+/// their delays under it.
 inline Setting delay(int output) {
     return Setting(QStringLiteral("timing/DATA_TYPE%1"), output, 0);
 }

@@ -22,7 +22,7 @@ namespace {
 const int bandCount = 13;
 const int outputCount = 6;
 const int delaysEnabled = 1;
-const int resetSourceCount = 6;    // DAB, the seventh source, keeps its gain: required
+const int resetSourceCount = 6;    // required: DAB, the seventh source, keeps its gain as drivers know it
 const int channelCount = 8;        // volume channels, with those that have no row on any page
 const int defaultVolumeCount = 5;  // channels that have a "default_volume%1"
 const int resetVolume = 15;
@@ -38,7 +38,8 @@ void applyCustomCurve() {
     qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
     audio->setEQType(AudioEQCustom, true);
     for (int band = 0; band < bandCount; ++band) {
-        // Band first, value second, the other way round than the EQ pages: required.
+        // Band first, value second, the other way round than the EQ pages. Required: with the defaults every value is
+        // 12, and what a unit plays after a reset must stay what it was.
         audio->setCustomEq(band, reset::customEq(band).value(), true);
     }
 }
@@ -71,7 +72,8 @@ void applyFrontFilter() {
     mcu::McuService::instance()->setCrossoverFrontFreq(filter.frequency, filter.slope, filter.level);
 }
 
-// The reset's own way: the rear's frequency for the slope (with 0 for its default) and the rear's level. Required.
+// The reset's own way: the rear's frequency for the slope (with 0 for its default) and the rear's level. Required: what
+// a unit plays after a reset must stay what it was; the Crossover page sends its own triple when it is next shown.
 void resetFrontFilter() {
     const int frequency = reset::filterFrequency(QStringLiteral("front")).value();
     const int slope = reset::filterFrequency(QStringLiteral("rear")).value();
@@ -87,7 +89,8 @@ void applyDelays() {
     mcu::McuService::instance()->setAudioTimerDelay(delaysEnabled, delays);
 }
 
-// The stored gains without the offset that the Source Gain page adds: required.
+// The stored gains without the offset that the Source Gain page adds. Required: what a unit plays after a reset must
+// stay what it was; a slider sends the gain with the offset when it is next moved.
 void applySourceGains() {
     for (int source = 0; source < resetSourceCount; ++source) {
         mcu::McuService::instance()->setAudioInputGainValue(source, sourcegain::gain(source).value());
@@ -194,7 +197,8 @@ void Audiosettingsreset::onAcceptClicked() {
     emit mem::SettingsCache::instance()->SettingsCacheSig(general::defeat().key());
 }
 
-// Also where the driver has left the dialog meanwhile: required.
+// Also where the driver has left the dialog meanwhile. Required: the container leads to the settings root on this
+// signal.
 void Audiosettingsreset::onDelayhidePop() {
     emit acceptClicked();
 }

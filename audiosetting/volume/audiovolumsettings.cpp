@@ -19,7 +19,8 @@ namespace {
 const int minLevel = 0;
 const int maxLevel = 40;
 
-// The sixth row lies below these contents, out of a finger's reach: required.
+// The sixth row lies below these contents, out of a finger's reach. Required: drivers know this page with five
+// rows, and what changes TA elsewhere needs the slider all the same.
 QRect contentsGeometry() {
     return QRect(0, 0, 955, 885);
 }
@@ -77,8 +78,8 @@ void Audiovolumsettings::initUi() {
         row.type = form.type;
         row.plus = form.plus;
         row.minus = form.minus;
-        // Only Main's slider outlives another call, and the scroll bar comes between its making and its looks:
-        // required.
+        // Only Main's slider outlives another call, and the scroll bar comes between its making and its looks.
+        // Required: toolkits stack widgets in the order of their making.
         if (form.id != Main || !row.slider) {
             row.slider = createSlider(form.placeholder);
         }
@@ -98,12 +99,17 @@ void Audiovolumsettings::initUi() {
 }
 
 void Audiovolumsettings::showEvent(QShowEvent *event) {
+    m_seen = true;
     resume();
     QWidget::showEvent(event);
 }
 
 void Audiovolumsettings::hideEvent(QHideEvent *event) {
-    clearTouchPageRequest();
+    // Hiding a page whose window is hidden already sends this event too: a request that came meanwhile must survive it.
+    if (m_seen) {
+        clearTouchPageRequest();
+    }
+    m_seen = false;
     QWidget::hideEvent(event);
 }
 
@@ -144,7 +150,8 @@ void Audiovolumsettings::onPhoneVolSliderChanged(int, int iValue) {
 }
 
 void Audiovolumsettings::onVoiceVolSliderChanged(int, int iValue) {
-    // Compared with Navigation's level, not with its own: required.
+    // Compared with Navigation's level, not with its own. Required: services on the road do not get a level of
+    // Voice that Navigation holds already.
     changedBySlider(LOG_PLACE, Voice, m_rows[Navigation].type, iValue);
 }
 
@@ -175,11 +182,12 @@ bool Audiovolumsettings::isUpdateVolume(int type, int value) {
     return m_audioService->getSourceVolByType(type) != value;
 }
 
-// Keys: Main and Phone change the level before they beep, the others after it: required. -----------------------------
+// Keys: Main and Phone change the level before they beep, the others after it. Required: services see the order. ------
 
 void Audiovolumsettings::onMainVolumPlus() {
     int &level = m_rows[Main].level;
-    // No clamp: a level above the range stays as it is, only the disabled key stops at the range's end. Required.
+    // No clamp: a level above the range stays as it is, only the disabled key stops at the range's end. Required: a
+    // unit may store a louder level than this page reaches, which a touch must not change.
     level = level > maxLevel ? level : level + 1;
     m_audioService->doBeep(0);
     showLevel(Main);
@@ -196,7 +204,7 @@ void Audiovolumsettings::onMainVolumMinus() {
 void Audiovolumsettings::onPhoneVolumPlus() {
     m_rows[Phone].level = raised(m_rows[Phone].level);
     m_audioService->doBeep(0);
-    // The only key that stores its level: required.
+    // The only key that stores its level. Required: the others leave it to the services.
     volume::level(m_rows[Phone].type).write(m_rows[Phone].level);
     showLevel(Phone);
     sendLevel(Phone);
@@ -204,7 +212,7 @@ void Audiovolumsettings::onPhoneVolumPlus() {
 
 void Audiovolumsettings::onPhoneVolumMinus() {
     m_rows[Phone].level = lowered(m_rows[Phone].level);
-    // The slider moves before the beep: required.
+    // The slider moves before the beep. Required: services see the slider's level first.
     showLevel(Phone);
     m_audioService->doBeep(0);
     sendLevel(Phone);

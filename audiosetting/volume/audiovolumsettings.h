@@ -94,4 +94,5 @@ private:
     qvaudio::AudioService *m_audioService = nullptr;
     Row m_rows[RowCount];
     cm::ScrollBar *m_scrollBar = nullptr;
+    bool m_seen = false;  ///< shown, and not hidden since
 };

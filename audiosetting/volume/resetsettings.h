@@ -15,7 +15,8 @@ inline Setting loudness() {
 inline Setting customEq(int band) {
     return Setting(QStringLiteral("customeq1_%1"), band, 12);
 }
-/// A delay (0 to 5) in 0.1 ms.
+/// A delay (0 to 5) in 0.1 ms. Not the key that the Timing page writes (timing::delay()): this one depends on the unit,
+/// whose factory file may hold delays for its car. Where it holds none, a reset sends 0.
 inline Setting delay(int output) {
     return Setting(QStringLiteral("timing/msec%1"), output, 0);
 }

@@ -22,8 +22,9 @@ namespace {
 
 const int minGain = -10;
 const int maxGain = 10;
-const int maxRadioGain = 20;  // where Radio's plus stops, beyond the slider's end: required
-const int neutralGain = 10;   // what the microcontroller takes for a gain of 0
+const int maxRadioGain =
+    20;  // where Radio's plus stops, beyond the slider's end; required: only a stored gain leads there
+const int neutralGain = 10;  // what the microcontroller takes for a gain of 0
 
 // Safe for every value that the store may hold.
 int mcuGain(int gain) {

@@ -35,39 +35,12 @@
 <context>
     <name>AudiosettingsTop</name>
     <message>
-        <source>Audio Settings</source>
-        <translation>Ajustes de audio</translation>
-    </message>
-    <message>
         <source>Flat</source>
         <translation>Plano</translation>
-    </message>
-</context>
-<context>
-    <name>AudiosettingsRoot</name>
-    <message>
-        <source>Loudness</source>
-        <translation>Sonoridad</translation>
-    </message>
-    <message>
-        <source>Source Gain</source>
-        <translation>Ganancia de fuentes</translation>
-    </message>
-    <message>
-        <source>Volume Settings</source>
-        <translation>Ajustes de volumen</translation>
-    </message>
-    <message>
-        <source>Reset Audio Settings</source>
-        <translation>Restablecer audio</translation>
     </message>
 </context>
 <context>
     <name>Audiosetting_right_eq_widget</name>
-    <message>
-        <source>Flat</source>
-        <translation>Plano</translation>
-    </message>
     <message>
         <source>Preset1</source>
         <translation>Ajuste 1</translation>
@@ -190,91 +163,10 @@
     </message>
 </context>
 <context>
-    <name>Audiosourcegainsettings</name>
-    <message>
-        <source>Radio</source>
-        <translation>Radio</translation>
-    </message>
-    <message>
-        <source>Android Auto</source>
-        <translation>Android Auto</translation>
-    </message>
-    <message>
-        <source>Apple CarPlay</source>
-        <translation>Apple CarPlay</translation>
-    </message>
-    <message>
-        <source>SiriusXM</source>
-        <translation>SiriusXM</translation>
-    </message>
-    <message>
-        <source>Bluetooth Music</source>
-        <translation>Música Bluetooth</translation>
-    </message>
-    <message>
-        <source>USB</source>
-        <translation>USB</translation>
-    </message>
-</context>
-<context>
-    <name>Audiosourcegainsettings_b</name>
-    <message>
-        <source>Radio</source>
-        <translation>Radio</translation>
-    </message>
-    <message>
-        <source>Android Auto</source>
-        <translation>Android Auto</translation>
-    </message>
-    <message>
-        <source>Apple CarPlay</source>
-        <translation>Apple CarPlay</translation>
-    </message>
-    <message>
-        <source>DAB</source>
-        <translation>DAB</translation>
-    </message>
-    <message>
-        <source>Bluetooth Music</source>
-        <translation>Música Bluetooth</translation>
-    </message>
-    <message>
-        <source>USB</source>
-        <translation>USB</translation>
-    </message>
-</context>
-<context>
-    <name>Audiosettingsreset</name>
-    <message>
-        <source>Yes, Reset my Audio Settings</source>
-        <translation>Sí, restablecer los ajustes</translation>
-    </message>
-    <message>
-        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This will reset all of your audio settings.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Se restablecerán todos los ajustes de audio.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
-    </message>
-    <message>
-        <source>Do you want to proceed?</source>
-        <translation>¿Desea continuar?</translation>
-    </message>
-    <message>
-        <source>Reset Successful</source>
-        <translation>Ajustes restablecidos</translation>
-    </message>
-    <message>
-        <source>Alert</source>
-        <translation>Atención</translation>
-    </message>
-</context>
-<context>
     <name>eq_adjust_fragment</name>
     <message>
         <source>EQ</source>
         <translation>EQ</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Personalizado</translation>
     </message>
     <message>
         <source>32Hz</source>

@@ -35,39 +35,12 @@
 <context>
     <name>AudiosettingsTop</name>
     <message>
-        <source>Audio Settings</source>
-        <translation>オーディオ設定</translation>
-    </message>
-    <message>
         <source>Flat</source>
         <translation>フラット</translation>
-    </message>
-</context>
-<context>
-    <name>AudiosettingsRoot</name>
-    <message>
-        <source>Loudness</source>
-        <translation>ラウドネス</translation>
-    </message>
-    <message>
-        <source>Source Gain</source>
-        <translation>ソースレベル</translation>
-    </message>
-    <message>
-        <source>Volume Settings</source>
-        <translation>音量設定</translation>
-    </message>
-    <message>
-        <source>Reset Audio Settings</source>
-        <translation>オーディオ設定の初期化</translation>
     </message>
 </context>
 <context>
     <name>Audiosetting_right_eq_widget</name>
-    <message>
-        <source>Flat</source>
-        <translation>フラット</translation>
-    </message>
     <message>
         <source>Preset1</source>
         <translation>ユーザー1</translation>
@@ -190,91 +163,10 @@
     </message>
 </context>
 <context>
-    <name>Audiosourcegainsettings</name>
-    <message>
-        <source>Radio</source>
-        <translation>ラジオ</translation>
-    </message>
-    <message>
-        <source>Android Auto</source>
-        <translation>Android Auto</translation>
-    </message>
-    <message>
-        <source>Apple CarPlay</source>
-        <translation>Apple CarPlay</translation>
-    </message>
-    <message>
-        <source>SiriusXM</source>
-        <translation>SiriusXM</translation>
-    </message>
-    <message>
-        <source>Bluetooth Music</source>
-        <translation>Bluetooth ミュージック</translation>
-    </message>
-    <message>
-        <source>USB</source>
-        <translation>USB</translation>
-    </message>
-</context>
-<context>
-    <name>Audiosourcegainsettings_b</name>
-    <message>
-        <source>Radio</source>
-        <translation>ラジオ</translation>
-    </message>
-    <message>
-        <source>Android Auto</source>
-        <translation>Android Auto</translation>
-    </message>
-    <message>
-        <source>Apple CarPlay</source>
-        <translation>Apple CarPlay</translation>
-    </message>
-    <message>
-        <source>DAB</source>
-        <translation>DAB</translation>
-    </message>
-    <message>
-        <source>Bluetooth Music</source>
-        <translation>Bluetooth ミュージック</translation>
-    </message>
-    <message>
-        <source>USB</source>
-        <translation>USB</translation>
-    </message>
-</context>
-<context>
-    <name>Audiosettingsreset</name>
-    <message>
-        <source>Yes, Reset my Audio Settings</source>
-        <translation>はい、設定を初期化する</translation>
-    </message>
-    <message>
-        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This will reset all of your audio settings.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;すべてのオーディオ設定を初期化します。&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
-    </message>
-    <message>
-        <source>Do you want to proceed?</source>
-        <translation>続行しますか？</translation>
-    </message>
-    <message>
-        <source>Reset Successful</source>
-        <translation>初期化しました</translation>
-    </message>
-    <message>
-        <source>Alert</source>
-        <translation>確認</translation>
-    </message>
-</context>
-<context>
     <name>eq_adjust_fragment</name>
     <message>
         <source>EQ</source>
         <translation>EQ</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>カスタム</translation>
     </message>
     <message>
         <source>32Hz</source>

@@ -13,6 +13,13 @@ int intValue(const QHash<QString, QVariant> &values, const QString &key, int def
     return ok ? value : defaultValue;
 }
 
+bool boolValue(const QHash<QString, QVariant> &values, const QString &key, bool defaultValue) {
+    const QVariant value = values.value(key);
+    bool ok = false;
+    const int number = value.toInt(&ok);
+    return value.userType() == QMetaType::Bool ? value.toBool() : ok ? number != 0 : defaultValue;
+}
+
 /// Forgets the keys asked for, so that they read as their defaults.
 template <typename Forget> void forget(Forget wanted) {
     QHash<QString, QVariant> &values = recording::storedValues();
@@ -56,7 +63,7 @@ int AudioSettingsUtils::getValue(const QString &key, int defaultValue) {
 
 bool AudioSettingsUtils::getValue(const QString &key, bool defaultValue) {
     call(recording::Reads, "getValue", key, defaultValue);
-    return recording::storedValues().value(key, defaultValue).toBool();
+    return boolValue(recording::storedValues(), key, defaultValue);
 }
 
 void AudioSettingsUtils::setValue(const QString &key, const QVariant &defaultValue, const QVariant &value, bool save) {

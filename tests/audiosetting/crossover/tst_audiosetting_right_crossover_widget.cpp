@@ -3,6 +3,8 @@
 
 #include "platform/audiosettingsutils.h"
 
+#include <QTranslator>
+
 using namespace crossovertest;
 
 class tst_CrossoverWidget : public PageTest {
@@ -147,6 +149,43 @@ private slots:
         screen.tap("key_freq_plus");
         QCoreApplication::sendEvent(&screen.page, &change);
         QCOMPARE(screen.shown(), QStringLiteral("6 db, 25 Hz, 0"));
+    }
+
+    void theFormsOwnCaptionIsTranslatedToo() {
+        Screen screen;
+        show(&screen.page);
+        QCOMPARE(screen.text("txt_slope_2"), QStringLiteral("Presets"));
+        struct Other : QTranslator {
+            bool isEmpty() const override { return false; }
+            QString translate(const char *context, const char *text, const char *, int) const override {
+                const bool ofTheForm = qstrcmp(context, "Audiosetting_right_crossover_widget") == 0;
+                return ofTheForm ? QStringLiteral("<%1>").arg(QLatin1String(text)) : QString();
+            }
+        } other;
+        QVERIFY(QCoreApplication::installTranslator(&other));
+        advance(0);
+        QCOMPARE(screen.text("txt_slope_2"), QStringLiteral("<Presets>"));
+        // The unit's own texts stay, and so do the values.
+        QCOMPARE(screen.text("txt_front1"), QStringLiteral("#1076"));
+        QCOMPARE(screen.shown(), QStringLiteral("6 db, #1074, 0"));
+        QCoreApplication::removeTranslator(&other);
+    }
+
+    void captionsFollowALanguageThatChangedMeanwhile() {
+        Screen screen;
+        show(&screen.page);
+        screen.page.hide();
+        recording::state().texts = {{1076, "Vorne"},    {1077, "Steil"}, {1078, "Frequenz"},
+                                    {231, "Tieftöner"}, {262, "Hinten"}, {1079, "Pegel"}};
+        screen.page.show();
+        const struct {
+            const char *label;
+            const char *text;
+        } captions[] = {{"txt_front1", "Vorne"},  {"txt_slope", "Steil"}, {"txt_freq", "Frequenz"},
+                        {"txt_sub", "Tieftöner"}, {"txt_rear", "Hinten"}, {"txt_level", "Pegel"}};
+        for (const auto &caption : captions) {
+            QCOMPARE(screen.text(caption.label), QString::fromUtf8(caption.text));
+        }
     }
 
     void flatReloads() {

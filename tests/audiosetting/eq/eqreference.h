@@ -2,7 +2,9 @@
 
 #include "eq/sliderbarwidget.h"
 
+#include <QImage>
 #include <QList>
+#include <QPixmap>
 #include <QWidget>
 
 #include <algorithm>
@@ -80,6 +82,29 @@ inline QList<int> everywhere(int level) {
     QList<int> list;
     std::fill_n(std::back_inserter(list), bands, level);
     return list;
+}
+
+/// What a widget paints by itself.
+inline QImage picture(QWidget &widget) {
+    QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    widget.render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+    return image;
+}
+
+/// A slider set up by the tables above, to compare a page's with.
+inline QImage sliderPicture(const QString &knobFile, const int (&centers)[25], const QSize &size,
+                            const QList<int> &texts, int level) {
+    QImage knob = QPixmap(knobFile).toImage();
+    QImage *image = &knob;
+    cm::SliderBarWidget slider(nullptr);
+    slider.resize(size);
+    slider.setImage(image);
+    slider.setBarWidth(16);
+    slider.setCenterPoint(centers, 25);
+    slider.addFreqLevel(texts);
+    slider.setBarLevel(level);
+    return picture(slider);
 }
 
 }  // namespace reference

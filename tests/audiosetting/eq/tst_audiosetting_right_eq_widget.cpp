@@ -92,6 +92,24 @@ private slots:
         }
     }
 
+    void slidersLookAsPrescribed() {
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        const QString knob = QStringLiteral(":/corvina_icon/audiosetting_slider_point.png");
+        QVERIFY(!QPixmap(knob).isNull());
+        QList<int> numbers;
+        for (int gain = 12; gain >= -12; --gain) {
+            numbers << gain;
+        }
+        for (cm::SliderBarWidget *slider : reference::sliders(page)) {
+            for (int level : {0, 1, 12, 23, 24}) {
+                slider->setBarLevel(level);
+                QCOMPARE(reference::picture(*slider),
+                         reference::sliderPicture(knob, reference::pageCenters, QSize(36, 164), numbers, level));
+            }
+        }
+    }
+
     void presetsAreShown_data() {
         QTest::addColumn<int>("number");
         QTest::addColumn<QList<int>>("levels");

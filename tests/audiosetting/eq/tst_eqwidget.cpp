@@ -119,6 +119,21 @@ private slots:
         QCOMPARE(sliders[0]->point2Level(346), 24);
     }
 
+    void slidersLookAsPrescribed() {
+        EQWidget panel;
+        show(&panel);
+        const QString knob = QStringLiteral(":/halverv2_icon/setup_bg_sliding_point.png");
+        QVERIFY(!QPixmap(knob).isNull());
+        for (cm::SliderBarWidget *slider : reference::sliders(panel)) {
+            for (int level : {0, 1, 12, 23, 24}) {
+                slider->setBarLevel(level);
+                // A bar of 16 px, the panel's own knob, and no number on it.
+                QCOMPARE(reference::picture(*slider),
+                         reference::sliderPicture(knob, reference::panelCenters, QSize(60, 371), {}, level));
+            }
+        }
+    }
+
     void captionsNameTenBands() {
         EQWidget panel;
         show(&panel);

@@ -335,6 +335,27 @@ private slots:
         }
     }
 
+    void coloursAreExact() {
+        Slider slider;
+        show(&slider);
+        for (int level : {0, 12, 23}) {
+            slider.setBarLevel(level);
+            QCOMPARE(picture(slider).pixelColor(18, 155), QColor(11, 183, 237, 255));
+        }
+        // A number of many pixels: its darkest one is all ink.
+        slider.addFreqLevel({88});
+        slider.setBarLevel(0);
+        QColor darkest = Qt::white;
+        const QImage image = picture(slider);
+        for (int y = 4; y < 23; ++y) {
+            for (int x = 4; x < 32; ++x) {
+                const QColor colour = image.pixelColor(x, y);
+                darkest = colour.lightness() < darkest.lightness() ? colour : darkest;
+            }
+        }
+        QCOMPARE(darkest, QColor(17, 17, 17));
+    }
+
     void theScreenFollowsTheKnob() {
         // What is on the screen after partial repaints equals a picture painted at once.
         QWidget screen;

@@ -12,7 +12,9 @@
 
 namespace {
 
-/// A line of a form's table: name, class, geometry ("*": ours to choose) and properties.
+/// A line of a form's table: name, class, geometry ("*": ours to choose, or set by the page) and properties. Among them
+/// are all pictures that the widget names in the form, "state/on:picture"; "shows:" is what it shows where it names
+/// none.
 struct Row {
     QString name;
     QString type;
@@ -55,7 +57,56 @@ struct Form {
     QString formClass;
     QStringList names;  ///< of the widgets, the form's own first
     QStringList pictures;
+    QHash<QString, QStringList> named;  ///< the pictures that each widget names, as its row has them
 };
+
+/// A picture as the tables name it.
+QString shortName(const QString &file) {
+    static const QRegularExpression own(QStringLiteral("^:/corvina_icon/(\\w+)\\.png$"));
+    const auto match = own.match(file);
+    return match.hasMatch() ? match.captured(1) : file;
+}
+
+/// Reads a property with the pictures that it names: states of an icon, a pixmap, a style sheet, a label button's.
+QStringList readPictures(QXmlStreamReader &xml) {
+    static const QRegularExpression state(QStringLiteral("^(normal|disabled|active|selected)(on|off)$"));
+    static const QRegularExpression url(QStringLiteral("url\\((.*?)\\)"));
+    const QString property = xml.attributes().value(QLatin1String("name")).toString();
+    QStringList list;
+    while (xml.readNextStartElement()) {
+        const QString element = xml.name().toString();
+        if (element == QLatin1String("iconset")) {
+            while (!xml.isEndElement() || xml.name() != QLatin1String("iconset")) {
+                const auto match = state.match(xml.name().toString());
+                if (xml.isStartElement() && match.hasMatch()) {
+                    list << QStringLiteral("%1/%2:%3")
+                                .arg(match.captured(1), match.captured(2), shortName(xml.readElementText().trimmed()));
+                }
+                xml.readNext();
+            }
+        } else if (element == QLatin1String("pixmap")) {
+            list << QStringLiteral("pixmap:") + shortName(xml.readElementText().trimmed());
+        } else if (element == QLatin1String("string")) {
+            const QString text = xml.readElementText();
+            const auto match = url.match(text);
+            if (match.hasMatch()) {
+                list << QStringLiteral("style:") + shortName(match.captured(1));
+            }
+        } else if (element == QLatin1String("url") && xml.readNextStartElement()) {
+            list << property + QLatin1Char(':') + xml.readElementText().trimmed();
+            xml.skipCurrentElement();
+        } else {
+            xml.skipCurrentElement();
+        }
+    }
+    return list;
+}
+
+bool isPicture(const QString &property) {
+    static const QRegularExpression picture(
+        QStringLiteral("^((normal|disabled|active|selected)/(on|off)|pixmap|style|bgPath\\w+):"));
+    return picture.match(property).hasMatch();
+}
 
 Form readForm(const QString &form) {
     Form result;
@@ -65,10 +116,14 @@ Form readForm(const QString &form) {
     }
     const QByteArray bytes = file.readAll();
     QXmlStreamReader xml(bytes);
+    QString widget;
     while (!xml.atEnd()) {
         xml.readNext();
         if (xml.isStartElement() && xml.name() == QLatin1String("widget")) {
-            result.names << xml.attributes().value(QLatin1String("name")).toString();
+            widget = xml.attributes().value(QLatin1String("name")).toString();
+            result.names << widget;
+        } else if (xml.isStartElement() && xml.name() == QLatin1String("property")) {
+            result.named[widget] << readPictures(xml);
         } else if (xml.isStartElement() && xml.name() == QLatin1String("class") && result.formClass.isEmpty()) {
             result.formClass = xml.readElementText();
         }
@@ -130,8 +185,13 @@ QString wrongProperty(const QWidget *widget, const QString &property) {
         right = button && button->isCheckable();
     } else if (key == QLatin1String("ltr")) {
         right = widget->layoutDirection() == Qt::LeftToRight && widget->testAttribute(Qt::WA_SetLayoutDirection);
+    } else if (key == QLatin1String("shows")) {
+        right =
+            button && showsPicture(button, value.section(QLatin1Char(':'), 0, 0), value.section(QLatin1Char(':'), 1));
     } else if (key.contains(QLatin1Char('/'))) {
         right = button && showsPicture(button, key, value);
+    } else if (isPicture(property)) {
+        right = true;  // compared with the form itself
     }
     return right ? QString() : property;
 }
@@ -167,15 +227,7 @@ private slots:
         }
     }
 
-    void tableNamesEveryWidget_data() {
-        QTest::addColumn<QString>("form");
-        const QStringList tables = QDir(QStringLiteral(TABLES)).entryList({"*.txt"}, QDir::Files);
-        for (const QString &table : tables) {
-            if (table != QLatin1String("CMakeLists.txt")) {
-                QTest::newRow(qPrintable(table)) << table.chopped(4);
-            }
-        }
-    }
+    void tableNamesEveryWidget_data() { addForms(); }
     void tableNamesEveryWidget() {
         QFETCH(QString, form);
         QStringList inTable;
@@ -187,6 +239,31 @@ private slots:
         inTable.sort();
         inFile.sort();
         QCOMPARE(inFile, inTable);
+    }
+
+    void everyWidgetNamesThePicturesOfItsRow_data() { addForms(); }
+    void everyWidgetNamesThePicturesOfItsRow() {
+        QFETCH(QString, form);
+        const Form file = readForm(form);
+        const Table table = tableOf(form);
+        QVERIFY2(!table.rows.isEmpty(), "no table for this form");
+        QStringList wrong;
+        for (const Row &row : table.rows) {
+            QStringList expected;
+            for (const QString &property : row.properties) {
+                if (isPicture(property)) {
+                    expected << property;
+                }
+            }
+            QStringList named = file.named.value(row.name);
+            expected.sort();
+            named.sort();
+            if (named != expected) {
+                wrong << QStringLiteral("%1 names %2, not %3")
+                             .arg(row.name, named.join(QLatin1Char(' ')), expected.join(QLatin1Char(' ')));
+            }
+        }
+        QCOMPARE(wrong, QStringList());
     }
 
     void widget_data() {

@@ -66,6 +66,18 @@ class tst_GeneralWidget : public PageTest {
         }
     };
 
+    /// The pad by itself, without the page's background.
+    static QImage picture(balanceFaderControl *pad) {
+        QWidget *const parent = pad->parentWidget();
+        const QRect place = pad->geometry();
+        pad->setParent(nullptr);
+        const QImage image = pad->grab().toImage();
+        pad->setParent(parent);
+        pad->setGeometry(place);
+        pad->show();
+        return image;
+    }
+
     static QStringList sent(int balance, int fader) {
         return {QStringLiteral("setValue(\"SoundFieldFader\", 0, %1, true)").arg(fader),
                 QStringLiteral("setValue(\"SoundFieldBalance\", 0, %1, true)").arg(balance),
@@ -121,6 +133,23 @@ private slots:
         QCOMPARE(g.levelKeys(), QStringLiteral("ee"));
         QCOMPARE(g.balance(), QStringLiteral("-7,3 pad -7,3 keys eeee"));
         QCOMPARE(recording::take(), QStringList());
+    }
+
+    void theMarkerStandsWhereTheStoredPairIs() {
+        General g;
+        const auto marker = [&g](int balance, int fader) {
+            balanceFaderControl expected(nullptr, g.pad->geometry());
+            expected.setValueX(balance);
+            expected.setValueY(fader);
+            expected.updatePos();
+            return expected.grab().toImage() == picture(g.pad);
+        };
+        QVERIFY(marker(0, 0));
+        recording::setStored("SoundFieldBalance", 12);
+        recording::setStored("SoundFieldFader", 9);
+        g.showAgain();
+        QVERIFY(marker(12, -9));
+        QVERIFY(!marker(0, 0));
     }
 
     void storedPhase_data() {

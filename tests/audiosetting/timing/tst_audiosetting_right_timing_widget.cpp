@@ -47,12 +47,6 @@ private slots:
                               "getValue(\"timing/PRESET_ENABLE1\", false)"}));
     }
 
-    void hasTheUnitsFonts() {
-        recording::setLogged(recording::Toolkit);
-        const Screen screen;
-        QVERIFY(recording::take().contains("sync_default_font(Audiosetting_right_timing_widget, \"txt_\")"));
-    }
-
     void declaresItsSlots() {
         const QMetaObject &meta = Audiosetting_right_timing_widget::staticMetaObject;
         const QStringList expected{"initUi()",
@@ -196,6 +190,39 @@ private slots:
     }
 
     // Stepping --------------------------------------------------------------------------------------------------------
+
+    void aStepShowsThenSendsThenStores() {
+        storePreset(0, {{4, 0, 0, 0, 0, 0}});
+        store({{3, 0, 0, 0, 0, 0}});
+        Screen screen;
+        show(&screen.page);
+        recording::setLogged(recording::Reads);
+        recording::clear();
+        screen.tap("key_fl_plus");
+        const QStringList lines = recording::take();
+        // The preset that the new delays equal is looked for before they are sent.
+        const int compared = lines.indexOf(QStringLiteral("getValue(\"timing/PRESETS0_DATA0\", 0)"));
+        QCOMPARE(lines.first(), QStringLiteral("doBeep(0)"));
+        QVERIFY(compared > 0);
+        QVERIFY(lines.indexOf(send({{4, 0, 0, 0, 0, 0}})) > compared);
+        QCOMPARE(lines.mid(lines.size() - 2), QStringList({send({{4, 0, 0, 0, 0, 0}}), write(0, 4)}));
+        QCOMPARE(screen.presets(), QStringLiteral("1-"));
+    }
+
+    void aRecallStoresThenSendsAndComparesNothing() {
+        storePreset(1, {{4, 5, 6, 7, 8, 9}});
+        Screen screen;
+        show(&screen.page);
+        recording::setLogged(recording::Reads);
+        recording::clear();
+        screen.tap("key_preset_2");
+        QStringList expected{"getValue(\"timing/PRESET_ENABLE1\", false)", "doBeep(0)"};
+        for (int output = 0; output < outputs; ++output) {
+            expected << QStringLiteral("getValue(\"timing/PRESETS1_DATA%1\", 0)").arg(output)
+                     << write(output, 4 + output);
+        }
+        QCOMPARE(recording::take(), expected << send({{4, 5, 6, 7, 8, 9}}));
+    }
 
     void keyStepsItsOutput_data() { outputRows(); }
     void keyStepsItsOutput() {

@@ -339,7 +339,10 @@ class tst_CrossoverTimingWalk : public PageTest {
                    model.delays[i]);
             number(QStringLiteral("sent delay %1").arg(i), service.delays[i], model.delaysSent[i]);
         }
-        number("page", root->currentPageId(), model.page);
+        const char *const tabs[] = {"key_general", "key_eq", "key_crossover", "key_timing", "key_factoryeq"};
+        for (int page = 0; page < 5; ++page) {
+            number(QStringLiteral("tab %1").arg(page), key(tabs[page])->isChecked(), page == model.page);
+        }
         number("timing tab enabled", key("key_timing")->isEnabled(), !model.defeat);
 
         if (model.page == crossoverPage) {

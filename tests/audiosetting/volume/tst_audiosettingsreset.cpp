@@ -153,6 +153,10 @@ class tst_Audiosettingsreset : public PageTest {
     static QStringList done() { return {QStringLiteral("txt_reset_success")}; }
 
     /// The container with the dialog open, by touch.
+    static bool isShown(const AudioRootPagtSettings &root, const char *page) {
+        return root.findChild<QWidget *>(QLatin1String(page))->isVisible();
+    }
+
     static void openDialog(AudioRootPagtSettings &root) {
         show(&root);
         finger::tap(root.findChild<QWidget *>(QStringLiteral("key_advanced")));
@@ -495,7 +499,7 @@ private slots:
             QCOMPARE(root.childAt(back->mapTo(&root, corner)), back);
         }
         finger::tap(back, QPoint(69, 69));
-        QCOMPARE(root.currentPageId(), 0);
+        QVERIFY(isShown(root, "Audiosetting_right_general_widget"));
         QVERIFY(!root.findChild<Audiosettingsreset *>()->isVisible());
         QCOMPARE(recording::take(), QStringList{beep});
     }
@@ -546,7 +550,6 @@ private slots:
         Audiosettingsreset *const page = root.findChild<Audiosettingsreset *>();
         finger::tap(key(*page, "Key_Reject"));
         QVERIFY(!page->isVisible());
-        QCOMPARE(root.currentPageId(), 7);
         CHILD(QWidget, entry, &root, "Key_005_res_audio");
         QVERIFY(entry->isVisible());
 
@@ -557,7 +560,6 @@ private slots:
         advance(1);
         QVERIFY(!page->isVisible());
         QVERIFY(entry->isVisible());
-        QCOMPARE(root.currentPageId(), 7);
     }
 
     /// The end of a reset leads to the settings root from wherever the driver has gone meanwhile.
@@ -566,11 +568,11 @@ private slots:
         openDialog(root);
         finger::tap(root.findChild<QWidget *>(QStringLiteral("Key_accept")));
         finger::tap(root.findChild<QWidget *>(QStringLiteral("key_return")));
-        QCOMPARE(root.currentPageId(), 0);
+        QVERIFY(isShown(root, "Audiosetting_right_general_widget"));
         advance(2499);
-        QCOMPARE(root.currentPageId(), 0);
+        QVERIFY(isShown(root, "Audiosetting_right_general_widget"));
         advance(1);
-        QCOMPARE(root.currentPageId(), 7);
+        QVERIFY(isShown(root, "AudiosettingsRoot"));
         QVERIFY(!root.findChild<Audiosettingsreset *>()->isVisible());
     }
 

@@ -19,7 +19,6 @@ private slots:
         QCOMPARE(page->parentWidget(), &root);
         QCOMPARE(page->geometry(), QRect(0, 130, 1024, 470));
         QVERIFY(page->isVisible());
-        QCOMPARE(root.currentPageId(), 6);
         QCOMPARE(root.findChildren<QWidget *>(QStringLiteral("radioslider")).size(), 1);
 
         // Made once.

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFontMetrics>
+#include <QSet>
 #include <QTextDocument>
 #include <QTranslator>
 #include <QXmlStreamReader>
@@ -224,6 +225,47 @@ private slots:
         }
         faults.removeAll(QString());
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join('\n')));
+    }
+
+    void nothingIsTranslatedThatNoFormShows_data() {
+        QTest::addColumn<QString>("file");
+        for (const QString &file : QDir(TRANSLATIONS_DIR).entryList({"forms_*.ts"})) {
+            QTest::newRow(qPrintable(file)) << file;
+        }
+    }
+
+    void nothingIsTranslatedThatNoFormShows() {
+        QFETCH(QString, file);
+        QSet<QString> shown;
+        for (const FormText &text : allFormTexts()) {
+            if (text.translated) {
+                shown << text.form + '/' + text.text;
+            }
+        }
+        QFile table(TRANSLATIONS_DIR "/" + file);
+        QVERIFY(table.open(QFile::ReadOnly));
+        QXmlStreamReader xml(&table);
+        QString form;
+        int messages = 0;
+        QStringList unshown;
+        while (!xml.atEnd()) {
+            xml.readNext();
+            if (!xml.isStartElement()) {
+                continue;
+            }
+            if (xml.name() == QLatin1String("name")) {
+                form = xml.readElementText();
+            } else if (xml.name() == QLatin1String("source")) {
+                const QString text = form + '/' + xml.readElementText();
+                ++messages;
+                if (!shown.contains(text)) {
+                    unshown << text;
+                }
+            }
+        }
+        QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
+        QVERIFY(messages > 0);
+        QCOMPARE(unshown, QStringList());
     }
 
     void formsAreTranslatedAndFit_data() { addLanguages(); }

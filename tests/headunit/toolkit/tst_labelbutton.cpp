@@ -101,9 +101,11 @@ private slots:
     }
 
     void unknownStateIsIgnored() {
-        const auto unknown = static_cast<cm::LabelButton::IconStateID>(7);
-        button->setIcon(unknown, QUrl("qrc:/test/red.xpm"));
-        QCOMPARE(button->icon(unknown), QUrl());
+        for (int number : {4, 5, 7, 1000, -1}) {  // 4 is the first one behind the table
+            const auto unknown = static_cast<cm::LabelButton::IconStateID>(number);
+            button->setIcon(unknown, QUrl("qrc:/test/red.xpm"));
+            QCOMPARE(button->icon(unknown), QUrl());
+        }
     }
 
     void pressThatLeavesIsNoClick() {

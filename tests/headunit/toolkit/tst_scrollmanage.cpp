@@ -208,6 +208,18 @@ private slots:
         QVERIFY(atRest());
     }
 
+    void momentumMovesOncePerTick() {
+        flick(QPoint(20, 400), QPoint(0, -20), 8);
+        advance(tick);
+        for (int i = 0; i < 10; ++i) {
+            const int before = position();
+            advance(tick - 1);
+            QCOMPARE(position(), before);
+            advance(1);
+            QVERIFY(position() > before);
+        }
+    }
+
     void softEnd_data() {
         QTest::addColumn<int>("from");
         QTest::addColumn<int>("step");

@@ -1,4 +1,5 @@
 #include "headunit/audio/engine/limiter.h"
+#include "headunit/audio/engine/limitergain.h"
 
 #include "headunit/audio/engine/filterdesign.h"
 
@@ -54,6 +55,7 @@ private Q_SLOTS:
     void gainComesBackExactly();
     void reportsItsGain();
     void holdsThroughLowTones();
+    void holdsNoLongerThanItMust();
 };
 
 void TestLimiter::transparentUpToFullScale() {
@@ -215,6 +217,28 @@ void TestLimiter::reportsItsGain() {
 }
 
 /// Within half a period of a bass tone the gain must not come back at all, or it bends the tone.
+/// After a single peak the gain stays at its lowest for the hold, in whole groups, and not a group longer.
+void TestLimiter::holdsNoLongerThanItMust() {
+    constexpr double lowest = 0.25;
+    constexpr size_t group = LimiterGain::groupFrames;
+    constexpr size_t expected = 1476;  // 104 groups, less the 188 frames in which the moving averages get there
+    LimiterGain limiter;
+    size_t held = 0;
+    size_t last = 0;
+    for (size_t frame = 0; frame < 5000; ++frame) {
+        if (frame % group == 0) {
+            limiter.want(frame == 10 * group ? lowest : 1);
+        }
+        if (limiter.next() == lowest) {
+            ++held;
+            QVERIFY(last == 0 || last + 1 == frame);
+            last = frame;
+        }
+    }
+    QCOMPARE(held, expected);
+    QVERIFY(held >= LimiterGain::holdFrames && held < LimiterGain::holdFrames + 4 * group);
+}
+
 void TestLimiter::holdsThroughLowTones() {
     constexpr double goal = -100;
     for (const double hz : {20.0, 30.0, 40.0, 50.0, 100.0}) {

@@ -35,6 +35,8 @@ private Q_SLOTS:
     void restoresParts();
     void storedNonsense_data();
     void storedNonsense();
+    void aStoredIndexInNoTableMeansOff_data();
+    void aStoredIndexInNoTableMeansOff();
     void aStoredValueOutOfRangeIsReportedAsItStands();
     void storedLevelsOutOfRangeAreNeverLoud();
     void anyValueStaysInRange();
@@ -513,6 +515,42 @@ void tst_SoundModel::storedNonsense() {
         QVERIFY(model.state() == SoundModel(empty).state());
     }
     QCOMPARE(log.takeWarnings(), QStringList());
+}
+
+void tst_SoundModel::aStoredIndexInNoTableMeansOff_data() {
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("index");
+    const QList<QPair<const char *, int>> tables{
+        {"subwooferphase", 2}, {"crossover/frontfreq", 12}, {"crossover/rearfreq", 6}, {"crossover/subwooferfreq", 6}};
+    for (const auto &table : tables) {
+        for (int index :
+             {table.second, table.second + 1, -1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+            QTest::addRow("%s %d", table.first, index) << QString::fromLatin1(table.first) << index;
+        }
+    }
+}
+
+/// No nearest entry is taken: a phase of 180 degrees or a filter that nobody chose would be heard.
+void tst_SoundModel::aStoredIndexInNoTableMeansOff() {
+    QFETCH(QString, key);
+    QFETCH(int, index);
+    SettingsStore store;
+    for (const char *other : {"crossover/frontfreq", "crossover/rearfreq", "crossover/subwooferfreq"}) {
+        store.set(other, 3);
+    }
+    store.set("subwooferphase", 1);
+    SoundState expected = SoundModel(store).state();
+    QCOMPARE(expected.subwooferPhase, 1);
+    QCOMPARE(expected.front.freq, 3);
+    if (key == "subwooferphase") {
+        expected.subwooferPhase = 0;
+    } else {
+        (key.contains("front") ? expected.front : key.contains("rear") ? expected.rear : expected.subwoofer).freq = 0;
+    }
+    store.set(key, index);
+    LogWatch log;
+    QVERIFY(SoundModel(store).state() == expected);
+    QCOMPARE(log.takeDebug().filter(key).size(), 1);
 }
 
 void tst_SoundModel::aStoredValueOutOfRangeIsReportedAsItStands() {
