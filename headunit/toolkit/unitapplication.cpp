@@ -2,6 +2,7 @@
 
 #include "headunit/toolkit/headunitstyle.h"
 #include "headunit/toolkit/language.h"
+#include "headunit/toolkit/unitfolder.h"
 
 #include <QApplication>
 #include <QFile>
@@ -47,8 +48,9 @@ QPalette unitPalette() {
 }  // namespace
 
 void prepareUnitApplication() {
-    if (QFile::exists(QStringLiteral(HEADUNIT_FONT_ROOT HEADUNIT_FONTS))) {
-        qputenv("FONTCONFIG_SYSROOT", HEADUNIT_FONT_ROOT);
+    const QString fontRoot = unitFolder() + QStringLiteral("/fontroot");
+    if (QFile::exists(fontRoot + QStringLiteral(HEADUNIT_FONTS))) {
+        qputenv("FONTCONFIG_SYSROOT", QFile::encodeName(fontRoot));
         qputenv("FONTCONFIG_FILE", "/fonts.conf");
     } else {
         qWarning("The unit's fonts are not in %s: texts are drawn in whatever the desk has", HEADUNIT_FONTS);

@@ -1,20 +1,19 @@
 #include "headunit/host/app/deskscripttarget.h"
 
 #include "headunit/host/app/deskwindow.h"
+#include "headunit/host/app/hostlibrary.h"
 #include "headunit/host/app/unit.h"
-#include "headunit/virtualtime/virtualtime.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
-#include <QLibrary>
 #include <QTimer>
 
 #include <cstdio>
 
 namespace headunit {
 
-DeskScriptTarget::DeskScriptTarget(DeskWindow &window, Unit &unit, VirtualTime *time)
-    : m_window(window), m_unit(unit), m_time(time) {}
+DeskScriptTarget::DeskScriptTarget(DeskWindow &window, Unit &unit, MoveTime moveTime)
+    : m_window(window), m_unit(unit), m_moveTime(moveTime) {}
 
 QWidget *DeskScriptTarget::window() {
     return &m_window;
@@ -25,8 +24,8 @@ QWidget *DeskScriptTarget::screen() {
 }
 
 void DeskScriptTarget::wait(int ms) {
-    if (m_time) {
-        m_time->advance(ms);
+    if (m_moveTime) {
+        m_moveTime(ms);
     } else if (ms > 0) {
         QEventLoop loop;
         QTimer::singleShot(ms, Qt::PreciseTimer, &loop, &QEventLoop::quit);
@@ -70,10 +69,10 @@ bool DeskScriptTarget::setLanguage(const QString &code) {
 
 int runScript(ScriptTarget &target, const QString &file, const QString &folder) {
     constexpr int exitUnusable = 2;
-    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/libheadunitscript.so"));
-    const auto entry = reinterpret_cast<ScriptEntry>(library.resolve(scriptEntryName));
+    QString problem;
+    const auto entry = reinterpret_cast<ScriptEntry>(hostFunction("script", scriptEntryName, &problem));
     if (!entry) {
-        std::fprintf(stderr, "no scripts here: %s\n", qUtf8Printable(library.errorString()));
+        std::fprintf(stderr, "no scripts here: %s\n", qUtf8Printable(problem));
         return exitUnusable;
     }
     return entry(&target, &file, &folder);

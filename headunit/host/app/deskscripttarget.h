@@ -1,18 +1,18 @@
 #pragma once
 
 #include "headunit/host/script/scripttarget.h"
+#include "headunit/virtualtime/virtualtimelibrary.h"
 
 namespace headunit {
 
 class DeskWindow;
 class Unit;
-class VirtualTime;
 
 /// The desk head unit, as scripts drive it.
 class DeskScriptTarget : public ScriptTarget {
 public:
-    /// \a time is null where time passes by itself.
-    DeskScriptTarget(DeskWindow &window, Unit &unit, VirtualTime *time);
+    /// \a moveTime is null where time passes by itself.
+    DeskScriptTarget(DeskWindow &window, Unit &unit, MoveTime moveTime);
 
     QWidget *window() override;
     QWidget *screen() override;
@@ -28,7 +28,7 @@ public:
 private:
     DeskWindow &m_window;
     Unit &m_unit;
-    VirtualTime *const m_time;
+    const MoveTime m_moveTime;
 };
 
 /// Loads the script library that stands beside the host and runs a script, or with an empty \a file the tour.

@@ -1,6 +1,7 @@
 #include "headunit/host/app/deskscripttarget.h"
 #include "headunit/host/app/deskwindow.h"
 #include "headunit/host/app/hostapplication.h"
+#include "headunit/host/app/hostlibrary.h"
 #include "headunit/host/app/options.h"
 #include "headunit/host/app/plugincatalog.h"
 #include "headunit/host/app/soundlibrary.h"
@@ -10,7 +11,8 @@
 #include "headunit/settings/unitroot.h"
 #include "headunit/settings/unitsettings.h"
 #include "headunit/toolkit/unitapplication.h"
-#include "headunit/virtualtime/virtualtime.h"
+#include "headunit/toolkit/unitfolder.h"
+#include "headunit/virtualtime/virtualtimelibrary.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -138,12 +140,11 @@ int runSoundJob(const SoundJob &job) {
     return reason.isEmpty() ? exitGood : refuse(reason);
 }
 
-int runUnit(const Options &options, HostApplication &application, VirtualTime *time) {
+int runUnit(const Options &options, HostApplication &application, MoveTime moveTime) {
     PluginCatalog catalog;
-    const QStringList files =
-        options.plugins.isEmpty()
-            ? QStringList(application.applicationDirPath() + QStringLiteral("/../lib/plugins/libaudiosetting.so"))
-            : options.plugins;
+    const QStringList files = options.plugins.isEmpty()
+                                  ? QStringList(unitFolder() + QStringLiteral("/plugins/libaudiosetting.so"))
+                                  : options.plugins;
     for (const QString &file : files) {
         catalog.load(file);
     }
@@ -156,7 +157,7 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
     }
 
     DeskWindow window;
-    const bool fixed = time != nullptr;
+    const bool fixed = moveTime != nullptr;
     Unit unit(catalog, window.screen(), [fixed] {
         return fixed ? QString::fromLatin1(fixedTime) : QTime::currentTime().toString(QStringLiteral("HH:mm"));
     });
@@ -189,7 +190,7 @@ int runUnit(const Options &options, HostApplication &application, VirtualTime *t
         }
         return application.exec();
     }
-    DeskScriptTarget target(window, unit, time);
+    DeskScriptTarget target(window, unit, moveTime);
     target.wait(0);
     return runScript(target, options.script, options.tour);
 }
@@ -223,8 +224,16 @@ int main(int argc, char **argv) {
     }
     const bool providedRuntimeFolder = provideRuntimeFolder();
     prepareUnitApplication();
-    const bool virtualTime = options.scripted() && qgetenv("QT_QPA_PLATFORM") == offscreen;
-    VirtualTime *const time = virtualTime ? new VirtualTime : nullptr;
+    MoveTime moveTime = nullptr;
+    if (options.scripted() && qgetenv("QT_QPA_PLATFORM") == offscreen) {
+        QString reason;
+        const auto start =
+            reinterpret_cast<StartVirtualTime>(hostFunction("virtualtime", startVirtualTimeName, &reason));
+        if (!start) {
+            return refuse(reason);
+        }
+        moveTime = start();
+    }
     HostApplication application(argc, argv);
     if (providedRuntimeFolder) {
         qunsetenv(runtimeFolder);  // the sound server would be looked for in it, and in no other place
@@ -245,7 +254,8 @@ int main(int argc, char **argv) {
     if (options.trace) {
         printTrace();
     }
-    const int result = options.soundJob.isEmpty() ? runUnit(options, application, time) : runSoundJob(options.soundJob);
+    const int result =
+        options.soundJob.isEmpty() ? runUnit(options, application, moveTime) : runSoundJob(options.soundJob);
     setTraceSink({});
     closeSettings();
     return result;

@@ -1,7 +1,6 @@
 #include "headunit/host/app/soundlibrary.h"
 
-#include <QCoreApplication>
-#include <QLibrary>
+#include "headunit/host/app/hostlibrary.h"
 
 namespace headunit {
 
@@ -9,12 +8,7 @@ namespace {
 
 /// A function of the library, or null and the reason.
 template <typename Entry> Entry resolve(const char *name, QString *problem) {
-    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/libheadunitsound.so"));
-    const auto entry = reinterpret_cast<Entry>(library.resolve(name));
-    if (!entry) {
-        *problem = library.errorString();
-    }
-    return entry;
+    return reinterpret_cast<Entry>(hostFunction("sound", name, problem));
 }
 
 }  // namespace

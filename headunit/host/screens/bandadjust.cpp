@@ -1,15 +1,16 @@
 #include "headunit/host/screens/bandadjust.h"
 
-#include <QCoreApplication>
-#include <QLibrary>
+#include "headunit/host/app/hostlibrary.h"
+
+#include <QtGlobal>
 
 namespace headunit {
 
 QWidget *createBandAdjust(QWidget *parent) {
-    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/libheadunitbandadjust.so"));
-    const auto entry = reinterpret_cast<BandAdjustEntry>(library.resolve(bandAdjustEntryName));
+    QString problem;
+    const auto entry = reinterpret_cast<BandAdjustEntry>(hostFunction("bandadjust", bandAdjustEntryName, &problem));
     if (!entry) {
-        qWarning("no band adjust here: %s", qUtf8Printable(library.errorString()));
+        qWarning("no band adjust here: %s", qUtf8Printable(problem));
         return nullptr;
     }
     return entry(parent);

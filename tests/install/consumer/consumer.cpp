@@ -1,0 +1,11 @@
+#include <eqwidget.h>
+#include <windowinterface.h>
+
+QWidget *panel() {
+    return new audiosetting::EQWidget(nullptr);
+}
+
+int shownWindow(WindowInterface *window) {
+    window->onShow();
+    return window->attribute();
+}
