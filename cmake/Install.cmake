@@ -66,3 +66,25 @@ install(CODE "
         set(ENV{FONTCONFIG_FILE} /fonts.conf)
         execute_process(COMMAND \${FC_CACHE} OUTPUT_QUIET ERROR_QUIET)
     endif()" COMPONENT desk)
+
+# How a desk knows the program.
+install(FILES ${CMAKE_SOURCE_DIR}/desktop/com.norvale.headunit.desktop
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT desk)
+install(FILES ${CMAKE_SOURCE_DIR}/desktop/com.norvale.headunit.metainfo.xml
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT desk)
+install(FILES ${CMAKE_SOURCE_DIR}/desktop/com.norvale.headunit.svg
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT desk)
+install(FILES ${CMAKE_SOURCE_DIR}/desktop/headunit.service DESTINATION lib/systemd/user COMPONENT desk)
+install(FILES ${CMAKE_SOURCE_DIR}/desktop/headunit.bash-completion
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME headunit COMPONENT desk)
+
+find_program(HELP2MAN help2man)
+if(HELP2MAN)
+    set(man_page ${CMAKE_BINARY_DIR}/install/headunit.1)
+    add_custom_command(OUTPUT ${man_page}
+        COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
+            ${HELP2MAN} --no-info --name "car's head unit on the desk" --output ${man_page} $<TARGET_FILE:headunit>
+        DEPENDS headunit VERBATIM)
+    add_custom_target(man_page ALL DEPENDS ${man_page})
+    install(FILES ${man_page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT desk)
+endif()
