@@ -1,8 +1,11 @@
 #include "presetkey.h"
 
+#include "pushbutton.h"
+
 #include <QAbstractButton>
 #include <QIcon>
 #include <QMouseEvent>
+#include <QPushButton>
 #include <QVariant>
 
 namespace audiosetting {
@@ -48,6 +51,12 @@ private:
 };
 
 }  // namespace
+
+void saveOnHold(QPushButton *key, QObject *page, const char *slot) {
+    cm::PushButton *hold = new cm::PushButton(key, page);
+    hold->setLongPressedInterval(presetHold);
+    QObject::connect(hold, SIGNAL(longPressed()), page, slot);
+}
 
 void showPreset(QAbstractButton *key, int preset, bool saved) {
     const QVariant shown = key->property(savedProperty);

@@ -1,10 +1,17 @@
 #pragma once
 
 class QAbstractButton;
+class QObject;
+class QPushButton;
 
 namespace audiosetting {
 
-// The two preset keys that the Crossover and the Timing page have: a hold saves, a click recalls.
+// Preset keys, as the EQ, the Crossover and the Timing page have them: a hold saves, a short press recalls.
+
+const int presetHold = 1500;  ///< ms for which a preset key is held to save
+
+/// Calls that slot of \a page when \a key has been held for presetHold.
+void saveOnHold(QPushButton *key, QObject *page, const char *slot);
 
 /// Gives the key of preset 0 or 1 its pictures: those of an empty preset, or numbered ones when it is saved. Cheap when
 /// nothing changes.

@@ -5,9 +5,9 @@
 #include "base/debuglog.h"
 #include "base/picture.h"
 #include "base/presetkey.h"
+#include "base/texts.h"
 #include "commsystemutils.h"
 #include "curvelabel.h"
-#include "pushbutton.h"
 #include "translator.h"
 #include "ui_Audiosetting_right_crossover_widget.h"
 
@@ -18,17 +18,6 @@ using namespace audiosetting;
 using namespace audiosetting::crossover;
 
 namespace {
-
-const int saveHold = 1500;  // ms; holding a preset key this long saves
-
-// Text ids.
-const int textOff = 1074;
-const int textFront = 1076;
-const int textSlope = 1077;
-const int textFrequency = 1078;
-const int textSubwoofer = 231;
-const int textRear = 262;
-const int textLevel = 1079;
 
 const int maxLevel = 12;
 const int levelStep = 21;  // px that a level step moves the curve
@@ -92,12 +81,8 @@ void Audiosetting_right_crossover_widget::initUi() {
     m_presetGroup->addButton(m_ui->key_preset_2, 1);
     connect(m_presetGroup, SIGNAL(buttonClicked(int)), this, SLOT(onPresetButtonClicked(int)));
 
-    cm::PushButton *preset1 = new cm::PushButton(m_ui->key_preset_1, this);
-    preset1->setLongPressedInterval(saveHold);
-    connect(preset1, SIGNAL(longPressed()), this, SLOT(onPreset1LongClicked()));
-    cm::PushButton *preset2 = new cm::PushButton(m_ui->key_preset_2, this);
-    preset2->setLongPressedInterval(saveHold);
-    connect(preset2, SIGNAL(longPressed()), this, SLOT(onPreset2LongClicked()));
+    saveOnHold(m_ui->key_preset_1, this, SLOT(onPreset1LongClicked()));
+    saveOnHold(m_ui->key_preset_2, this, SLOT(onPreset2LongClicked()));
     for (int preset = 0; preset < presetCount; ++preset) {
         endLongClickBesideKey(presetKey(preset));
     }
@@ -158,9 +143,9 @@ void Audiosetting_right_crossover_widget::onGeneralButtonClicked(int iIdx) {
     AUDIO_LOG << "iIdx:" << iIdx;
     if (isChannel(iIdx)) {
         m_type = iIdx;
-        showSlope(iIdx);
+        applySlope(iIdx);
         showLevel(iIdx);
-        showCurve(iIdx, m_filters.value(iIdx, Y), m_filters.value(iIdx, Heigh));
+        applyCurve(iIdx, m_filters.value(iIdx, Y), m_filters.value(iIdx, Heigh));
         type().write(iIdx);
     }
     updateCurrentPreset();
@@ -196,23 +181,23 @@ void Audiosetting_right_crossover_widget::stepSlope(int step) {
 
 void Audiosetting_right_crossover_widget::onSelectSlope() {
     if (isChannel(m_type)) {
-        showSlope(m_type);
+        applySlope(m_type);
     }
 }
 
 void Audiosetting_right_crossover_widget::onSetFrontSlopeBg() {
-    showSlope(Front);
+    applySlope(Front);
 }
 
 void Audiosetting_right_crossover_widget::onSetRearSlopeBg() {
-    showSlope(Rear);
+    applySlope(Rear);
 }
 
 void Audiosetting_right_crossover_widget::onSetSubWooferSlopeBg() {
-    showSlope(Subwoofer);
+    applySlope(Subwoofer);
 }
 
-void Audiosetting_right_crossover_widget::showSlope(int channel) {
+void Audiosetting_right_crossover_widget::applySlope(int channel) {
     const int slope = m_filters.value(channel, Slope);
     if (slope >= minSlope && slope <= maxSlope) {
         const SlopeRow &row = slopeRow(slope);
@@ -237,24 +222,24 @@ void Audiosetting_right_crossover_widget::stepFrequency(int step) {
     qvaudio::AudioService::instance()->doBeep(0);
     if (isChannel(m_type)) {
         m_filters.stepFrequency(m_type, step);
-        showCurve(m_type, m_filters.value(m_type, Y), m_filters.value(m_type, Heigh));
+        applyCurve(m_type, m_filters.value(m_type, Y), m_filters.value(m_type, Heigh));
     }
     updateCurrentPreset();
 }
 
 void Audiosetting_right_crossover_widget::onHeigh_Front_Freq(int y, int heigh) {
-    showCurve(Front, y, heigh);
+    applyCurve(Front, y, heigh);
 }
 
 void Audiosetting_right_crossover_widget::onHeigh_Rear_Freq(int y, int heigh) {
-    showCurve(Rear, y, heigh);
+    applyCurve(Rear, y, heigh);
 }
 
 void Audiosetting_right_crossover_widget::onLow_Subwoofer_Freq(int y, int heigh) {
-    showCurve(Subwoofer, y, heigh);
+    applyCurve(Subwoofer, y, heigh);
 }
 
-void Audiosetting_right_crossover_widget::showCurve(int channel, int y, int heigh) {
+void Audiosetting_right_crossover_widget::applyCurve(int channel, int y, int heigh) {
     CurveLabel *curve = m_curves[channel];
     const int freq = m_filters.value(channel, Freq);
     if (freq >= 0 && freq < frequencyCount(channel)) {
@@ -276,7 +261,7 @@ void Audiosetting_right_crossover_widget::showCurve(int channel, int y, int heig
 void Audiosetting_right_crossover_widget::showFrequency(int channel) {
     const Frequency &row = frequency(channel, m_filters.value(channel, Freq));
     m_offShown = !row.label;
-    m_ui->txt_freq_value->setText(row.label ? QLatin1String(row.label) : Translator::translate(textOff));
+    m_ui->txt_freq_value->setText(row.label ? QLatin1String(row.label) : Translator::translate(texts::off));
 }
 
 // Level -----------------------------------------------------------------------------------------------------------
@@ -327,7 +312,7 @@ void Audiosetting_right_crossover_widget::setLevel(int level, int y, int heigh) 
     m_filters.setValue(m_type, Heigh, heigh);
     showLevel(m_type);
     storeData(m_type, level, y, heigh);
-    showCurve(m_type, y, heigh);
+    applyCurve(m_type, y, heigh);
 }
 
 void Audiosetting_right_crossover_widget::onSetFrontData(int iIndex, int y, int heigh) {
@@ -408,7 +393,7 @@ void Audiosetting_right_crossover_widget::presetDataSync() {
 }
 
 bool Audiosetting_right_crossover_widget::comparePreset(int iIdx) {
-    return Filters::matchesPreset(iIdx);
+    return CrossoverFilters::matchesPreset(iIdx);
 }
 
 void Audiosetting_right_crossover_widget::updateCurrentPreset() {
@@ -430,8 +415,8 @@ void Audiosetting_right_crossover_widget::updatePresetBtnIcon(int iIdx) {
 // Helpers ---------------------------------------------------------------------------------------------------------
 
 void Audiosetting_right_crossover_widget::refreshChannel(int channel) {
-    showSlope(channel);
-    showCurve(channel, m_filters.value(channel, Y), m_filters.value(channel, Heigh));
+    applySlope(channel);
+    applyCurve(channel, m_filters.value(channel, Y), m_filters.value(channel, Heigh));
 }
 
 QAbstractButton *Audiosetting_right_crossover_widget::presetKey(int preset) const {
@@ -439,12 +424,12 @@ QAbstractButton *Audiosetting_right_crossover_widget::presetKey(int preset) cons
 }
 
 void Audiosetting_right_crossover_widget::retranslateUi() {
-    m_ui->txt_front1->setText(Translator::translate(textFront));
-    m_ui->txt_slope->setText(Translator::translate(textSlope));
-    m_ui->txt_freq->setText(Translator::translate(textFrequency));
-    m_ui->txt_sub->setText(Translator::translate(textSubwoofer));
-    m_ui->txt_rear->setText(Translator::translate(textRear));
-    m_ui->txt_level->setText(Translator::translate(textLevel));
+    m_ui->txt_front1->setText(Translator::translate(texts::front));
+    m_ui->txt_slope->setText(Translator::translate(texts::slope));
+    m_ui->txt_freq->setText(Translator::translate(texts::frequency));
+    m_ui->txt_sub->setText(Translator::translate(texts::subwoofer));
+    m_ui->txt_rear->setText(Translator::translate(texts::rear));
+    m_ui->txt_level->setText(Translator::translate(texts::level));
 }
 
 void Audiosetting_right_crossover_widget::changeEvent(QEvent *event) {
@@ -452,7 +437,7 @@ void Audiosetting_right_crossover_widget::changeEvent(QEvent *event) {
         m_ui->retranslateUi(this);
         retranslateUi();
         if (m_offShown) {
-            m_ui->txt_freq_value->setText(Translator::translate(textOff));
+            m_ui->txt_freq_value->setText(Translator::translate(texts::off));
         }
     }
     QWidget::changeEvent(event);

@@ -76,8 +76,8 @@ protected:
 private:
     void reload();
     void refreshChannel(int channel);
-    void showSlope(int channel);
-    void showCurve(int channel, int y, int heigh);
+    void applySlope(int channel);
+    void applyCurve(int channel, int y, int heigh);
     void showFrequency(int channel);
     void showLevel(int channel);
     void storeData(int channel, int level, int y, int heigh);
@@ -91,7 +91,7 @@ private:
     QButtonGroup *m_generalGroup = nullptr;
     QButtonGroup *m_presetGroup = nullptr;
     CurveLabel *m_curves[audiosetting::crossover::channelCount];
-    audiosetting::crossover::Filters m_filters;
+    audiosetting::crossover::CrossoverFilters m_filters;
     int m_type = audiosetting::crossover::Front;  ///< the channel shown; from the store, so it may be none
     bool m_offShown = false;                      ///< the frequency label shows the translated "off"
 };

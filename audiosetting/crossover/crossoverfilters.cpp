@@ -17,7 +17,7 @@ int stepAround(int value, int step, int first, int last) {
 
 }  // namespace
 
-Filters::Filters() {
+CrossoverFilters::CrossoverFilters() {
     for (auto &channel : m_values) {
         for (int field = 0; field < fieldCount; ++field) {
             channel[field] = defaultOf(field);
@@ -25,7 +25,7 @@ Filters::Filters() {
     }
 }
 
-void Filters::load() {
+void CrossoverFilters::load() {
     for (int channel = 0; channel < channelCount; ++channel) {
         for (int field = 0; field < fieldCount; ++field) {
             m_values[channel][field] = current(channel, field).value();
@@ -33,7 +33,7 @@ void Filters::load() {
     }
 }
 
-void Filters::loadPreset(int number) {
+void CrossoverFilters::loadPreset(int number) {
     for (int channel = 0; channel < channelCount; ++channel) {
         for (int field = 0; field < fieldCount; ++field) {
             m_values[channel][field] = preset(channel, field, number).value();
@@ -41,7 +41,7 @@ void Filters::loadPreset(int number) {
     }
 }
 
-void Filters::savePreset(int number) const {
+void CrossoverFilters::savePreset(int number) const {
     for (int channel = 0; channel < channelCount; ++channel) {
         for (int field = 0; field < fieldCount; ++field) {
             preset(channel, field, number).write(m_values[channel][field]);
@@ -49,7 +49,7 @@ void Filters::savePreset(int number) const {
     }
 }
 
-void Filters::storeAll() const {
+void CrossoverFilters::storeAll() const {
     for (int channel = 0; channel < channelCount; ++channel) {
         for (int field = 0; field < fieldCount; ++field) {
             store(channel, field);
@@ -57,7 +57,7 @@ void Filters::storeAll() const {
     }
 }
 
-void Filters::send(int channel) const {
+void CrossoverFilters::send(int channel) const {
     const int freq = m_values[channel][Freq];
     const int slope = m_values[channel][Slope];
     const int level = m_values[channel][Level];
@@ -76,15 +76,15 @@ void Filters::send(int channel) const {
     }
 }
 
-void Filters::stepSlope(int channel, int step) {
+void CrossoverFilters::stepSlope(int channel, int step) {
     m_values[channel][Slope] = stepAround(m_values[channel][Slope], step, minSlope, maxSlope);
 }
 
-void Filters::stepFrequency(int channel, int step) {
+void CrossoverFilters::stepFrequency(int channel, int step) {
     m_values[channel][Freq] = stepAround(m_values[channel][Freq], step, 0, frequencyCount(channel) - 1);
 }
 
-bool Filters::matchesPreset(int number) {
+bool CrossoverFilters::matchesPreset(int number) {
     struct Compared {
         Channel channel;
         Field field;

@@ -8,9 +8,9 @@ namespace crossover {
 /// The filters of the three channels as the page holds them, a mirror of the store.
 ///
 /// Values are kept as they are read: they may lie outside their range.
-class Filters {
+class CrossoverFilters {
 public:
-    Filters();
+    CrossoverFilters();
 
     int value(int channel, int field) const { return m_values[channel][field]; }
     void setValue(int channel, int field, int value) { m_values[channel][field] = value; }

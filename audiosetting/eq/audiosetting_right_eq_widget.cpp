@@ -3,6 +3,8 @@
 #include "audioservice.h"
 #include "base/debuglog.h"
 #include "base/picture.h"
+#include "base/presetkey.h"
+#include "base/texts.h"
 #include "eqsettings.h"
 #include "eqtable.h"
 #include "labelbutton.h"
@@ -12,38 +14,15 @@
 
 #include <QButtonGroup>
 #include <QEvent>
+#include <QPushButton>
 
 using namespace audiosetting;
 
 namespace {
 
-const int textFlat = 1073;
-
 const int commitDelay = 80;     // ms; a drag sends the curve at most once in this time
-const int selectionDelay = 20;  // ms from showing a preset curve to the selection of a slot
+const int selectionDelay = 20;  // ms from showing a factory curve to the selection of a preset
 const int resetBandCount = 10;
-
-const int barWidth = 16;
-const int bandPointSize = 16;
-
-// Geometry of a band, in pixels; x counts from the band's own left edge.
-const int firstBandX = 3;
-const int bandStep = 68;
-const QRect sliderRect(0, 68, 36, 164);
-const QRect trackRect(10, 68, 16, 164);
-const QRect captionRect(-4, 330, 44, 22);
-const QRect stepKeyRect(-2, 0, 40, 40);
-const int downKeyY = 260;
-
-// The irregular last steps are required: the knob ends at the track, and the lowest touch zone is that much longer.
-const int centerPoints[] = {0,  5,  11, 16, 22, 28,  33,  39,  44,  50,  56,  61, 67,
-                            72, 78, 83, 89, 95, 100, 106, 111, 117, 123, 128, 137};
-const int borderPoints[] = {5,  11, 16, 22, 28,  33,  39,  44,  50,  56,  61,  67, 72,
-                            78, 83, 89, 95, 100, 106, 111, 117, 123, 128, 135, 137};
-const unsigned int pointCount = sizeof(centerPoints) / sizeof(centerPoints[0]);
-
-const char *const bandCaptions[eqBandCount] = {"63",   "100",  "160", "250",  "400", "630", "1k",
-                                               "1.6k", "2.5k", "4k",  "6.3k", "10k", "16k"};
 
 qvaudio::AudioService *audio() {
     return qvaudio::AudioService::instance();
@@ -52,7 +31,7 @@ qvaudio::AudioService *audio() {
 }  // namespace
 
 Audiosetting_right_eq_widget::Audiosetting_right_eq_widget(QWidget *parent)
-    : QWidget(parent), m_ui(new Ui::Audiosetting_right_eq_widget) {
+    : QWidget(parent), m_ui(new Ui::Audiosetting_right_eq_widget), m_presetKeys(this) {
     m_ui->setupUi(this);
     initUi();
     initEqTypeLongPressed();
@@ -66,78 +45,34 @@ void Audiosetting_right_eq_widget::initUi() {
     connect(&m_commitTimer, SIGNAL(timeout()), this, SLOT(onCustomEqValueDelay()));
 
     m_knob = picture("audiosetting_slider_point").toImage();
-    m_sliders.clear();
 
-    QPushButton *const slotKeys[] = {m_ui->key_custom1, m_ui->key_custom2, m_ui->key_custom3, m_ui->key_custom4,
-                                     m_ui->key_custom5};
-    m_slotGroup = new QButtonGroup(this);
-    for (int slot = 0; slot < eq::slotCount; ++slot) {
-        m_slotGroup->addButton(slotKeys[slot], slot);
+    const struct {
+        QPushButton *key;
+        QLabel *name;
+        QLabel *emptyPicture;
+    } presets[eq::presetCount] = {
+        {m_ui->key_custom1, m_ui->Txt_custom1, m_ui->Icn_preset_1},
+        {m_ui->key_custom2, m_ui->Txt_custom2, m_ui->Icn_preset_2},
+        {m_ui->key_custom3, m_ui->Txt_custom3, m_ui->Icn_preset_3},
+        {m_ui->key_custom4, m_ui->Txt_custom4, m_ui->Icn_preset_4},
+        {m_ui->key_custom5, m_ui->Txt_custom5, m_ui->Icn_preset_5},
+    };
+    for (const auto &preset : presets) {
+        m_presetKeys.add(preset.key, preset.name, preset.emptyPicture);
     }
-    connect(m_slotGroup, SIGNAL(buttonPressed(int)), this, SLOT(onButtonCustomPressed(int)));
-    connect(m_slotGroup, SIGNAL(buttonReleased(int)), this, SLOT(onbuttonCustomClicked(int)));
+    connect(m_presetKeys.group(), SIGNAL(buttonPressed(int)), this, SLOT(onButtonCustomPressed(int)));
+    connect(m_presetKeys.group(), SIGNAL(buttonReleased(int)), this, SLOT(onbuttonCustomClicked(int)));
     m_ui->key_flat->setCheckable(false);
+    // It lies over its key: touches go through.
+    m_ui->Txt_flat->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     for (int band = 0; band < eqBandCount; ++band) {
         m_levels.append(0);
-        createBand(band);
+        m_bands.append(EqBand(band, m_ui->widget, m_knobImage));
+        connect(slider(band), SIGNAL(valueChanged(int, int)), this, SLOT(update_eq_section_drag(int, int)));
+        connect(m_bands.at(band).upKey(), SIGNAL(clicked(int)), this, SLOT(onBarPrevClicked(int)));
+        connect(m_bands.at(band).downKey(), SIGNAL(clicked(int)), this, SLOT(onBarNextClicked(int)));
     }
-
-    m_captions << m_ui->Txt_custom1 << m_ui->Txt_custom2 << m_ui->Txt_custom3 << m_ui->Txt_custom4 << m_ui->Txt_custom5;
-    m_emptyIcons << m_ui->Icn_preset_1 << m_ui->Icn_preset_2 << m_ui->Icn_preset_3 << m_ui->Icn_preset_4
-                 << m_ui->Icn_preset_5;
-    const QPixmap emptyPicture = picture("eq_preset_icon");
-    for (QLabel *icon : m_emptyIcons) {
-        icon->setPixmap(emptyPicture);  // the form's own is not that of a dense display
-    }
-    // Captions and pictures lie over their keys: touches go through.
-    const QList<QLabel *> overlays = m_captions + m_emptyIcons + (QList<QLabel *>() << m_ui->Txt_flat);
-    for (QLabel *overlay : overlays) {
-        overlay->setAttribute(Qt::WA_TransparentForMouseEvents);
-    }
-}
-
-void Audiosetting_right_eq_widget::createBand(int band) {
-    const int x = firstBandX + bandStep * band;
-
-    QLabel *track = new QLabel(m_ui->widget);
-    track->setGeometry(trackRect.translated(x, 0));
-    track->setPixmap(picture("audiosetting_eq_slider_n"));
-
-    cm::SliderBarWidget *slider = new cm::SliderBarWidget(m_ui->widget);
-    slider->setId(band);
-    slider->setGeometry(sliderRect.translated(x, 0));
-    slider->setImage(m_knobImage);
-    slider->addFreqLevel(eq::levelGains());
-    slider->setBarWidth(barWidth);
-    slider->setCenterPoint(centerPoints, pointCount);
-    slider->setBorderPoint(borderPoints, pointCount);
-    slider->show();
-    m_sliders.append(slider);
-    connect(slider, SIGNAL(valueChanged(int, int)), this, SLOT(update_eq_section_drag(int, int)));
-
-    m_upKeys.append(createStepKey(band, stepKeyRect.y(), QStringLiteral("eq_up"), SLOT(onBarPrevClicked(int))));
-    m_downKeys.append(createStepKey(band, downKeyY, QStringLiteral("eq_next"), SLOT(onBarNextClicked(int))));
-
-    QLabel *caption = new QLabel(QLatin1String(bandCaptions[band]), m_ui->widget);
-    caption->setGeometry(captionRect.translated(x, 0));
-    caption->setAlignment(Qt::AlignCenter);
-    QFont captionFont = font();
-    captionFont.setPointSize(bandPointSize);
-    caption->setFont(captionFont);
-}
-
-cm::LabelButton *Audiosetting_right_eq_widget::createStepKey(int band, int y, const QString &picture,
-                                                             const char *slot) {
-    cm::LabelButton *key = new cm::LabelButton(m_ui->widget);
-    key->setGeometry(QRect(QPoint(firstBandX + bandStep * band + stepKeyRect.x(), y), stepKeyRect.size()));
-    key->setGroupId(band);
-    const QString path = QStringLiteral("qrc:/corvina_icon/%1_%2.png");
-    key->setBgPathNormalOff(QUrl(path.arg(picture, QStringLiteral("n"))));
-    key->setBgPathNormalOn(QUrl(path.arg(picture, QStringLiteral("p"))));
-    key->setBgPathDisable(QUrl(path.arg(picture, QStringLiteral("d"))));
-    connect(key, SIGNAL(clicked(int)), this, slot);
-    return key;
 }
 
 void Audiosetting_right_eq_widget::showEvent(QShowEvent *event) {
@@ -147,7 +82,7 @@ void Audiosetting_right_eq_widget::showEvent(QShowEvent *event) {
         updateEqVal();
         QTimer::singleShot(selectionDelay, this, SLOT(onSliderBarWidgetCompeted()));
     } else {
-        updateCustomEqUi(eq::lastSlot().value());
+        updateCustomEqUi(eq::lastPreset().value());
         updateEqVal();
     }
     updatePrevNextAllUi();
@@ -155,12 +90,8 @@ void Audiosetting_right_eq_widget::showEvent(QShowEvent *event) {
 }
 
 void Audiosetting_right_eq_widget::retranslateUi() {
-    for (int slot = 0; slot < eq::slotCount; ++slot) {
-        const bool stored = eq::slotStored(slot).flag();
-        m_captions.at(slot)->setVisible(stored);
-        m_emptyIcons.at(slot)->setVisible(!stored);
-    }
-    m_ui->Txt_flat->setText(Translator::translate(textFlat));
+    m_presetKeys.updateSaved();
+    m_ui->Txt_flat->setText(Translator::translate(texts::flat));
 }
 
 void Audiosetting_right_eq_widget::changeEvent(QEvent *event) {
@@ -181,7 +112,7 @@ void Audiosetting_right_eq_widget::updateEqVal() {
     const int type = audio()->getCurrEQType();
     AUDIO_LOG << "eqType :" << type;
     if (type < AudioEQCustom) {
-        tagAudioEQItem_T item = eq::curveOfType(eq::presets(), type);
+        tagAudioEQItem_T item = eq::curveOfType(eq::curves(), type);
         updateEqBar(item);
     } else {
         updateCustomEQ();
@@ -191,14 +122,14 @@ void Audiosetting_right_eq_widget::updateEqVal() {
 
 void Audiosetting_right_eq_widget::updateEqBar(tagAudioEQItem_T &item) {
     for (int band = 0; band < eqBandCount; ++band) {
-        m_sliders.at(band)->setBarLevel(eq::levelOfGain(item.gain[band]));
+        slider(band)->setBarLevel(eq::levelOfGain(item.gain[band]));
     }
 }
 
 void Audiosetting_right_eq_widget::updateCustomEQ() {
     // Unclamped: the band-adjust panel keeps values of another scale, and editing one band commits all thirteen.
     for (int band = 0; band < eqBandCount; ++band) {
-        m_sliders.at(band)->setBarLevel(eq::fromOtherEnd(eq::maxLevel, eq::liveBand(band).value()));
+        slider(band)->setBarLevel(eq::fromOtherEnd(eq::maxLevel, eq::liveBand(band).value()));
     }
 }
 
@@ -235,7 +166,7 @@ void Audiosetting_right_eq_widget::onResetEqValue() {
 void Audiosetting_right_eq_widget::on_key_flat_clicked() {
     audio()->doBeep(0);
     audio()->setEQType(AudioEQFlat, true);
-    eq::highlightedSlot().write(eq::noSlot);
+    eq::highlightedPreset().write(eq::noPreset);
     updateEqVal();
     updateCurrentSelect();
     updatePrevNextAllUi();
@@ -248,7 +179,7 @@ void Audiosetting_right_eq_widget::onSetFlatEq() {
 // Sliders and step keys -------------------------------------------------------------------------------------------
 
 void Audiosetting_right_eq_widget::update_eq_section_drag(int section, int value) {
-    eq::highlightedSlot().write(eq::noSlot);
+    eq::highlightedPreset().write(eq::noPreset);
     eq_section_drag_event(section, value, true);
     setEqBarValue(section, value);
     updatePrevNextById(section);
@@ -270,28 +201,28 @@ void Audiosetting_right_eq_widget::eq_section_drag_event(int section, int value,
 }
 
 void Audiosetting_right_eq_widget::setEqBarValue(int section, int value) {
-    if (section < 0 || section >= eqBandCount) {
+    if (!eq::isBand(section)) {
         AUDIO_LOG << "no such band:" << section;
         return;
     }
     m_levels[section] = value;
-    m_sliders.at(section)->setBarLevel(value);
+    slider(section)->setBarLevel(value);
 }
 
 void Audiosetting_right_eq_widget::onCustomEqValueDelay() {
     for (int band = 0; band < eqBandCount; ++band) {
-        updateCustomEqValue(band, m_sliders.at(band)->getLevel());
+        updateCustomEqValue(band, slider(band)->getLevel());
     }
     updateCurrentSelect();
 }
 
 void Audiosetting_right_eq_widget::updateCustomEqValue(int band, int level) {
-    const int slot = eq::lastSlot().value();
-    if (slot < 0 || slot >= eq::slotCount) {
-        AUDIO_LOG << "custom_eq_type_id:" << slot;
+    const int preset = eq::lastPreset().value();
+    if (!eq::isPreset(preset)) {
+        AUDIO_LOG << "custom_eq_type_id:" << preset;
         return;
     }
-    // Always type 16, whichever slot was last used. Required: the service has one live custom curve, and Factory EQ and
+    // Always type 16, whichever preset was last used. Required: the service has one live custom curve, and Factory EQ and
     // the panel know it by this number.
     if (audio()->getCurrEQType() != AudioEQCustom) {
         audio()->setEQType(AudioEQCustom, true);
@@ -312,11 +243,11 @@ void Audiosetting_right_eq_widget::onBarNextClicked(int id) {
 
 void Audiosetting_right_eq_widget::stepBand(int band, void (cm::SliderBarWidget::*step)()) {
     audio()->doBeep(0);
-    if (band < 0 || band >= eqBandCount) {
+    if (!eq::isBand(band)) {
         AUDIO_LOG << "no such band:" << band;
         return;
     }
-    (m_sliders.at(band)->*step)();
+    (slider(band)->*step)();
     updatePrevNextById(band);
 }
 
@@ -327,11 +258,126 @@ void Audiosetting_right_eq_widget::updatePrevNextAllUi() {
 }
 
 void Audiosetting_right_eq_widget::updatePrevNextById(int band) {
-    if (band < 0 || band >= eqBandCount) {
+    if (!eq::isBand(band)) {
         AUDIO_LOG << "no such band:" << band;
         return;
     }
-    const int level = m_sliders.at(band)->getLevel();
-    m_upKeys.at(band)->setEnabled(level >= 1);
-    m_downKeys.at(band)->setEnabled(level < eq::maxLevel);
+    m_bands[band].updateStepKeys();
+}
+
+// Presets ---------------------------------------------------------------------------------------------------------
+
+void Audiosetting_right_eq_widget::initEqTypeLongPressed() {
+    const char *const saves[] = {SLOT(onCustom1LongRelease()), SLOT(onCustom2LongRelease()),
+                                 SLOT(onCustom3LongRelease()), SLOT(onCustom4LongRelease()),
+                                 SLOT(onCustom5LongRelease())};
+    for (int preset = 0; preset < eq::presetCount; ++preset) {
+        saveOnHold(qobject_cast<QPushButton *>(m_presetKeys.group()->button(preset)), this, saves[preset]);
+    }
+}
+
+void Audiosetting_right_eq_widget::onButtonCustomPressed(int btnId) {
+    m_presetKeys.setLongClick(btnId, false);
+}
+
+void Audiosetting_right_eq_widget::onbuttonCustomClicked(int iIdx) {
+    AUDIO_LOG << "iIdx:" << iIdx;
+    if (!eq::isPreset(iIdx) || !eq::presetSaved(iIdx).flag()) {
+        updateCurrentSelect();
+    } else if (m_presetKeys.longClick(iIdx)) {
+        eq::highlightedPreset().write(iIdx);
+        updateCurrentSelect();
+    } else {
+        audio()->doBeep(0);
+        eq::highlightedPreset().write(iIdx);
+        updateEqType(iIdx);
+        updateCustomEqUi(iIdx);
+    }
+}
+
+// Saving ----------------------------------------------------------------------------------------------------------
+
+void Audiosetting_right_eq_widget::savePreset(int preset) {
+    audio()->doBeep(0);
+    saveCustomEqValue(preset, m_dragSection, m_dragValue);
+    recallPreset(preset);
+    updateCustomEqUi(preset);
+}
+
+void Audiosetting_right_eq_widget::saveCustomEqValue(int preset, int section, int value) {
+    AUDIO_LOG << "slot:" << preset << "section:" << section << "value:" << value;
+    eq::lastPreset().write(preset);
+    if (!eq::isPreset(preset)) {
+        AUDIO_LOG << "no such slot:" << preset;
+        return;
+    }
+    m_presetKeys.setLongClick(preset, true);
+    for (int band = 0; band < eqBandCount; ++band) {
+        updateCustomEqByType(preset, band, slider(band)->getLevel());
+    }
+    eq::presetSaved(preset).write(true);
+    retranslateUi();
+}
+
+void Audiosetting_right_eq_widget::updateCustomEqByType(int preset, int band, int level) {
+    if (!eq::isPreset(preset) || !eq::isBand(band)) {
+        AUDIO_LOG << "no such slot or band:" << preset << band;
+        return;
+    }
+    eq::presetLevel(preset, band).write(level);
+}
+
+// Recalling -------------------------------------------------------------------------------------------------------
+
+void Audiosetting_right_eq_widget::updateEqType(int preset) {
+    eq::lastPreset().write(preset);
+    recallPreset(preset);
+    updatePrevNextAllUi();
+}
+
+void Audiosetting_right_eq_widget::recallPreset(int preset) {
+    if (!eq::isPreset(preset)) {
+        return;
+    }
+    for (int band = 0; band < eqBandCount; ++band) {
+        updateCustomEqValue(band, getCustomEqValue(band, preset));
+    }
+    updateEqVal();
+}
+
+int Audiosetting_right_eq_widget::getCustomEqValue(int band, int preset) {
+    return eq::isPreset(preset) ? eq::presetLevel(preset, band).value() : 0;
+}
+
+// Selection -------------------------------------------------------------------------------------------------------
+
+bool Audiosetting_right_eq_widget::eqValueCompare(int preset) {
+    for (int band = 0; band < eqBandCount; ++band) {
+        if (getCustomEqValue(band, preset) != slider(band)->getLevel()) {
+            return false;
+        }
+    }
+    return eq::isPreset(preset);
+}
+
+void Audiosetting_right_eq_widget::updateCurrentSelect() {
+    const int highlighted = eq::highlightedPreset().value();
+    for (int preset = 0; preset < eq::presetCount; ++preset) {
+        if (!eq::presetSaved(preset).flag()) {
+            continue;
+        }
+        if (highlighted != eq::noPreset) {
+            updateCustomEqUi(highlighted);
+            return;
+        }
+        if (eqValueCompare(preset)) {
+            updateCustomEqUi(preset);
+            return;
+        }
+    }
+    updateCustomEqUi(eq::noPreset);
+}
+
+void Audiosetting_right_eq_widget::updateCustomEqUi(int preset) {
+    m_presetKeys.select(preset);
 }

@@ -1,28 +1,27 @@
 #pragma once
 
+#include "eqband.h"
+#include "eqpresetkeys.h"
+
 #include <QImage>
 #include <QList>
 #include <QScopedPointer>
 #include <QTimer>
 #include <QWidget>
 
-class QButtonGroup;
-class QLabel;
 struct tagAudioEQItem_T;
 
 namespace Ui {
 class Audiosetting_right_eq_widget;
 }
 namespace cm {
-class LabelButton;
 class SliderBarWidget;
 }  // namespace cm
 
 /// The EQ page: thirteen bands with a slider and two step keys each, Flat, and five curves of the driver's own.
 ///
-/// A slider edits the live custom curve of the audio service. A slot key held for 1.5 s stores the curve shown;
-/// pressed shortly, it recalls what it stores. Functions that take a slot or a band ignore others than 0 to 4 and
-/// 0 to 12.
+/// A slider edits the live custom curve of the audio service. A preset key that is held saves the curve shown; a short
+/// press recalls what was saved. Functions that take a preset or a band ignore others than 0 to 4 and 0 to 12.
 class Audiosetting_right_eq_widget : public QWidget {
     Q_OBJECT
 public:
@@ -40,29 +39,29 @@ public:
     void setEqBarValue(int section, int value);
     void eq_section_drag_event(int section, int value, bool moving);
 
-    /// Recalls a slot.
-    void updateEqType(int slot);
-    /// Stores the curve shown in a slot.
-    void saveCustomEqValue(int slot, int section, int value);
-    /// Writes one level of a slot.
-    void updateCustomEqByType(int slot, int band, int level);
-    /// One level of a slot.
-    int getCustomEqValue(int band, int slot);
+    /// Recalls a preset.
+    void updateEqType(int preset);
+    /// Saves the curve shown as a preset.
+    void saveCustomEqValue(int preset, int section, int value);
+    /// Writes one level of a preset.
+    void updateCustomEqByType(int preset, int band, int level);
+    /// One level of a preset.
+    int getCustomEqValue(int band, int preset);
     /// Sends one level to the live custom curve.
     void updateCustomEqValue(int band, int level);
     void onSetFlatEq();
-    void onSetCustom1();
-    void onSetCustom2();
-    void onSetCustom3();
-    void onSetCustom4();
-    void onSetCustom5();
+    void onSetCustom1() { recallPreset(0); }
+    void onSetCustom2() { recallPreset(1); }
+    void onSetCustom3() { recallPreset(2); }
+    void onSetCustom4() { recallPreset(3); }
+    void onSetCustom5() { recallPreset(4); }
 
-    /// Whether the sliders show what the slot stores.
-    bool eqValueCompare(int slot);
-    /// Selects the slot that the sliders show.
+    /// Whether the sliders show what the preset holds.
+    bool eqValueCompare(int preset);
+    /// Selects the preset that the sliders show.
     void updateCurrentSelect();
-    /// Selects that slot if it is stored, else none.
-    void updateCustomEqUi(int slot);
+    /// Selects that preset if it is saved, else none.
+    void updateCustomEqUi(int preset);
     void updatePrevNextAllUi();
     void updatePrevNextById(int band);
 
@@ -80,33 +79,28 @@ private Q_SLOTS:
     void onButtonCustomPressed(int btnId);
     void onbuttonCustomClicked(int iIdx);
     void onCustomEqValueDelay();
-    void onCustom1LongRelease();
-    void onCustom2LongRelease();
-    void onCustom3LongRelease();
-    void onCustom4LongRelease();
-    void onCustom5LongRelease();
+    void onCustom1LongRelease() { savePreset(0); }
+    void onCustom2LongRelease() { savePreset(1); }
+    void onCustom3LongRelease() { savePreset(2); }
+    void onCustom4LongRelease() { savePreset(3); }
+    void onCustom5LongRelease() { savePreset(4); }
     void on_key_flat_clicked();
     void onSliderBarWidgetCompeted();
     void onBarPrevClicked(int id);
     void onBarNextClicked(int id);
 
 private:
-    void createBand(int band);
-    cm::LabelButton *createStepKey(int band, int y, const QString &picture, const char *slot);
+    cm::SliderBarWidget *slider(int band) const { return m_bands.at(band).slider(); }
     void stepBand(int band, void (cm::SliderBarWidget::*step)());
-    void storeSlot(int slot);
-    void recallSlot(int slot);
+    void savePreset(int preset);
+    void recallPreset(int preset);
 
     QScopedPointer<Ui::Audiosetting_right_eq_widget> m_ui;
     QImage m_knob;
     QImage *m_knobImage = &m_knob;  ///< the knob as the sliders take it
     QTimer m_commitTimer;           ///< while it runs, a finger moves a slider and nothing is sent
-    QList<cm::SliderBarWidget *> m_sliders;
-    QList<cm::LabelButton *> m_upKeys;
-    QList<cm::LabelButton *> m_downKeys;
-    QList<QLabel *> m_emptyIcons;  ///< by slot, shown while it is empty
-    QList<QLabel *> m_captions;    ///< by slot, shown while it is stored
-    QButtonGroup *m_slotGroup = nullptr;
+    QList<audiosetting::EqBand> m_bands;
+    audiosetting::EqPresetKeys m_presetKeys;
     QList<int> m_levels;  ///< by band
     int m_dragSection = 0;
     int m_dragValue = 0;

@@ -66,7 +66,7 @@ void Audiosetting_right_factoryeq_widget::resume() {
             levels.append(eq::fromOtherEnd(eq::maxLevel, audio->getCustomEq(band)));
         }
         for (AudioEQType preset : m_types) {
-            const tagAudioEQItem_T &item = eq::presets().at(findItemIndexByType(preset));
+            const tagAudioEQItem_T &item = eq::curves().at(findItemIndexByType(preset));
             if (eqCompareList(item, levels)) {
                 type = item.type;
                 break;
@@ -81,7 +81,7 @@ void Audiosetting_right_factoryeq_widget::setButtonInitClick(int type) {
 }
 
 int Audiosetting_right_factoryeq_widget::findItemIndexByType(int type) {
-    return qMax(0, eq::findByType(eq::presets(), type));
+    return qMax(0, eq::findByType(eq::curves(), type));
 }
 
 bool Audiosetting_right_factoryeq_widget::eqCompareList(tagAudioEQItem_T item, QList<int> levels) {
@@ -101,7 +101,7 @@ void Audiosetting_right_factoryeq_widget::onButtoneEqClicked(int iIdx) {
     AUDIO_LOG << "iIdx:" << iIdx;
     qvaudio::AudioService::instance()->doBeep(0);
     // The EQ page shows none of the driver's own curves as selected any more.
-    eq::highlightedSlot().write(eq::noSlot);
+    eq::highlightedPreset().write(eq::noPreset);
     switch (iIdx) {
         case 0:
             onSetRockEq();

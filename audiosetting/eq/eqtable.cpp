@@ -22,7 +22,7 @@ int fromOtherEnd(int end, int value) {
     return int(quint32(end) - quint32(value));
 }
 
-const QList<tagAudioEQItem_T> &presets() {
+const QList<tagAudioEQItem_T> &curves() {
     static const QList<tagAudioEQItem_T> table = {
         //         63  100 160  250 400 630  1k 1.6k 2.5k 4k 6.3k 10k 16k
         {0, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},      {1, 1, {1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 3, 1}},

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QList>
+#include "eqsettings.h"
 
-/// Bands of the equaliser.
-enum { eqBandCount = 13 };
+#include <QList>
 
 /// One curve: its type for the audio service, a row id, and the gain of each band in dB (-12 to 12).
 struct tagAudioEQItem_T {
@@ -18,7 +17,6 @@ namespace eq {
 const int maxGain = 12;         ///< dB
 const int maxLevel = 24;        ///< lowest position of a slider: -12 dB; level 0 is the top, +12 dB
 const int flatLevel = maxGain;  ///< position of 0 dB
-const int slotCount = 5;        ///< curves that the driver can store
 
 /// The gains of a slider's levels, from the top down: 12, 11, ... -12.
 const QList<int> &levelGains();
@@ -29,7 +27,7 @@ int levelOfGain(int gain);
 int fromOtherEnd(int end, int value);
 
 /// The curves of the EQ page and of the Factory EQ page.
-const QList<tagAudioEQItem_T> &presets();
+const QList<tagAudioEQItem_T> &curves();
 /// First row of that type in \a table, or -1.
 int findByType(const QList<tagAudioEQItem_T> &table, int type);
 /// The curve of that type in \a table, or a flat one.

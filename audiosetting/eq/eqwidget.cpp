@@ -5,6 +5,7 @@
 #include "base/look.h"
 #include "base/picture.h"
 #include "base/posttouch.h"
+#include "base/texts.h"
 #include "eqtable.h"
 #include "sliderbarwidget.h"
 #include "translator.h"
@@ -21,8 +22,6 @@ namespace audiosetting {
 
 namespace {
 
-const int textFlat = 1073;
-
 const int sendInterval = 50;  // ms; a moving finger sends at most one value in this time
 const int resetBandCount = 10;
 
@@ -37,12 +36,16 @@ const int borderPoints[] = {10,  18,  23,  41,  58,  75,  93,  110, 124, 138, 15
 const unsigned int pointCount = sizeof(centerPoints) / sizeof(centerPoints[0]);
 
 // The panel's own curves; the id is that of the name's text, and the last three bands are always 0 dB.
-const QList<tagAudioEQItem_T> &panelPresets() {
+const QList<tagAudioEQItem_T> &panelCurves() {
     static const QList<tagAudioEQItem_T> table = {
-        {0, 3, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},       {1, 232, {1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 0, 0}},
-        {3, 234, {0, 4, 4, 0, -1, -1, 0, 3, 6, 4, 0, 0, 0}},   {2, 233, {-1, 3, 3, 2, 0, -1, -1, 0, 2, 1, 0, 0, 0}},
-        {8, 235, {0, 4, 5, 2, 0, -1, -2, -1, 0, -1, 0, 0, 0}}, {7, 241, {1, 3, 2, 1, 0, 0, 1, 2, 1, 0, 0, 0, 0}},
-        {21, 229, {1, 2, 2, 1, 0, -1, 0, 1, 2, 2, 0, 0, 0}},   {16, 681, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
+        {0, texts::curveFlat, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
+        {1, texts::curveDynamic, {1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 0, 0}},
+        {3, texts::curveRock, {0, 4, 4, 0, -1, -1, 0, 3, 6, 4, 0, 0, 0}},
+        {2, texts::curvePop, {-1, 3, 3, 2, 0, -1, -1, 0, 2, 1, 0, 0, 0}},
+        {8, texts::curveHipHop, {0, 4, 5, 2, 0, -1, -2, -1, 0, -1, 0, 0, 0}},
+        {7, texts::curveJazz, {1, 3, 2, 1, 0, 0, 1, 2, 1, 0, 0, 0, 0}},
+        {21, texts::curveClassic, {1, 2, 2, 1, 0, -1, 0, 1, 2, 2, 0, 0, 0}},
+        {16, texts::curveCustom, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}},
     };
     return table;
 }
@@ -127,7 +130,7 @@ void EQWidget::changeEvent(QEvent *event) {
 }
 
 void EQWidget::retranslateUi() {
-    m_ui->Txt_reset->setText(Translator::translate(textFlat));
+    m_ui->Txt_reset->setText(Translator::translate(texts::flat));
     updateName();
 }
 
@@ -139,7 +142,7 @@ void EQWidget::updateEqVal() {
     if (type == AudioEQCustom) {
         updateCustomEQ();
     } else {
-        tagAudioEQItem_T item = eq::curveOfType(panelPresets(), type);
+        tagAudioEQItem_T item = eq::curveOfType(panelCurves(), type);
         updateEqBar(item);
         updateAllEqLabels(item);
     }
@@ -167,7 +170,7 @@ void EQWidget::updateCustomEQ() {
 }
 
 void EQWidget::updateEqLabel(int band, int gain) {
-    if (band < 0 || band >= eqBandCount) {
+    if (!eq::isBand(band)) {
         return;
     }
     // Looked up each time: a host may add labels for the bands beyond the tenth.
@@ -181,8 +184,8 @@ QString EQWidget::toEQString(const int &gain) {
 }
 
 QString EQWidget::getEQName() {
-    const int row = eq::findByType(panelPresets(), audio()->getCurrEQType());
-    return row < 0 ? QString() : Translator::translate(panelPresets().at(row).id);
+    const int row = eq::findByType(panelCurves(), audio()->getCurrEQType());
+    return row < 0 ? QString() : Translator::translate(panelCurves().at(row).id);
 }
 
 void EQWidget::updateName() {
@@ -217,7 +220,7 @@ void EQWidget::eq_section_drag_event(int section, int level, bool moving) {
 
 void EQWidget::setEqBarValue(int section, int level) {
     updateName();
-    if (section < 0 || section >= eqBandCount) {
+    if (!eq::isBand(section)) {
         AUDIO_LOG << "no such band:" << section;
         return;
     }

@@ -27,6 +27,10 @@ inline Setting subwooferLevel() {
 inline Setting subwooferPhase() {
     return Setting(QStringLiteral("subwooferphase"), 0);
 }
+/// Loudness compensation: 1 is on, 0 is off. Its switch is on the settings root, behind "Advanced".
+inline Setting loudness() {
+    return Setting(QStringLiteral("Setup_Loudness"), 0);
+}
 /// Balance, -15 (left) to 15 (right).
 inline Setting balance() {
     return Setting(QStringLiteral("SoundFieldBalance"), 0);

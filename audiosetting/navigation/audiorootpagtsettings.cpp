@@ -6,6 +6,7 @@
 #include "audiosettingstop.h"
 #include "base/debuglog.h"
 #include "base/posttouch.h"
+#include "base/texts.h"
 #include "base/touchpagerequest.h"
 #include "c20_060_audiosetting_container_widget.h"
 #include "crossover/audiosetting_right_crossover_widget.h"
@@ -24,21 +25,6 @@
 #include <QEvent>
 
 using namespace audiosetting;
-
-namespace {
-
-// Titles. The ids of Crossover and Factory EQ run the other way than their page ids. Required: they name rows of the
-// unit's text table.
-const int titleGeneral = 1065;
-const int titleEq = 1066;
-const int titleFactoryEq = 1067;
-const int titleCrossover = 1068;
-const int titleTiming = 1069;
-const int titleSettingsRoot = 1070;
-const int titleVolume = 1071;
-const int titleSourceGain = 1072;
-
-}  // namespace
 
 AudioRootPagtSettings::AudioRootPagtSettings(QWidget *parent) : QWidget(parent) {
     m_look.colourTexts(this);
@@ -108,32 +94,32 @@ void AudioRootPagtSettings::showGeneralWidget(bool) {
     if (createOnce(m_general, m_form->right_widget)) {
         connect(m_general, SIGNAL(advancedChanged()), this, SLOT(onAdvancedChanged()));
     }
-    showTabPage(m_general, PageGeneral, titleGeneral);
+    showTabPage(m_general, PageGeneral, texts::titleGeneral);
 }
 
 void AudioRootPagtSettings::showEQWidget(bool) {
     hideContainerChilds();
     createOnce(m_eq, m_form->right_widget);
-    showTabPage(m_eq, PageEq, titleEq);
+    showTabPage(m_eq, PageEq, texts::titleEq);
 }
 
 void AudioRootPagtSettings::showFactoryEqWidget(bool) {
     hideContainerChilds();
     createOnce(m_factoryEq, m_form->right_widget);
-    showTabPage(m_factoryEq, PageFactoryEq, titleFactoryEq);
+    showTabPage(m_factoryEq, PageFactoryEq, texts::titleFactoryEq);
 }
 
 void AudioRootPagtSettings::showCrossoverWidget(bool) {
     hideContainerChilds();
     createOnce(m_crossover, m_form->right_widget);
-    showTabPage(m_crossover, PageCrossover, titleCrossover);
+    showTabPage(m_crossover, PageCrossover, texts::titleCrossover);
     m_top->setBtnResetType(FlatCrossover);
 }
 
 void AudioRootPagtSettings::showTimingWidget(bool) {
     hideContainerChilds();
     createOnce(m_timing, m_form->right_widget);
-    showTabPage(m_timing, PageTiming, titleTiming);
+    showTabPage(m_timing, PageTiming, texts::titleTiming);
     m_top->setBtnResetType(FlatTimeDelay);
 }
 
@@ -148,14 +134,14 @@ void AudioRootPagtSettings::showAudiosettingsRoot() {
     }
     m_tab->show();
     m_settingsRoot->show();
-    setTitle(titleSettingsRoot);
+    setTitle(texts::titleSettingsRoot);
     m_currentpageId = PageSettingsRoot;
 }
 
 void AudioRootPagtSettings::onShowAudioSettings() {
     hideContainerChilds();
     createOnce(m_volume, this);
-    showFullWidthPage(m_volume, PageVolume, titleVolume);
+    showFullWidthPage(m_volume, PageVolume, texts::titleVolume);
 }
 
 void AudioRootPagtSettings::onShowSourceGain() {
@@ -164,7 +150,7 @@ void AudioRootPagtSettings::onShowSourceGain() {
         m_sourceGain = createSourceGainPage(this);
         m_look.dressKeys(m_sourceGain);
     }
-    showFullWidthPage(m_sourceGain, PageSourceGain, titleSourceGain);
+    showFullWidthPage(m_sourceGain, PageSourceGain, texts::titleSourceGain);
 }
 
 void AudioRootPagtSettings::onShowResetAudiosettings() {

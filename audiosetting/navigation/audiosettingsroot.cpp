@@ -3,6 +3,7 @@
 #include "audioservice.h"
 #include "base/caption.h"
 #include "base/debuglog.h"
+#include "base/texts.h"
 #include "commsystemutils.h"
 #include "general/generalsettings.h"
 #include "mcuservice.h"
@@ -11,19 +12,7 @@
 
 #include <QEvent>
 
-namespace {
-
-/// Loudness compensation on (1) or off (0).
-audiosetting::Setting loudness() {
-    return audiosetting::Setting(QStringLiteral("Setup_Loudness"), 0);
-}
-
-const int textLoudness = 439;
-const int textSourceGain = 1081;
-const int textVolumeSettings = 1082;
-const int textResetAudio = 1083;
-
-}  // namespace
+using namespace audiosetting;
 
 AudiosettingsRoot::AudiosettingsRoot(QWidget *parent) : QWidget(parent), m_ui(new Ui::AudiosettingsRoot) {
     m_ui->setupUi(this);
@@ -32,7 +21,7 @@ AudiosettingsRoot::AudiosettingsRoot(QWidget *parent) : QWidget(parent), m_ui(ne
     for (QLabel *caption : captions) {
         caption->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
-    AUDIO_LOG << "ADV_AUDIO_SETTINGS:" << audiosetting::general::defeat().value();
+    AUDIO_LOG << "ADV_AUDIO_SETTINGS:" << general::defeat().value();
     CommSystemUtils::instance()->sync_default_font(this, QStringLiteral("Txt_"));
 }
 
@@ -40,14 +29,14 @@ AudiosettingsRoot::~AudiosettingsRoot() {}
 
 void AudiosettingsRoot::showEvent(QShowEvent *event) {
     retranslateUi();
-    updateKeyEn(audiosetting::general::defeat().value() != 0);
+    updateKeyEn(general::defeat().value() != 0);
     QWidget::showEvent(event);
 }
 
 void AudiosettingsRoot::on_Key_001_loudness_clicked() {
     qvaudio::AudioService::instance()->doBeep(0);
     const bool checked = m_ui->Key_001_loudness->isChecked();
-    loudness().write(checked);
+    general::loudness().write(checked);
     mcu::McuService::instance()->setLoudness(checked);
 }
 
@@ -68,17 +57,17 @@ void AudiosettingsRoot::on_Key_005_res_audio_clicked() {
 
 void AudiosettingsRoot::updateKeyEn(bool disabled) {
     m_ui->Key_001_loudness->setDisabled(disabled);
-    audiosetting::setCaptionEnabled(m_ui->Txt_001_loudness, !disabled);
+    setCaptionEnabled(m_ui->Txt_001_loudness, !disabled);
     if (!disabled) {
-        m_ui->Key_001_loudness->setChecked(loudness().value() != 0);
+        m_ui->Key_001_loudness->setChecked(general::loudness().value() != 0);
     }
 }
 
 void AudiosettingsRoot::retranslateUi() {
-    m_ui->Txt_001_loudness->setText(Translator::translate(textLoudness));
-    m_ui->Txt_003_source_gain->setText(Translator::translate(textSourceGain));
-    m_ui->Txt_004_vol_settings->setText(Translator::translate(textVolumeSettings));
-    m_ui->Txt_005_res_audio->setText(Translator::translate(textResetAudio));
+    m_ui->Txt_001_loudness->setText(Translator::translate(texts::loudness));
+    m_ui->Txt_003_source_gain->setText(Translator::translate(texts::sourceGain));
+    m_ui->Txt_004_vol_settings->setText(Translator::translate(texts::volumeSettings));
+    m_ui->Txt_005_res_audio->setText(Translator::translate(texts::resetAudio));
 }
 
 void AudiosettingsRoot::changeEvent(QEvent *event) {

@@ -76,8 +76,8 @@ void Audiosetting_right_timing_widget::initUi() {
     m_presetGroup->addButton(m_ui->key_preset_1, 0);
     m_presetGroup->addButton(m_ui->key_preset_2, 1);
     connect(m_presetGroup, SIGNAL(buttonClicked(int)), this, SLOT(onPresetClicked(int)));
-    connect(new cm::PushButton(m_ui->key_preset_1, this), SIGNAL(longPressed()), this, SLOT(onPreset1LongPressed()));
-    connect(new cm::PushButton(m_ui->key_preset_2, this), SIGNAL(longPressed()), this, SLOT(onPreset2LongPressed()));
+    saveOnHold(m_ui->key_preset_1, this, SLOT(onPreset1LongPressed()));
+    saveOnHold(m_ui->key_preset_2, this, SLOT(onPreset2LongPressed()));
     for (int preset = 0; preset < presetCount; ++preset) {
         endLongClickBesideKey(presetKey(preset));
     }

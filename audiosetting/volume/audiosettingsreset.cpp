@@ -2,11 +2,15 @@
 
 #include "audioservice.h"
 #include "audiosettingsutils.h"
+#include "base/texts.h"
+#include "crossover/crossoversettings.h"
+#include "eq/eqsettings.h"
 #include "general/generalsettings.h"
 #include "mcuservice.h"
 #include "resetsettings.h"
 #include "settingscache.h"
 #include "sourcegainsettings.h"
+#include "timing/timingsettings.h"
 #include "translator.h"
 #include "ui_Audiosettingsreset.h"
 
@@ -19,10 +23,9 @@ using namespace audiosetting;
 
 namespace {
 
-const int bandCount = 13;
-const int outputCount = 6;
 const int delaysEnabled = 1;
 const int resetSourceCount = 6;    // required: DAB, the seventh source, keeps its gain as drivers know it
+const int firstPreset = 0;         // the custom curve that the reset sends
 const int channelCount = 8;        // volume channels, with those that have no row on any page
 const int defaultVolumeCount = 5;  // channels that have a "default_volume%1"
 const int resetVolume = 15;
@@ -37,10 +40,10 @@ const int dialogTop = 65;
 void applyCustomCurve() {
     qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
     audio->setEQType(AudioEQCustom, true);
-    for (int band = 0; band < bandCount; ++band) {
+    for (int band = 0; band < eqBandCount; ++band) {
         // Band first, value second, the other way round than the EQ pages. Required: with the defaults every value is
         // 12, and what a unit plays after a reset must stay what it was.
-        audio->setCustomEq(band, reset::customEq(band).value(), true);
+        audio->setCustomEq(band, eq::presetLevel(firstPreset, band).value(), true);
     }
 }
 
@@ -50,40 +53,40 @@ struct Filter {
     int level;
 };
 
-Filter storedFilter(const QString &channel) {
-    const int frequency = reset::filterFrequency(channel).value();
-    const int slope = reset::filterSlope(channel).value();
-    const int level = reset::filterLevel(channel).value();
+Filter storedFilter(int channel) {
+    const int frequency = crossover::current(channel, crossover::Freq).value();
+    const int slope = crossover::current(channel, crossover::Slope).value();
+    const int level = crossover::current(channel, crossover::Level).value();
     return {frequency, slope, level};
 }
 
 void applyLowPass() {
-    const Filter filter = storedFilter(QStringLiteral("subwoofer"));
+    const Filter filter = storedFilter(crossover::Subwoofer);
     mcu::McuService::instance()->setLPFValue(filter.frequency, filter.slope, filter.level);
 }
 
 void applyRearFilter() {
-    const Filter filter = storedFilter(QStringLiteral("rear"));
+    const Filter filter = storedFilter(crossover::Rear);
     mcu::McuService::instance()->setCrossoverRearFreq(filter.frequency, filter.slope, filter.level);
 }
 
 void applyFrontFilter() {
-    const Filter filter = storedFilter(QStringLiteral("front"));
+    const Filter filter = storedFilter(crossover::Front);
     mcu::McuService::instance()->setCrossoverFrontFreq(filter.frequency, filter.slope, filter.level);
 }
 
 // The reset's own way: the rear's frequency for the slope (with 0 for its default) and the rear's level. Required: what
 // a unit plays after a reset must stay what it was; the Crossover page sends its own triple when it is next shown.
 void resetFrontFilter() {
-    const int frequency = reset::filterFrequency(QStringLiteral("front")).value();
-    const int slope = reset::filterFrequency(QStringLiteral("rear")).value();
-    const int level = reset::filterLevel(QStringLiteral("rear")).value();
+    const int frequency = crossover::current(crossover::Front, crossover::Freq).value();
+    const int slope = crossover::current(crossover::Rear, crossover::Freq).value();
+    const int level = crossover::current(crossover::Rear, crossover::Level).value();
     mcu::McuService::instance()->setCrossoverFrontFreq(frequency, slope, level);
 }
 
 void applyDelays() {
-    int delays[outputCount];
-    for (int output = 0; output < outputCount; ++output) {
+    int delays[timing::outputCount];
+    for (int output = 0; output < timing::outputCount; ++output) {
         delays[output] = reset::delay(output).value();
     }
     mcu::McuService::instance()->setAudioTimerDelay(delaysEnabled, delays);
@@ -154,11 +157,11 @@ void Audiosettingsreset::paintEvent(QPaintEvent *event) {
 }
 
 void Audiosettingsreset::retranslateUi() {
-    m_ui->Txt_0012_item_01->setText(Translator::translate(969));
-    m_ui->Txt_0012_item_04->setText(Translator::translate(970));
-    m_ui->Txt_accept->setText(Translator::translate(971));
-    m_ui->txt_Title->setText(Translator::translate(972));
-    m_ui->txt_reset_success->setText(Translator::translate(973));
+    m_ui->Txt_0012_item_01->setText(Translator::translate(texts::resetWarning));
+    m_ui->Txt_0012_item_04->setText(Translator::translate(texts::resetQuestion));
+    m_ui->Txt_accept->setText(Translator::translate(texts::resetYes));
+    m_ui->txt_Title->setText(Translator::translate(texts::resetAlert));
+    m_ui->txt_reset_success->setText(Translator::translate(texts::resetDone));
 }
 
 void Audiosettingsreset::setAsking(bool asking) {
@@ -181,7 +184,7 @@ void Audiosettingsreset::onAcceptClicked() {
 
     audio->setBalanceFader(0, 0, true);
     mcu::McuService::instance()->setSubwooferValue(general::subwooferLevel().value());
-    mcu::McuService::instance()->setLoudness(reset::loudness().flag());
+    mcu::McuService::instance()->setLoudness(general::loudness().flag());
     applyCustomCurve();
     applyLowPass();
     applyRearFilter();
@@ -208,7 +211,7 @@ void Audiosettingsreset::onDelayhidePop() {
 void Audiosettingsreset::makeEQDefaultEffect() {
     qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
     audio->setEQType(AudioEQCustom, true);
-    for (int band = 0; band < bandCount; ++band) {
+    for (int band = 0; band < eqBandCount; ++band) {
         audio->setCustomEq(0, band, true);
     }
     audio->setEQType(AudioEQFlat, true);

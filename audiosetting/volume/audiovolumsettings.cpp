@@ -6,7 +6,7 @@
 #include "horizontalslider.h"
 #include "mcuservice.h"
 #include "scrollbar.h"
-#include "sliderrow.h"
+#include "sliderpage.h"
 #include "ui_Audiovolumsettings.h"
 #include "volumesettings.h"
 

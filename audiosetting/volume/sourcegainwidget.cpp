@@ -4,7 +4,7 @@
 #include "horizontalslider.h"
 #include "mcuservice.h"
 #include "scrollbar.h"
-#include "sliderrow.h"
+#include "sliderpage.h"
 #include "sourcegainsettings.h"
 #include "translator.h"
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/texts.h"
+
 #include <QWidget>
 
 class HorizontalSlider;
@@ -50,7 +52,7 @@ protected:
     /// \a regional row.
     template <class Form> void setForm(const Form &form, const Row &regional);
 
-    /// A slider announced (index, gain); the index has no meaning here.
+    /// A slider announced (index, gain); \a index is ignored.
     void changedBySlider(RowId id, int index, int gain);
     void stepUp(RowId id);
     void stepDown(RowId id);
@@ -75,7 +77,7 @@ template <class Form> void SourceGainWidget::setForm(const Form &form, const Row
     m_area = form.scrollArea;
     m_rows[Radio] = {0,
                      0,
-                     361,
+                     texts::radio,
                      form.txt_Radio,
                      form.radioslider,
                      form.key_radio_plus,
@@ -85,7 +87,7 @@ template <class Form> void SourceGainWidget::setForm(const Form &form, const Row
                      SLOT(onRadioCameraMinus())};
     m_rows[AndroidAuto] = {4,
                            4,
-                           15,
+                           texts::androidAuto,
                            form.txt_androidauto,
                            form.androidautoslider,
                            form.key_androidauto_plus,
@@ -95,7 +97,7 @@ template <class Form> void SourceGainWidget::setForm(const Form &form, const Row
                            SLOT(onAAMinus())};
     m_rows[CarPlay] = {3,
                        3,
-                       14,
+                       texts::carPlay,
                        form.txt_applecarplay,
                        form.applecarplayslider,
                        form.key_applecarplay_plus,
@@ -106,7 +108,7 @@ template <class Form> void SourceGainWidget::setForm(const Form &form, const Row
     m_rows[Regional] = regional;
     m_rows[BtMusic] = {2,
                        2,
-                       1084,
+                       texts::bluetoothMusic,
                        form.txt_bluetoothmusic,
                        form.btmusicslider,
                        form.key_btmusic_plus,
@@ -116,7 +118,7 @@ template <class Form> void SourceGainWidget::setForm(const Form &form, const Row
                        SLOT(onBtMusicMinus())};
     m_rows[Usb] = {1,
                    1,
-                   16,
+                   texts::usb,
                    form.txt_usb,
                    form.usbslider,
                    form.key_usb_plus,

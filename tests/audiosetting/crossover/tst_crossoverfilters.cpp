@@ -11,7 +11,7 @@ class tst_CrossoverFilters : public PageTest {
 
 private slots:
     void startsWithTheDefaults() {
-        const Filters filters;
+        const CrossoverFilters filters;
         for (int channel = 0; channel < channelCount; ++channel) {
             QCOMPARE(filters.value(channel, Freq), 0);
             QCOMPARE(filters.value(channel, Y), 0);
@@ -23,7 +23,7 @@ private slots:
     }
 
     void presetIsWhatWasSaved() {
-        Filters filters;
+        CrossoverFilters filters;
         int next = 100;
         for (int channel = 0; channel < channelCount; ++channel) {
             for (int field = 0; field < fieldCount; ++field) {
@@ -32,12 +32,12 @@ private slots:
         }
         filters.savePreset(1);
         QCOMPARE(recording::take().size(), channelCount * fieldCount);
-        Filters loaded;
+        CrossoverFilters loaded;
         loaded.loadPreset(0);
         QCOMPARE(loaded.value(Front, Freq), 0);
         loaded.loadPreset(1);
         loaded.storeAll();
-        Filters current;
+        CrossoverFilters current;
         current.load();
         next = 100;
         for (int channel = 0; channel < channelCount; ++channel) {
@@ -60,13 +60,13 @@ private slots:
         const int lowest = std::numeric_limits<int>::min();
         const int highest = std::numeric_limits<int>::max();
         const auto frequency = [channel](int from, int step) {
-            Filters filters;
+            CrossoverFilters filters;
             filters.setValue(channel, Freq, from);
             filters.stepFrequency(channel, step);
             return filters.value(channel, Freq);
         };
         const auto slope = [channel](int from, int step) {
-            Filters filters;
+            CrossoverFilters filters;
             filters.setValue(channel, Slope, from);
             filters.stepSlope(channel, step);
             return filters.value(channel, Slope);
@@ -86,7 +86,7 @@ private slots:
     }
 
     void eachChannelHasItsOperation() {
-        Filters filters;
+        CrossoverFilters filters;
         filters.setValue(Front, Freq, 9);
         filters.setValue(Rear, Slope, 2);
         filters.setValue(Subwoofer, Level, 4);

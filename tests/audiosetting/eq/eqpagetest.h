@@ -11,20 +11,20 @@
 /// What the tests of the EQ page share.
 namespace eqpage {
 
-inline QString highlight(int slot) {
-    return QStringLiteral("setValue(\"HIGHLIGHT_PRESET_ID\", -1, %1, true)").arg(slot);
+inline QString highlight(int preset) {
+    return QStringLiteral("setValue(\"HIGHLIGHT_PRESET_ID\", -1, %1, true)").arg(preset);
 }
 
-inline QString lastSlot(int slot) {
-    return QStringLiteral("setValue(\"custom_eq_type_id\", 0, %1, true)").arg(slot);
+inline QString lastPreset(int preset) {
+    return QStringLiteral("setValue(\"custom_eq_type_id\", 0, %1, true)").arg(preset);
 }
 
-inline QString slotKey(int slot, int band) {
-    return QStringLiteral("customeq%1_%2").arg(slot + 1).arg(band);
+inline QString presetKey(int preset, int band) {
+    return QStringLiteral("customeq%1_%2").arg(preset + 1).arg(band);
 }
 
-inline QString storedKey(int slot) {
-    return QStringLiteral("EqPresetSwitch%1").arg(slot);
+inline QString savedKey(int preset) {
+    return QStringLiteral("EqPresetSwitch%1").arg(preset);
 }
 
 inline QString send(int value, int band) {
@@ -53,10 +53,10 @@ inline void setLive(const QList<int> &levels) {
     }
 }
 
-inline void storeSlot(int slot, const QList<int> &levels) {
-    recording::setStored(storedKey(slot), true);
+inline void savePreset(int preset, const QList<int> &levels) {
+    recording::setStored(savedKey(preset), true);
     for (int band = 0; band < levels.size(); ++band) {
-        recording::setStored(slotKey(slot, band), levels[band]);
+        recording::setStored(presetKey(preset, band), levels[band]);
     }
 }
 
@@ -89,16 +89,16 @@ inline QList<cm::LabelButton *> downKeys(const QWidget &page) {
     return stepKeys(page, 260);
 }
 
-inline QPushButton *customKey(const QWidget &page, int slot) {
-    return page.findChild<QPushButton *>(QStringLiteral("key_custom%1").arg(slot + 1));
+inline QPushButton *customKey(const QWidget &page, int preset) {
+    return page.findChild<QPushButton *>(QStringLiteral("key_custom%1").arg(preset + 1));
 }
 
-/// The slot shown as selected, or -1; -2 for more than one.
+/// The preset shown as selected, or -1; -2 for more than one.
 inline int selected(const QWidget &page) {
     int found = -1;
-    for (int slot = 0; slot < 5; ++slot) {
-        if (customKey(page, slot)->isChecked()) {
-            found = found == -1 ? slot : -2;
+    for (int preset = 0; preset < 5; ++preset) {
+        if (customKey(page, preset)->isChecked()) {
+            found = found == -1 ? preset : -2;
         }
     }
     return found;

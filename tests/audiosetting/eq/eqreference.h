@@ -31,7 +31,7 @@ inline const QList<Curve> &presets() {
     return table;
 }
 
-inline const QList<Curve> &panelPresets() {
+inline const QList<Curve> &panelCurves() {
     static const QList<Curve> table{
         {0, 3, {{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}}},      {1, 232, {{1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 0, 0}}},
         {2, 233, {{-1, 3, 3, 2, 0, -1, -1, 0, 2, 1, 0, 0, 0}}}, {3, 234, {{0, 4, 4, 0, -1, -1, 0, 3, 6, 4, 0, 0, 0}}},

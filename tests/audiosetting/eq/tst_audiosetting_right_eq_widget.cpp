@@ -38,7 +38,7 @@ private slots:
             recording::reset();
             recording::state().eqType = number;
             recording::setStored("HIGHLIGHT_PRESET_ID", 3);
-            storeSlot(3, curve(1));
+            savePreset(3, curve(1));
             Audiosetting_right_eq_widget page(nullptr);
             show(&page);
             advance(1000);
@@ -296,14 +296,14 @@ private slots:
     }
 
     void withNoValidSlotTheSlidersStayLocal_data() {
-        QTest::addColumn<int>("slot");
-        for (int slot : {-1, 5, 16, minimum, maximum}) {
-            QTest::addRow("%d", slot) << slot;
+        QTest::addColumn<int>("preset");
+        for (int preset : {-1, 5, 16, minimum, maximum}) {
+            QTest::addRow("%d", preset) << preset;
         }
     }
     void withNoValidSlotTheSlidersStayLocal() {
-        QFETCH(int, slot);
-        recording::setStored("custom_eq_type_id", slot);
+        QFETCH(int, preset);
+        recording::setStored("custom_eq_type_id", preset);
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         finger::tap(reference::sliders(page)[1], at(3));
@@ -331,7 +331,7 @@ private slots:
 
     void aDragClearsTheSelectionWithTheCommit() {
         setLive(curve(1));
-        storeSlot(2, curve(1));
+        savePreset(2, curve(1));
         recording::setStored("HIGHLIGHT_PRESET_ID", 2);
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
@@ -416,8 +416,8 @@ private slots:
 
     void flatSelectsTheFlatCurve() {
         setLive(everywhere(24));
-        storeSlot(1, everywhere(12));
-        storeSlot(4, everywhere(12));
+        savePreset(1, everywhere(12));
+        savePreset(4, everywhere(12));
         recording::setStored("HIGHLIGHT_PRESET_ID", 4);
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
@@ -425,7 +425,7 @@ private slots:
         finger::tap(page.findChild<QPushButton *>("key_flat"));
         QCOMPARE(recording::take(), QStringList({"doBeep(0)", type(0), highlight(-1)}));
         QCOMPARE(reference::levels(page), everywhere(12));
-        QCOMPARE(selected(page), 1);  // the first slot that stores it
+        QCOMPARE(selected(page), 1);  // the first preset that stores it
         for (int band = 0; band < 13; ++band) {
             QVERIFY(upKeys(page)[band]->isEnabled() && downKeys(page)[band]->isEnabled());
         }

@@ -221,7 +221,7 @@ private slots:
 
     void otherLengthsNeverEqualACurve() {
         Audiosetting_right_factoryeq_widget page(nullptr);
-        const tagAudioEQItem_T flat = audiosetting::eq::presets().first();
+        const tagAudioEQItem_T flat = audiosetting::eq::curves().first();
         QList<int> levels = reference::everywhere(12);
         QVERIFY(page.eqCompareList(flat, levels));
         levels << 12;

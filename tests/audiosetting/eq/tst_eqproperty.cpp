@@ -142,18 +142,18 @@ class tst_EqProperty : public PageTest {
         int expected = -1;
         const int highlighted =
             recording::stored("HIGHLIGHT_PRESET_ID").isValid() ? recording::stored("HIGHLIGHT_PRESET_ID").toInt() : -1;
-        for (int slot = 4; slot >= 0; --slot) {
-            bool equal = recording::stored(storedKey(slot)).toBool();
+        for (int preset = 4; preset >= 0; --preset) {
+            bool equal = recording::stored(savedKey(preset)).toBool();
             for (int band = 0; equal && highlighted == -1 && band < 13; ++band) {
-                equal = recording::stored(slotKey(slot, band)).toInt() == levels[band];
+                equal = recording::stored(presetKey(preset, band)).toInt() == levels[band];
             }
             if (equal) {
-                expected = highlighted == -1 ? slot : highlighted;
+                expected = highlighted == -1 ? preset : highlighted;
             }
         }
         return selected(*m_page) == expected
                    ? QString()
-                   : QStringLiteral("slot %1 is selected, not %2").arg(selected(*m_page)).arg(expected);
+                   : QStringLiteral("preset %1 is selected, not %2").arg(selected(*m_page)).arg(expected);
     }
 
 private slots:

@@ -41,14 +41,14 @@ private slots:
     }
 
     void holdsThePresetsAndTheFiveCustomRows() {
-        QCOMPARE(eq::presets().size(), 13);
+        QCOMPARE(eq::curves().size(), 13);
         for (const reference::Curve &curve : reference::presets()) {
-            const int row = eq::findByType(eq::presets(), curve.type);
+            const int row = eq::findByType(eq::curves(), curve.type);
             QVERIFY(row >= 0);
-            QVERIFY(std::equal(curve.gains.begin(), curve.gains.end(), eq::presets().at(row).gain));
+            QVERIFY(std::equal(curve.gains.begin(), curve.gains.end(), eq::curves().at(row).gain));
         }
         for (int type = 16; type <= 20; ++type) {
-            const tagAudioEQItem_T &item = eq::presets().at(eq::findByType(eq::presets(), type));
+            const tagAudioEQItem_T &item = eq::curves().at(eq::findByType(eq::curves(), type));
             QCOMPARE(item.id, type);
             QVERIFY(std::all_of(item.gain, item.gain + eqBandCount, [](int gain) { return gain == 0; }));
         }
@@ -57,13 +57,13 @@ private slots:
     void rowsCarryTheirIds() {
         const QList<QPair<int, int>> rows{{0, 0}, {1, 1}, {2, 2}, {3, 3}, {7, 4}, {8, 5}, {4, 6}, {5, 7}};
         for (int i = 0; i < rows.size(); ++i) {
-            QCOMPARE(eq::presets().at(i).type, rows.at(i).first);
-            QCOMPARE(eq::presets().at(i).id, rows.at(i).second);
+            QCOMPARE(eq::curves().at(i).type, rows.at(i).first);
+            QCOMPARE(eq::curves().at(i).id, rows.at(i).second);
         }
     }
 
     void theFirstRowOfATypeWins() {
-        QList<tagAudioEQItem_T> table = eq::presets();
+        QList<tagAudioEQItem_T> table = eq::curves();
         table.append(table.at(1));
         table.last().gain[0] = 9;
         QCOMPARE(eq::findByType(table, 1), 1);
@@ -72,8 +72,8 @@ private slots:
 
     void aTypeWithoutARowIsFlat() {
         for (int type : {6, 9, 15, 21, -1}) {
-            QCOMPARE(eq::findByType(eq::presets(), type), -1);
-            const tagAudioEQItem_T flat = eq::curveOfType(eq::presets(), type);
+            QCOMPARE(eq::findByType(eq::curves(), type), -1);
+            const tagAudioEQItem_T flat = eq::curveOfType(eq::curves(), type);
             QVERIFY(std::all_of(flat.gain, flat.gain + eqBandCount, [](int gain) { return gain == 0; }));
         }
     }

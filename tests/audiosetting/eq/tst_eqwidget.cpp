@@ -55,7 +55,7 @@ QPoint at(int level) {
 }
 
 const reference::Curve *presetOf(int type) {
-    for (const reference::Curve &curve : reference::panelPresets()) {
+    for (const reference::Curve &curve : reference::panelCurves()) {
         if (curve.type == type) {
             return &curve;
         }

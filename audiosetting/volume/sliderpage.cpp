@@ -1,4 +1,4 @@
-#include "sliderrow.h"
+#include "sliderpage.h"
 
 #include "horizontalslider.h"
 #include "scrollbar.h"

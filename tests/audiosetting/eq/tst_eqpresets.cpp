@@ -1,4 +1,4 @@
-// The EQ page's five slots: storing, recalling, selection.
+// The EQ page's five presets: saving, recalling, selection.
 
 #include "tests/audiosetting/eq/eqpagetest.h"
 #include "tests/platform/testmain.h"
@@ -14,52 +14,52 @@ const int minimum = std::numeric_limits<int>::min();
 const int maximum = std::numeric_limits<int>::max();
 const int longPress = 1500;
 
-/// The lines of a slot's storing, after the beep.
-QStringList storing(int slot, const QList<int> &levels) {
-    QStringList lines{lastSlot(slot)};
+/// The lines of a preset's saving, after the beep.
+QStringList saving(int preset, const QList<int> &levels) {
+    QStringList lines{lastPreset(preset)};
     for (int band = 0; band < levels.size(); ++band) {
-        lines << QStringLiteral("setValue(\"%1\", 12, %2, true)").arg(slotKey(slot, band)).arg(levels[band]);
+        lines << QStringLiteral("setValue(\"%1\", 12, %2, true)").arg(presetKey(preset, band)).arg(levels[band]);
     }
-    return lines << QStringLiteral("setValue(\"%1\", false, true, true)").arg(storedKey(slot));
+    return lines << QStringLiteral("setValue(\"%1\", false, true, true)").arg(savedKey(preset));
 }
 
 }  // namespace
 
-class tst_EqSlots : public PageTest {
+class tst_EqPresets : public PageTest {
     Q_OBJECT
 private slots:
     void fiveSlots_data() {
-        QTest::addColumn<int>("slot");
-        for (int slot = 0; slot < 5; ++slot) {
-            QTest::addRow("slot %d", slot) << slot;
+        QTest::addColumn<int>("preset");
+        for (int preset = 0; preset < 5; ++preset) {
+            QTest::addRow("preset %d", preset) << preset;
         }
     }
 
     void aLongPressStoresTheCurveShown_data() { fiveSlots_data(); }
     void aLongPressStoresTheCurveShown() {
-        QFETCH(int, slot);
-        setLive(curve(slot));
+        QFETCH(int, preset);
+        setLive(curve(preset));
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
-        QPushButton *const key = customKey(page, slot);
+        QPushButton *const key = customKey(page, preset);
         finger::press(key, key->rect().center());
         advance(longPress - 1);
         QCOMPARE(recording::take(), QStringList());
         advance(1);
-        QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + storing(slot, curve(slot)));
-        QCOMPARE(selected(page), slot);
+        QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + saving(preset, curve(preset)));
+        QCOMPARE(selected(page), preset);
         advance(5000);
         QCOMPARE(recording::take(), QStringList());
         // The release neither recalls nor beeps.
         finger::release(key, key->rect().center());
-        QCOMPARE(recording::take(), QStringList{highlight(slot)});
-        QCOMPARE(selected(page), slot);
-        QCOMPARE(reference::levels(page), curve(slot));
+        QCOMPARE(recording::take(), QStringList{highlight(preset)});
+        QCOMPARE(selected(page), preset);
+        QCOMPARE(reference::levels(page), curve(preset));
     }
 
     void storingSelectsTheSlotBeforeTheRelease() {
         setLive(curve(1));
-        storeSlot(4, curve(1));
+        savePreset(4, curve(1));
         recording::setStored("HIGHLIGHT_PRESET_ID", 4);
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
@@ -94,45 +94,45 @@ private slots:
         show(&page);
         const QList<int> rock = reference::levels(reference::presets()[3]);
         finger::hold(customKey(page, 1), longPress);
-        QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + storing(1, rock) + QStringList{type(16)} +
-                                        sendAll(rock) + QStringList{highlight(1)});
+        QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + saving(1, rock) + QStringList{type(16)} + sendAll(rock) +
+                                        QStringList{highlight(1)});
         QCOMPARE(reference::levels(page), rock);
         QCOMPARE(selected(page), 1);
     }
 
     void aStoredSlotShowsItsNameAnEmptyOneItsPicture() {
-        storeSlot(3, curve(1));
+        savePreset(3, curve(1));
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         const auto check = [&page](const QList<int> &stored) {
-            for (int slot = 0; slot < 5; ++slot) {
-                const auto name = page.findChild<QLabel *>(QStringLiteral("Txt_custom%1").arg(slot + 1));
-                const auto picture = page.findChild<QLabel *>(QStringLiteral("Icn_preset_%1").arg(slot + 1));
-                QCOMPARE(name->isVisible(), stored.contains(slot));
-                QCOMPARE(picture->isVisible(), !stored.contains(slot));
+            for (int preset = 0; preset < 5; ++preset) {
+                const auto name = page.findChild<QLabel *>(QStringLiteral("Txt_custom%1").arg(preset + 1));
+                const auto picture = page.findChild<QLabel *>(QStringLiteral("Icn_preset_%1").arg(preset + 1));
+                QCOMPARE(name->isVisible(), stored.contains(preset));
+                QCOMPARE(picture->isVisible(), !stored.contains(preset));
             }
         };
         check({3});
         finger::hold(customKey(page, 0), longPress);
         check({0, 3});
         page.hide();
-        recording::setStored(storedKey(3), false);
+        recording::setStored(savedKey(3), false);
         show(&page);
         check({0});
     }
 
     void aShortPressRecallsAStoredSlot_data() { fiveSlots_data(); }
     void aShortPressRecallsAStoredSlot() {
-        QFETCH(int, slot);
+        QFETCH(int, preset);
         setLive(everywhere(12));
-        storeSlot(slot, curve(3));
+        savePreset(preset, curve(3));
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
-        QPushButton *const key = customKey(page, slot);
+        QPushButton *const key = customKey(page, preset);
         finger::press(key, key->rect().center());
         QCOMPARE(recording::take(), QStringList());
         finger::release(key, key->rect().center());
-        QStringList lines{"doBeep(0)", highlight(slot), lastSlot(slot)};
+        QStringList lines{"doBeep(0)", highlight(preset), lastPreset(preset)};
         for (int band = 0; band < 13; ++band) {
             if (curve(3)[band] != 12) {  // what the service holds already
                 lines << send(24 - curve(3)[band], band);
@@ -140,7 +140,7 @@ private slots:
         }
         QCOMPARE(recording::take(), lines);
         QCOMPARE(reference::levels(page), curve(3));
-        QCOMPARE(selected(page), slot);
+        QCOMPARE(selected(page), preset);
         for (int band = 0; band < 13; ++band) {
             QCOMPARE(upKeys(page)[band]->isEnabled(), curve(3)[band] > 0);
             QCOMPARE(downKeys(page)[band]->isEnabled(), curve(3)[band] < 24);
@@ -149,18 +149,18 @@ private slots:
 
     void recallingLeavesAPreset() {
         recording::state().eqType = 7;
-        storeSlot(0, everywhere(12));
+        savePreset(0, everywhere(12));
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         finger::tap(customKey(page, 0));
         QCOMPARE(recording::take(),
-                 QStringList({"doBeep(0)", highlight(0), lastSlot(0), type(16)}) + sendAll(everywhere(12)));
+                 QStringList({"doBeep(0)", highlight(0), lastPreset(0), type(16)}) + sendAll(everywhere(12)));
         QCOMPARE(recording::state().eqType, 16);
     }
 
     void anEmptySlotOnlyEvaluatesTheSelection() {
         setLive(curve(1));
-        storeSlot(4, curve(1));
+        savePreset(4, curve(1));
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         QCOMPARE(selected(page), 4);
@@ -171,12 +171,12 @@ private slots:
 
     void aPressJustTooShortToStoreRecalls() {
         setLive(everywhere(12));
-        storeSlot(2, curve(2));
+        savePreset(2, curve(2));
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         finger::hold(customKey(page, 2), longPress - 1);
         QCOMPARE(recording::take().first(), QStringLiteral("doBeep(0)"));
-        QCOMPARE(recording::stored(slotKey(2, 0)), QVariant(curve(2)[0]));
+        QCOMPARE(recording::stored(presetKey(2, 0)), QVariant(curve(2)[0]));
         QCOMPARE(reference::levels(page), curve(2));
     }
 
@@ -189,12 +189,12 @@ private slots:
         advance(80);
         recording::clear();
         finger::tap(customKey(page, 0));
-        QCOMPARE(recording::take(), QStringList({"doBeep(0)", highlight(0), lastSlot(0), send(24 - curve(1)[0], 0)}));
+        QCOMPARE(recording::take(), QStringList({"doBeep(0)", highlight(0), lastPreset(0), send(24 - curve(1)[0], 0)}));
         QCOMPARE(reference::levels(page), curve(1));
     }
 
     void touchesOnNameAndPictureReachTheKey() {
-        storeSlot(0, curve(1));
+        savePreset(0, curve(1));
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         finger::tap(page.findChild<QLabel *>("Txt_custom1"));
@@ -210,11 +210,11 @@ private slots:
 
     void theFirstSlotWithTheCurveShownIsSelected() {
         setLive(curve(1));
-        storeSlot(1, curve(2));
-        storeSlot(2, curve(1));
-        storeSlot(3, curve(1));
+        savePreset(1, curve(2));
+        savePreset(2, curve(1));
+        savePreset(3, curve(1));
         for (int band = 0; band < 13; ++band) {
-            recording::setStored(slotKey(0, band), curve(1)[band]);  // equal, but never stored
+            recording::setStored(presetKey(0, band), curve(1)[band]);  // equal, but never stored
         }
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
@@ -230,7 +230,7 @@ private slots:
         for (int band = 0; band < 13; ++band) {
             QList<int> levels = curve(1);
             levels[band] += levels[band] < 24 ? 1 : -1;
-            storeSlot(0, levels);
+            savePreset(0, levels);
             page.updateCurrentSelect();
             QCOMPARE(selected(page), -1);
         }
@@ -238,8 +238,8 @@ private slots:
 
     void theHighlightedSlotIsSelectedWhateverItStores() {
         setLive(curve(1));
-        storeSlot(1, curve(1));
-        storeSlot(3, curve(2));
+        savePreset(1, curve(1));
+        savePreset(3, curve(2));
         recording::setStored("HIGHLIGHT_PRESET_ID", 3);
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
@@ -255,7 +255,7 @@ private slots:
     void aHighlightThatNamesNoStoredSlotSelectsNone() {
         QFETCH(int, highlighted);
         setLive(curve(1));
-        storeSlot(1, curve(1));
+        savePreset(1, curve(1));
         recording::setStored("HIGHLIGHT_PRESET_ID", highlighted);
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
@@ -265,7 +265,7 @@ private slots:
 
     void underAPresetTheSelectionFollowsAfter20Milliseconds() {
         recording::state().eqType = 3;
-        storeSlot(4, reference::levels(reference::presets()[3]));
+        savePreset(4, reference::levels(reference::presets()[3]));
         Audiosetting_right_eq_widget page(nullptr);
         page.show();
         advance(19);
@@ -291,13 +291,13 @@ private slots:
     }
 
     void updateCustomEqUiSelectsStoredSlotsOnly() {
-        storeSlot(1, curve(1));
+        savePreset(1, curve(1));
         Audiosetting_right_eq_widget page(nullptr);
         page.updateCustomEqUi(1);
         QCOMPARE(selected(page), 1);
-        for (int slot : {0, 5, -1, minimum, maximum}) {
+        for (int preset : {0, 5, -1, minimum, maximum}) {
             page.updateCustomEqUi(1);
-            page.updateCustomEqUi(slot);
+            page.updateCustomEqUi(preset);
             QCOMPARE(selected(page), -1);
         }
     }
@@ -306,23 +306,23 @@ private slots:
 
     void storingInNoSlotOnlyNotesTheNumber() {
         Audiosetting_right_eq_widget page(nullptr);
-        for (int slot : {-1, 5, minimum, maximum}) {
-            page.saveCustomEqValue(slot, 0, 0);
-            QCOMPARE(recording::take(), QStringList{lastSlot(slot)});
+        for (int preset : {-1, 5, minimum, maximum}) {
+            page.saveCustomEqValue(preset, 0, 0);
+            QCOMPARE(recording::take(), QStringList{lastPreset(preset)});
         }
     }
 
     void slotsAndBandsOutOfRangeAreIgnored() {
         Audiosetting_right_eq_widget page(nullptr);
-        for (int slot : {-1, 5, minimum, maximum}) {
-            QCOMPARE(page.getCustomEqValue(0, slot), 0);
-            QVERIFY(!page.eqValueCompare(slot));
-            page.updateCustomEqByType(slot, 0, 3);
-            QVERIFY(QMetaObject::invokeMethod(&page, "onButtonCustomPressed", Q_ARG(int, slot)));
-            QVERIFY(QMetaObject::invokeMethod(&page, "onbuttonCustomClicked", Q_ARG(int, slot)));
+        for (int preset : {-1, 5, minimum, maximum}) {
+            QCOMPARE(page.getCustomEqValue(0, preset), 0);
+            QVERIFY(!page.eqValueCompare(preset));
+            page.updateCustomEqByType(preset, 0, 3);
+            QVERIFY(QMetaObject::invokeMethod(&page, "onButtonCustomPressed", Q_ARG(int, preset)));
+            QVERIFY(QMetaObject::invokeMethod(&page, "onbuttonCustomClicked", Q_ARG(int, preset)));
             QCOMPARE(recording::take(), QStringList());
-            page.updateEqType(slot);
-            QCOMPARE(recording::take(), QStringList{lastSlot(slot)});
+            page.updateEqType(preset);
+            QCOMPARE(recording::take(), QStringList{lastPreset(preset)});
         }
         for (int band : {-1, 13}) {
             page.updateCustomEqByType(0, band, 3);
@@ -344,13 +344,13 @@ private slots:
             &Audiosetting_right_eq_widget::onSetCustom1, &Audiosetting_right_eq_widget::onSetCustom2,
             &Audiosetting_right_eq_widget::onSetCustom3, &Audiosetting_right_eq_widget::onSetCustom4,
             &Audiosetting_right_eq_widget::onSetCustom5};
-        for (int slot = 0; slot < 5; ++slot) {
+        for (int preset = 0; preset < 5; ++preset) {
             setLive(everywhere(24));
             recording::state().customEq.fill(-7);
-            storeSlot(slot, curve(slot));
-            (page.*recalls[slot])();
-            QCOMPARE(recording::take(), sendAll(curve(slot)));
-            QCOMPARE(reference::levels(page), curve(slot));
+            savePreset(preset, curve(preset));
+            (page.*recalls[preset])();
+            QCOMPARE(recording::take(), sendAll(curve(preset)));
+            QCOMPARE(reference::levels(page), curve(preset));
         }
     }
 
@@ -361,27 +361,27 @@ private slots:
         levels[1] = -1;
         levels[2] = maximum;
         levels[3] = minimum;
-        storeSlot(0, levels);
+        savePreset(0, levels);
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         finger::tap(customKey(page, 0));
         QCOMPARE(reference::levels(page), levels);
         QCOMPARE(selected(page), 0);
-        QCOMPARE(recording::stored(slotKey(0, 3)), QVariant(minimum));
+        QCOMPARE(recording::stored(presetKey(0, 3)), QVariant(minimum));
         QVERIFY(!downKeys(page)[2]->isEnabled());
         QVERIFY(!upKeys(page)[3]->isEnabled());
     }
 
     void aBadLastSlotDoesNoHarmOnShow() {
-        storeSlot(0, curve(1));
-        for (int slot : {-1, 5, minimum, maximum}) {
+        savePreset(0, curve(1));
+        for (int preset : {-1, 5, minimum, maximum}) {
             setLive(curve(2));
-            recording::setStored("custom_eq_type_id", slot);
+            recording::setStored("custom_eq_type_id", preset);
             Audiosetting_right_eq_widget page(nullptr);
             show(&page);
             QCOMPARE(selected(page), -1);
             QCOMPARE(recording::take(), QStringList());
-            // Recalling a slot repairs it.
+            // Recalling a preset repairs it.
             finger::tap(customKey(page, 0));
             QCOMPARE(recording::stored("custom_eq_type_id"), QVariant(0));
             QCOMPARE(reference::levels(page), curve(1));
@@ -391,5 +391,5 @@ private slots:
     }
 };
 
-PAGE_TEST_MAIN(tst_EqSlots)
-#include "tst_eqslots.moc"
+PAGE_TEST_MAIN(tst_EqPresets)
+#include "tst_eqpresets.moc"
