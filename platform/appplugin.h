@@ -6,7 +6,7 @@
 class SourceInterface;
 class WindowInterface;
 
-/// What the host asks of an application's plug-in. Found with qobject_cast on the plug-in's root object.
+/// An application's plug-in, as the host sees it. Found with qobject_cast on the plug-in's root object.
 class AppPlugin {
 public:
     virtual ~AppPlugin() {}

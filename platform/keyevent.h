@@ -3,6 +3,9 @@
 #include <QEvent>
 
 /// A hard key of the unit, offered to the window in front.
+///
+/// It is only ever handed to WindowInterface::keyEvent(), by a plain call. It carries the type numbers of Qt's own key
+/// events and is none: never post or send it through Qt, whose widgets would take it for a QKeyEvent.
 class KeyEvent : public QEvent {
 public:
     /// Codes of the hard keys.

@@ -13,7 +13,8 @@ namespace cm {
 class PLATFORM_API ScrollManage : public QObject {
     Q_OBJECT
 public:
-    /// Scrolls \a area, which is not owned, along the axes given.
+    /// Scrolls \a area by finger, up and down where \a vertical, left and right where \a horizontal. The new object
+    /// becomes a child of \a area, which deletes it: callers make it with new and keep it no longer than the area.
     ScrollManage(QScrollArea *area, bool vertical, bool horizontal);
     ~ScrollManage() override;
 

@@ -14,6 +14,9 @@ public:
 
 Q_SIGNALS:
     /// Raised, on this object, by whoever changed the setting \a key on behalf of others.
+    ///
+    /// For "SettingTouchPageType" (see SettingsFunc) only while the audio settings are in front: an application that is
+    /// opened reads the request by itself, and would take one that comes twice for a page to return to.
     void SettingsCacheSig(const QString &key);
 
 private:

@@ -9,6 +9,10 @@ namespace mem {
 /// The unit's store of settings that applications share, beside the audio settings.
 ///
 /// One object per process, used from the GUI thread. Writing raises no signal (see SettingsCache).
+///
+/// "SettingTouchPageType" is how another application asks for a page of the audio settings: it writes 3 (Volume
+/// Settings; 0 is no request), raises SettingsCache::SettingsCacheSig() if the audio settings are the application in
+/// front, and opens them. The audio settings write 0 when the page has been left.
 class PLATFORM_API SettingsFunc {
 public:
     static SettingsFunc *instance();

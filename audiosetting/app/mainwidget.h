@@ -6,7 +6,7 @@ class AudioRootPagtSettings;
 
 namespace audiosetting {
 
-/// What the window shows: a bare widget that holds the root page container.
+/// The window's content: a bare widget that holds the root page container.
 class MainWidget : public QWidget {
     Q_OBJECT
 public:

@@ -2,7 +2,8 @@
 
 namespace audiosetting {
 
-/// Ids, in the unit's table of texts (Translator), of the texts that code shows. What a form shows by itself has none.
+/// Ids, in the unit's table of texts (Translator), of the texts that code shows. Texts that a form shows by itself have
+/// none.
 namespace texts {
 
 // Titles. The ids of Crossover and Factory EQ run the other way than their page ids. Required: they name rows of the

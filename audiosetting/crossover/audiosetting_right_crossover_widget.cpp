@@ -108,10 +108,6 @@ void Audiosetting_right_crossover_widget::showEvent(QShowEvent *event) {
     QWidget::showEvent(event);
 }
 
-void Audiosetting_right_crossover_widget::onResetCrossover() {
-    reload();
-}
-
 void Audiosetting_right_crossover_widget::reload() {
     resume();
     for (int channel : {Rear, Subwoofer, Front}) {
@@ -162,14 +158,6 @@ void Audiosetting_right_crossover_widget::onUpdateCurrentSelect() {
 
 // Slope -----------------------------------------------------------------------------------------------------------
 
-void Audiosetting_right_crossover_widget::onSlopMinusClicked() {
-    stepSlope(-1);
-}
-
-void Audiosetting_right_crossover_widget::onSlopPlusClicked() {
-    stepSlope(1);
-}
-
 void Audiosetting_right_crossover_widget::stepSlope(int step) {
     qvaudio::AudioService::instance()->doBeep(0);
     if (isChannel(m_type)) {
@@ -185,18 +173,6 @@ void Audiosetting_right_crossover_widget::onSelectSlope() {
     }
 }
 
-void Audiosetting_right_crossover_widget::onSetFrontSlopeBg() {
-    applySlope(Front);
-}
-
-void Audiosetting_right_crossover_widget::onSetRearSlopeBg() {
-    applySlope(Rear);
-}
-
-void Audiosetting_right_crossover_widget::onSetSubWooferSlopeBg() {
-    applySlope(Subwoofer);
-}
-
 void Audiosetting_right_crossover_widget::applySlope(int channel) {
     const int slope = m_filters.value(channel, Slope);
     if (slope >= minSlope && slope <= maxSlope) {
@@ -210,14 +186,6 @@ void Audiosetting_right_crossover_widget::applySlope(int channel) {
 
 // Frequency -------------------------------------------------------------------------------------------------------
 
-void Audiosetting_right_crossover_widget::onFreqMinusClicked() {
-    stepFrequency(-1);
-}
-
-void Audiosetting_right_crossover_widget::onFreqPlusClicked() {
-    stepFrequency(1);
-}
-
 void Audiosetting_right_crossover_widget::stepFrequency(int step) {
     qvaudio::AudioService::instance()->doBeep(0);
     if (isChannel(m_type)) {
@@ -225,18 +193,6 @@ void Audiosetting_right_crossover_widget::stepFrequency(int step) {
         applyCurve(m_type, m_filters.value(m_type, Y), m_filters.value(m_type, Heigh));
     }
     updateCurrentPreset();
-}
-
-void Audiosetting_right_crossover_widget::onHeigh_Front_Freq(int y, int heigh) {
-    applyCurve(Front, y, heigh);
-}
-
-void Audiosetting_right_crossover_widget::onHeigh_Rear_Freq(int y, int heigh) {
-    applyCurve(Rear, y, heigh);
-}
-
-void Audiosetting_right_crossover_widget::onLow_Subwoofer_Freq(int y, int heigh) {
-    applyCurve(Subwoofer, y, heigh);
 }
 
 void Audiosetting_right_crossover_widget::applyCurve(int channel, int y, int heigh) {
@@ -315,14 +271,6 @@ void Audiosetting_right_crossover_widget::setLevel(int level, int y, int heigh) 
     applyCurve(m_type, y, heigh);
 }
 
-void Audiosetting_right_crossover_widget::onSetFrontData(int iIndex, int y, int heigh) {
-    storeData(Front, iIndex, y, heigh);
-}
-
-void Audiosetting_right_crossover_widget::onSetRearData(int iIndex, int y, int heigh) {
-    storeData(Rear, iIndex, y, heigh);
-}
-
 void Audiosetting_right_crossover_widget::onSetSubwooferData(int iIndex, int y, int heigh) {
     storeData(Subwoofer, iIndex, y, heigh);
 }
@@ -356,14 +304,6 @@ void Audiosetting_right_crossover_widget::onPresetButtonClicked(int iIdx) {
     }
     onUpdateCurrentSelect();
     updatePresetButton(iIdx);
-}
-
-void Audiosetting_right_crossover_widget::onPreset1LongClicked() {
-    savePreset(0);
-}
-
-void Audiosetting_right_crossover_widget::onPreset2LongClicked() {
-    savePreset(1);
 }
 
 void Audiosetting_right_crossover_widget::savePreset(int preset) {

@@ -16,6 +16,7 @@ class Audiosetting_right_crossover_widget;
 /// The Crossover page: the filters of the front, rear and subwoofer channels, and two presets of all of them.
 ///
 /// Every change goes to the store and to the microcontroller at once; showing the page sends all channels anew.
+/// The slots onLow_..., onHeigh_... and onSet...() are required; nothing here calls them.
 class Audiosetting_right_crossover_widget : public QWidget {
     Q_OBJECT
 public:
@@ -43,31 +44,31 @@ public:
 public Q_SLOTS:
     void onGeneralButtonClicked(int iIdx);
     void onPresetButtonClicked(int iIdx);
-    void onPreset1LongClicked();
-    void onPreset2LongClicked();
-    void onSlopMinusClicked();
-    void onSlopPlusClicked();
-    void onFreqMinusClicked();
-    void onFreqPlusClicked();
+    void onPreset1LongClicked() { savePreset(0); }
+    void onPreset2LongClicked() { savePreset(1); }
+    void onSlopMinusClicked() { stepSlope(-1); }
+    void onSlopPlusClicked() { stepSlope(1); }
+    void onFreqMinusClicked() { stepFrequency(-1); }
+    void onFreqPlusClicked() { stepFrequency(1); }
     void onLevelPlusClicked();
     void onLevelMinusClicked();
     /// Place the channel's curve by its frequency, with the given top edge and height in px, and send the channel.
-    void onLow_Subwoofer_Freq(int y, int heigh);
-    void onHeigh_Rear_Freq(int y, int heigh);
-    void onHeigh_Front_Freq(int y, int heigh);
+    void onLow_Subwoofer_Freq(int y, int heigh) { applyCurve(audiosetting::crossover::Subwoofer, y, heigh); }
+    void onHeigh_Rear_Freq(int y, int heigh) { applyCurve(audiosetting::crossover::Rear, y, heigh); }
+    void onHeigh_Front_Freq(int y, int heigh) { applyCurve(audiosetting::crossover::Front, y, heigh); }
     /// Show the channel's slope and send the channel.
-    void onSetSubWooferSlopeBg();
-    void onSetFrontSlopeBg();
-    void onSetRearSlopeBg();
+    void onSetSubWooferSlopeBg() { applySlope(audiosetting::crossover::Subwoofer); }
+    void onSetFrontSlopeBg() { applySlope(audiosetting::crossover::Front); }
+    void onSetRearSlopeBg() { applySlope(audiosetting::crossover::Rear); }
     void setLevel_Minus();
     void setLevel_Plus();
     void onSelectSlope();
     /// Store the channel's level, and top edge and height of its curve in px. Send nothing.
-    void onSetFrontData(int iIndex, int y, int heigh);
-    void onSetRearData(int iIndex, int y, int heigh);
+    void onSetFrontData(int iIndex, int y, int heigh) { storeData(audiosetting::crossover::Front, iIndex, y, heigh); }
+    void onSetRearData(int iIndex, int y, int heigh) { storeData(audiosetting::crossover::Rear, iIndex, y, heigh); }
     void onSetSubwooferData(int iIndex, int y, int heigh);
     void onUpdateCurrentSelect();
-    void onResetCrossover();
+    void onResetCrossover() { reload(); }
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -26,7 +26,7 @@ public:
     /// Sends a channel to the microcontroller.
     void send(int channel) const;
 
-    /// Steps by 1 or -1, around at either end.
+    /// One step up (\a step above 0) or down, around at either end.
     void stepSlope(int channel, int step);
     void stepFrequency(int channel, int step);
 

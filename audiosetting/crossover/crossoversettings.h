@@ -9,7 +9,7 @@ namespace crossover {
 
 enum Channel { Front, Rear, Subwoofer, channelCount };
 
-/// What is kept of each channel, in the order in which a whole channel is written.
+/// The fields of a channel, in the order in which a whole channel is written.
 enum Field {
     Freq,   ///< index into the channel's frequencies, 0 is off
     Y,      ///< top edge of the curve picture in the graph, px

@@ -71,7 +71,7 @@ EQWidget::EQWidget(QWidget *parent) : QWidget(parent), m_look(new Look), m_ui(ne
 
 EQWidget::~EQWidget() {
     delete m_knob;
-    QPixmapCache::clear();
+    QPixmapCache::clear();  // required: the panel is large and seldom shown, its pictures must not stay
 }
 
 void EQWidget::init() {

@@ -62,7 +62,7 @@ void Audiosetting_right_general_widget::initUi() {
     m_sendTimer.setInterval(sendInterval);
     connect(&m_sendTimer, SIGNAL(timeout()), this, SLOT(onUpdateBalFadValue()));
 
-    // What Defeat greys is found by name.
+    // The controls that Defeat greys are found by name.
     m_defeatedKeys = findChildren<QAbstractButton *>(QRegularExpression(QStringLiteral("key_|Key_")));
     m_defeatedKeys.removeOne(m_ui->key_defeat);
     m_defeatedKeys.removeOne(m_ui->key_advanced);

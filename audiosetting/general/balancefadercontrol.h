@@ -9,7 +9,8 @@ namespace settings {
 /// The touch pad of balance (left to right) and fader (up is front), each -15 to 15.
 ///
 /// A touch is turned into values and announced; the owner answers with setValueX(), setValueY() and updatePos(),
-/// which move the marker. The pad knows nothing of the audio service but its key beep.
+/// which move the marker. The pad knows nothing of the audio service but its key beep. Getters, onUpdateBalance() and
+/// setBalance() are required and have no use here.
 class balanceFaderControl : public QLabel {
     Q_OBJECT
 public:
@@ -68,7 +69,7 @@ private:
     QPoint m_horizontalLinePos;
     QPoint m_markerPos;
     QTimer m_dragTimer;
-    QPixmap m_still;  ///< ground, background and lines, composed once: a drag then costs one marker
+    QPixmap m_still;  ///< screen background, pad and lines, composed once: a drag then costs one marker
 };
 
 }  // namespace settings

@@ -172,7 +172,7 @@ void AudioRootPagtSettings::onAdvancedChanged() {
     showAudiosettingsRoot();
 }
 
-// What the driver and other applications ask for ------------------------------------------------------------------
+// Requests of the driver and of other applications ----------------------------------------------------------------
 
 void AudioRootPagtSettings::onPageChanged(int iIdx) {
     qvaudio::AudioService::instance()->doBeep(0);

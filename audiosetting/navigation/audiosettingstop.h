@@ -18,7 +18,8 @@ public:
     void onSetTxtTitle(const QString &title);
     /// Changes the title's text alone.
     void setTitleText(const QString &title);
-    /// What "Flat" resets, an audiosetting::FlatType; 0 hides the key. An unknown type shows a key that only beeps.
+    /// Sets what "Flat" resets, an audiosetting::FlatType; 0 hides the key. An unknown type shows a key that only
+    /// beeps.
     void setBtnResetType(int type);
 
 Q_SIGNALS:

@@ -14,7 +14,7 @@ enum PageId {
     PageSettingsRoot = 7,  ///< also while the reset dialog lies over it
 };
 
-/// What the top bar's Flat key resets.
+/// Settings that the top bar's Flat key resets.
 enum FlatType {
     FlatNone = 0,
     FlatCrossover = 1,

@@ -101,10 +101,6 @@ void Audiosetting_right_timing_widget::showEvent(QShowEvent *event) {
     QWidget::showEvent(event);
 }
 
-void Audiosetting_right_timing_widget::onResetTimeDelay() {
-    reload();
-}
-
 void Audiosetting_right_timing_widget::reload() {
     resume();
     refreshUI();
@@ -144,102 +140,6 @@ void Audiosetting_right_timing_widget::onGbButtonClicked(int iIdx) {
 }
 
 // Delays ----------------------------------------------------------------------------------------------------------
-
-void Audiosetting_right_timing_widget::onFrontLeftMinus() {
-    minusClicked(FrontLeft);
-}
-
-void Audiosetting_right_timing_widget::onFrontLeftPlus() {
-    plusClicked(FrontLeft);
-}
-
-void Audiosetting_right_timing_widget::onFrontRightMinus() {
-    minusClicked(FrontRight);
-}
-
-void Audiosetting_right_timing_widget::onFrontRightPlus() {
-    plusClicked(FrontRight);
-}
-
-void Audiosetting_right_timing_widget::onRearLeftMinus() {
-    minusClicked(RearLeft);
-}
-
-void Audiosetting_right_timing_widget::onRearLeftPlus() {
-    plusClicked(RearLeft);
-}
-
-void Audiosetting_right_timing_widget::onRearRightMinus() {
-    minusClicked(RearRight);
-}
-
-void Audiosetting_right_timing_widget::onRearRightPlus() {
-    plusClicked(RearRight);
-}
-
-void Audiosetting_right_timing_widget::onSubLeftMinus() {
-    minusClicked(SubLeft);
-}
-
-void Audiosetting_right_timing_widget::onSubLeftPlus() {
-    plusClicked(SubLeft);
-}
-
-void Audiosetting_right_timing_widget::onSubRightMinus() {
-    minusClicked(SubRight);
-}
-
-void Audiosetting_right_timing_widget::onSubRightPlus() {
-    plusClicked(SubRight);
-}
-
-void Audiosetting_right_timing_widget::onFLPrevPressedRepeat() {
-    buttonPrevClicked(FrontLeft);
-}
-
-void Audiosetting_right_timing_widget::onFLNextPressedRepeat() {
-    buttonNextClicked(FrontLeft);
-}
-
-void Audiosetting_right_timing_widget::onFRPrevPressedRepeat() {
-    buttonPrevClicked(FrontRight);
-}
-
-void Audiosetting_right_timing_widget::onFRNextPressedRepeat() {
-    buttonNextClicked(FrontRight);
-}
-
-void Audiosetting_right_timing_widget::onRLPrevPressedRepeat() {
-    buttonPrevClicked(RearLeft);
-}
-
-void Audiosetting_right_timing_widget::onRLNextPressedRepeat() {
-    buttonNextClicked(RearLeft);
-}
-
-void Audiosetting_right_timing_widget::onRRPrevPressedRepeat() {
-    buttonPrevClicked(RearRight);
-}
-
-void Audiosetting_right_timing_widget::onRRNextPressedRepeat() {
-    buttonNextClicked(RearRight);
-}
-
-void Audiosetting_right_timing_widget::onSLPrevPressedRepeat() {
-    buttonPrevClicked(SubLeft);
-}
-
-void Audiosetting_right_timing_widget::onSLNextPressedRepeat() {
-    buttonNextClicked(SubLeft);
-}
-
-void Audiosetting_right_timing_widget::onSRPrevPressedRepeat() {
-    buttonPrevClicked(SubRight);
-}
-
-void Audiosetting_right_timing_widget::onSRNextPressedRepeat() {
-    buttonNextClicked(SubRight);
-}
 
 void Audiosetting_right_timing_widget::minusClicked(int output) {
     qvaudio::AudioService::instance()->doBeep(0);
@@ -305,14 +205,6 @@ void Audiosetting_right_timing_widget::onPresetClicked(int iIdx) {
         buttonStateUpdate(output);
     }
     sendAudioTimerDelay();
-}
-
-void Audiosetting_right_timing_widget::onPreset1LongPressed() {
-    savePreset(0);
-}
-
-void Audiosetting_right_timing_widget::onPreset2LongPressed() {
-    savePreset(1);
 }
 
 void Audiosetting_right_timing_widget::savePreset(int preset) {

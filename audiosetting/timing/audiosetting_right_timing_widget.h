@@ -51,33 +51,34 @@ public Q_SLOTS:
     void initUi();
     void onGbButtonClicked(int iIdx);
     void onPresetClicked(int iIdx);
-    void onPreset1LongPressed();
-    void onPreset2LongPressed();
-    void onFLPrevPressedRepeat();
-    void onFLNextPressedRepeat();
-    void onFRPrevPressedRepeat();
-    void onFRNextPressedRepeat();
-    void onRLPrevPressedRepeat();
-    void onRLNextPressedRepeat();
-    void onRRPrevPressedRepeat();
-    void onRRNextPressedRepeat();
-    void onSLPrevPressedRepeat();
-    void onSLNextPressedRepeat();
-    void onSRPrevPressedRepeat();
-    void onSRNextPressedRepeat();
-    void onFrontLeftMinus();
-    void onFrontLeftPlus();
-    void onFrontRightMinus();
-    void onFrontRightPlus();
-    void onRearLeftMinus();
-    void onRearLeftPlus();
-    void onRearRightMinus();
-    void onRearRightPlus();
-    void onSubLeftMinus();
-    void onSubLeftPlus();
-    void onSubRightMinus();
-    void onSubRightPlus();
-    /// Conversions between delays in 0.1 ms and paths in inches (timing/delayunits.h).
+    void onPreset1LongPressed() { savePreset(0); }
+    void onPreset2LongPressed() { savePreset(1); }
+    void onFLPrevPressedRepeat() { buttonPrevClicked(audiosetting::timing::FrontLeft); }
+    void onFLNextPressedRepeat() { buttonNextClicked(audiosetting::timing::FrontLeft); }
+    void onFRPrevPressedRepeat() { buttonPrevClicked(audiosetting::timing::FrontRight); }
+    void onFRNextPressedRepeat() { buttonNextClicked(audiosetting::timing::FrontRight); }
+    void onRLPrevPressedRepeat() { buttonPrevClicked(audiosetting::timing::RearLeft); }
+    void onRLNextPressedRepeat() { buttonNextClicked(audiosetting::timing::RearLeft); }
+    void onRRPrevPressedRepeat() { buttonPrevClicked(audiosetting::timing::RearRight); }
+    void onRRNextPressedRepeat() { buttonNextClicked(audiosetting::timing::RearRight); }
+    void onSLPrevPressedRepeat() { buttonPrevClicked(audiosetting::timing::SubLeft); }
+    void onSLNextPressedRepeat() { buttonNextClicked(audiosetting::timing::SubLeft); }
+    void onSRPrevPressedRepeat() { buttonPrevClicked(audiosetting::timing::SubRight); }
+    void onSRNextPressedRepeat() { buttonNextClicked(audiosetting::timing::SubRight); }
+    void onFrontLeftMinus() { minusClicked(audiosetting::timing::FrontLeft); }
+    void onFrontLeftPlus() { plusClicked(audiosetting::timing::FrontLeft); }
+    void onFrontRightMinus() { minusClicked(audiosetting::timing::FrontRight); }
+    void onFrontRightPlus() { plusClicked(audiosetting::timing::FrontRight); }
+    void onRearLeftMinus() { minusClicked(audiosetting::timing::RearLeft); }
+    void onRearLeftPlus() { plusClicked(audiosetting::timing::RearLeft); }
+    void onRearRightMinus() { minusClicked(audiosetting::timing::RearRight); }
+    void onRearRightPlus() { plusClicked(audiosetting::timing::RearRight); }
+    void onSubLeftMinus() { minusClicked(audiosetting::timing::SubLeft); }
+    void onSubLeftPlus() { plusClicked(audiosetting::timing::SubLeft); }
+    void onSubRightMinus() { minusClicked(audiosetting::timing::SubRight); }
+    void onSubRightPlus() { plusClicked(audiosetting::timing::SubRight); }
+    /// Conversions between delays in 0.1 ms and paths in inches (timing/delayunits.h). Required; the page itself needs
+    /// onMsSwapInch() alone.
     double onInchToDelayMs(int iInch);
     int onInchToVal(int iInch);
     int onInchSwapMs(int iInchVla);
@@ -85,7 +86,7 @@ public Q_SLOTS:
     void buttonPrevClicked(int iIdx);
     void buttonNextClicked(int iIdx);
     void onUpdateCurrentSelect();
-    void onResetTimeDelay();
+    void onResetTimeDelay() { reload(); }
 
 protected:
     void showEvent(QShowEvent *event) override;

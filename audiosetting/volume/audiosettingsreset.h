@@ -36,7 +36,7 @@ private Q_SLOTS:
     void onAcceptClicked();
     void onRejectClicked();
     void onDelayhidePop();
-    // Nothing in the plug-in calls these four; others reach them by name.
+    // Required; nothing here calls these four.
     void makeEQDefaultEffect();
     void makeVolumeDefaultEffect();
     void makeCrossoverDefaultEffect();

@@ -15,6 +15,7 @@ public:
     explicit Audiosourcegainsettings(QWidget *parent);
     ~Audiosourcegainsettings() override;
 
+    // Required; nothing here calls these six.
     void updateBtnRadioState() { updateKeys(Radio); }
     void updateBtnCarPlayState() { updateKeys(CarPlay); }
     void updateBtnAndroidAutoState() { updateKeys(AndroidAuto); }

@@ -15,6 +15,7 @@ public:
     explicit Audiosourcegainsettings_b(QWidget *parent);
     ~Audiosourcegainsettings_b() override;
 
+    // Required; nothing here calls these six.
     void updateBtnRadioState() { updateKeys(Radio); }
     void updateBtnCarPlayState() { updateKeys(CarPlay); }
     void updateBtnAndroidAutoState() { updateKeys(AndroidAuto); }

@@ -218,38 +218,6 @@ void Audiovolumsettings::onPhoneVolumMinus() {
     sendLevel(Phone);
 }
 
-void Audiovolumsettings::onVoiceVolumPlus() {
-    stepUp(Voice);
-}
-
-void Audiovolumsettings::onVoiceVolumMinus() {
-    stepDown(Voice);
-}
-
-void Audiovolumsettings::onNaviVolumPlus() {
-    stepUp(Navigation);
-}
-
-void Audiovolumsettings::onNaviVolumMinus() {
-    stepDown(Navigation);
-}
-
-void Audiovolumsettings::onRingtoneVolumPlus() {
-    stepUp(Ringtone);
-}
-
-void Audiovolumsettings::onRingtoneVolumMinus() {
-    stepDown(Ringtone);
-}
-
-void Audiovolumsettings::onTAVolumPlus() {
-    stepUp(Ta);
-}
-
-void Audiovolumsettings::onTAVolumMinus() {
-    stepDown(Ta);
-}
-
 void Audiovolumsettings::stepUp(RowId id) {
     m_audioService->doBeep(0);
     m_rows[id].level = raised(m_rows[id].level);
@@ -271,30 +239,6 @@ void Audiovolumsettings::showLevel(RowId id) {
 void Audiovolumsettings::sendLevel(RowId id) {
     mcu::McuService::instance()->setAudioVolumeValue(m_rows[id].type, m_rows[id].level);
     updateKeys(id);
-}
-
-void Audiovolumsettings::updateBtnMainState() {
-    updateKeys(Main);
-}
-
-void Audiovolumsettings::updateBtnPhoneState() {
-    updateKeys(Phone);
-}
-
-void Audiovolumsettings::updateBtnRingtoneState() {
-    updateKeys(Ringtone);
-}
-
-void Audiovolumsettings::updateBtnNaviState() {
-    updateKeys(Navigation);
-}
-
-void Audiovolumsettings::updateBtnVoiceState() {
-    updateKeys(Voice);
-}
-
-void Audiovolumsettings::updateBtnTAState() {
-    updateKeys(Ta);
 }
 
 void Audiovolumsettings::updateKeys(RowId id) {

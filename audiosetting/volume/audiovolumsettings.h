@@ -36,12 +36,12 @@ public:
     /// Follows a change made elsewhere; false where the slider is null or under the finger.
     bool setCurrentVolumeSlider(HorizontalSlider *slider, int &level, int value);
 
-    void updateBtnMainState();
-    void updateBtnPhoneState();
-    void updateBtnRingtoneState();
-    void updateBtnNaviState();
-    void updateBtnVoiceState();
-    void updateBtnTAState();
+    void updateBtnMainState() { updateKeys(Main); }
+    void updateBtnPhoneState() { updateKeys(Phone); }
+    void updateBtnRingtoneState() { updateKeys(Ringtone); }
+    void updateBtnNaviState() { updateKeys(Navigation); }
+    void updateBtnVoiceState() { updateKeys(Voice); }
+    void updateBtnTAState() { updateKeys(Ta); }
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -59,14 +59,14 @@ private Q_SLOTS:
     void onMainVolumMinus();
     void onPhoneVolumPlus();
     void onPhoneVolumMinus();
-    void onVoiceVolumPlus();
-    void onVoiceVolumMinus();
-    void onNaviVolumPlus();
-    void onNaviVolumMinus();
-    void onRingtoneVolumPlus();
-    void onRingtoneVolumMinus();
-    void onTAVolumPlus();
-    void onTAVolumMinus();
+    void onVoiceVolumPlus() { stepUp(Voice); }
+    void onVoiceVolumMinus() { stepDown(Voice); }
+    void onNaviVolumPlus() { stepUp(Navigation); }
+    void onNaviVolumMinus() { stepDown(Navigation); }
+    void onRingtoneVolumPlus() { stepUp(Ringtone); }
+    void onRingtoneVolumMinus() { stepDown(Ringtone); }
+    void onTAVolumPlus() { stepUp(Ta); }
+    void onTAVolumMinus() { stepDown(Ta); }
     void onAudioVolumeChange(int mute, int vol, int type);
 
 private:

@@ -13,16 +13,17 @@ class ScrollBar;
 class ScrollManage;
 }  // namespace cm
 
-// What Volume Settings and Source Gain have in common: rows of a caption, two step keys and a slider, in a scroll area.
+// The common parts of Volume Settings and Source Gain: rows of a caption, two step keys and a slider, in a scroll area.
 
 namespace audiosetting {
 
 /// Where both pages lie in the container: below the top bar, over the whole width.
 QRect sliderPageGeometry();
 
-/// Lets a finger scroll \a area, and lets the screen's ground shine through it.
+/// Lets a finger scroll \a area, and lets the screen's background shine through it.
 cm::ScrollManage *makeScrollable(QScrollArea *area);
-/// Gives \a area the toolkit's scroll bar, which stands on the \a page itself, to the left of the rows.
+/// Gives \a area the toolkit's scroll bar, which stands on the \a page itself, to the left of the rows, and belongs to
+/// it.
 cm::ScrollBar *addScrollBar(QWidget *page, QScrollArea *area);
 
 /// Pictures and values of a slider.

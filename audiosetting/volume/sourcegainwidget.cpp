@@ -95,7 +95,7 @@ void SourceGainWidget::showStored(RowId id) {
     m_sliders[id]->setValue(sourcegain::gain(row.shownSource).value());
 }
 
-// What a finger does ----------------------------------------------------------------------------------------------
+// Sliders and keys ------------------------------------------------------------------------------------------------
 
 void SourceGainWidget::changedBySlider(RowId id, int, int gain) {
     m_gains[id] = gain;

@@ -16,7 +16,7 @@ class ScrollManage;
 
 namespace audiosetting {
 
-/// What the Source Gain page is in every region: the input gains (-10 to 10) of six sources, by slider and by keys.
+/// The Source Gain page of every region: the input gains (-10 to 10) of six sources, by slider and by keys.
 ///
 /// A regional page hands over its form and the names of its slots, and leads those slots back to here.
 class SourceGainWidget : public QWidget {
