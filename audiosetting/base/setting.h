@@ -16,6 +16,7 @@ public:
     bool flag() const { return AudioSettingsUtils::instance()->getValue(m_key, m_default.toBool()); }
     void write(const QVariant &value) const { AudioSettingsUtils::instance()->setValue(m_key, m_default, value, true); }
     const QString &key() const { return m_key; }
+    const QVariant &defaultValue() const { return m_default; }
 
 private:
     QString m_key;

@@ -19,7 +19,6 @@ using namespace audiosetting::crossover;
 
 namespace {
 
-const int maxLevel = 12;
 const int levelStep = 21;  // px that a level step moves the curve
 // The subwoofer's curve grows more on the way up than it shrinks on the way down. Required: cars hold the heights that
 // this has left, and a recalled preset must lie where it lay when it was saved.

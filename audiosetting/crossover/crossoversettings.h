@@ -13,13 +13,14 @@ enum Channel { Front, Rear, Subwoofer, channelCount };
 enum Field {
     Freq,   ///< index into the channel's frequencies, 0 is off
     Y,      ///< top edge of the curve picture in the graph, px
-    Level,  ///< 0 to 12, shown as -12 to 0
+    Level,  ///< 0 to maxLevel, shown as -12 to 0
     Slope,  ///< 1 to 3: 6, 12, 18 dB per octave
     Heigh,  ///< height of the curve picture, px; so spelled in the keys
     fieldCount
 };
 
 const int presetCount = 2;
+const int maxLevel = 12;  ///< 0 dB; level 0 is -12 dB
 
 /// The setting that is in force.
 const Setting &current(int channel, int field);

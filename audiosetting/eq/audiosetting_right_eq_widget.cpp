@@ -222,8 +222,8 @@ void Audiosetting_right_eq_widget::updateCustomEqValue(int band, int level) {
         AUDIO_LOG << "custom_eq_type_id:" << preset;
         return;
     }
-    // Always type 16, whichever preset was last used. Required: the service has one live custom curve, and Factory EQ and
-    // the panel know it by this number.
+    // Always type 16, whichever preset was last used. Required: the service has one live custom curve, and Factory EQ
+    // and the panel know it by this number.
     if (audio()->getCurrEQType() != AudioEQCustom) {
         audio()->setEQType(AudioEQCustom, true);
     }

@@ -30,9 +30,6 @@ const int borderPoints[] = {5,  11, 16, 22, 28,  33,  39,  44,  50,  56,  61,  6
                             78, 83, 89, 95, 100, 106, 111, 117, 123, 128, 135, 137};
 const unsigned int pointCount = sizeof(centerPoints) / sizeof(centerPoints[0]);
 
-const char *const captions[eqBandCount] = {"63",   "100",  "160", "250",  "400", "630", "1k",
-                                           "1.6k", "2.5k", "4k",  "6.3k", "10k", "16k"};
-
 cm::LabelButton *createStepKey(int band, QWidget *parent, const QRect &geometry, const QString &picture) {
     cm::LabelButton *key = new cm::LabelButton(parent);
     key->setGeometry(geometry);
@@ -66,7 +63,7 @@ EqBand::EqBand(int band, QWidget *parent, QImage *&knob) {
     m_upKey = createStepKey(band, parent, upKeyRect.translated(x, 0), QStringLiteral("eq_up"));
     m_downKey = createStepKey(band, parent, downKeyRect.translated(x, 0), QStringLiteral("eq_next"));
 
-    QLabel *caption = new QLabel(QLatin1String(captions[band]), parent);
+    QLabel *caption = new QLabel(QLatin1String(eq::bandCaption(band)), parent);
     caption->setGeometry(captionRect.translated(x, 0));
     caption->setAlignment(Qt::AlignCenter);
     QFont captionFont = parent->font();

@@ -3,6 +3,12 @@
 namespace audiosetting {
 namespace eq {
 
+const char *bandCaption(int band) {
+    static const char *const captions[eqBandCount] = {"63",   "100",  "160", "250",  "400", "630", "1k",
+                                                      "1.6k", "2.5k", "4k",  "6.3k", "10k", "16k"};
+    return captions[band];
+}
+
 const QList<int> &levelGains() {
     static const QList<int> gains = [] {
         QList<int> list;

@@ -18,6 +18,9 @@ const int maxGain = 12;         ///< dB
 const int maxLevel = 24;        ///< lowest position of a slider: -12 dB; level 0 is the top, +12 dB
 const int flatLevel = maxGain;  ///< position of 0 dB
 
+/// The centre frequency of band 0 to 12, as it is written below its slider: "630", "1.6k".
+const char *bandCaption(int band);
+
 /// The gains of a slider's levels, from the top down: 12, 11, ... -12.
 const QList<int> &levelGains();
 /// The slider level of a gain: its position in levelGains(), or 0 for a gain that is not there.

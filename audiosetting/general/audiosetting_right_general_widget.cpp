@@ -20,8 +20,6 @@ using namespace audiosetting;
 
 namespace {
 
-const int maxSubwooferLevel = 15;
-const int maxBalanceFader = 15;
 const int sendInterval = 100;  // ms; a drag sends at most one pair in this time
 
 // The pad counts the fader up to the front, the service and the store count it up to the rear.
@@ -150,7 +148,8 @@ void Audiosetting_right_general_widget::on_key_subvol_prev_clicked() {
 
 void Audiosetting_right_general_widget::on_key_subvol_next_clicked() {
     m_audioService->doBeep(0);
-    setSubwooferLevel(m_subwooferLevel < maxSubwooferLevel ? m_subwooferLevel + 1 : maxSubwooferLevel);
+    setSubwooferLevel(m_subwooferLevel < general::maxSubwooferLevel ? m_subwooferLevel + 1
+                                                                    : general::maxSubwooferLevel);
 }
 
 void Audiosetting_right_general_widget::setSubwooferLevel(int level) {
@@ -164,7 +163,7 @@ void Audiosetting_right_general_widget::setSubwooferLevel(int level) {
 void Audiosetting_right_general_widget::updateSubVolButton() {
     const bool on = general::subwooferOn().value() == 1;
     m_ui->key_subvol_prev->setEnabled(on && m_subwooferLevel > 0);
-    m_ui->key_subvol_next->setEnabled(on && m_subwooferLevel < maxSubwooferLevel);
+    m_ui->key_subvol_next->setEnabled(on && m_subwooferLevel < general::maxSubwooferLevel);
 }
 
 void Audiosetting_right_general_widget::onPhaseBtClicked(int id) {
@@ -227,7 +226,7 @@ void Audiosetting_right_general_widget::stepBalanceFader(int balanceStep, int fa
     m_audioService->getBalanceFader(balance, fader);
     fader = otherSign(fader);
     const auto stepped = [](int value, int step) {
-        const bool room = step > 0 ? value < maxBalanceFader : value > -maxBalanceFader;
+        const bool room = step > 0 ? value < general::maxBalanceFader : value > -general::maxBalanceFader;
         return room ? value + step : value;
     };
     onUpdate(stepped(balance, balanceStep), stepped(fader, faderStep));
@@ -250,8 +249,8 @@ void Audiosetting_right_general_widget::updateBalanceButton() {
 
 void Audiosetting_right_general_widget::updateAxisButtons(QAbstractButton *plus, QAbstractButton *minus, int value) {
     const bool defeat = general::defeat().value() != 0;
-    plus->setEnabled(!defeat && value < maxBalanceFader);
-    minus->setEnabled(!defeat && value > -maxBalanceFader);
+    plus->setEnabled(!defeat && value < general::maxBalanceFader);
+    minus->setEnabled(!defeat && value > -general::maxBalanceFader);
 }
 
 void Audiosetting_right_general_widget::changeEvent(QEvent *event) {

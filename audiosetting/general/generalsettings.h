@@ -7,6 +7,9 @@
 namespace audiosetting {
 namespace general {
 
+const int maxSubwooferLevel = 15;
+const int maxBalanceFader = 15;
+
 /// Defeat: 1 bypasses all sound processing, 0 is off.
 inline Setting defeat() {
     return Setting(QStringLiteral("ADV_AUDIO_SETTINGS"), 0);
@@ -19,7 +22,7 @@ inline Setting eqTypeBeforeDefeat() {
 inline Setting subwooferOn() {
     return Setting(QStringLiteral("Setup_Sub"), 0);
 }
-/// Subwoofer level, 0 to 15.
+/// Subwoofer level, 0 to maxSubwooferLevel.
 inline Setting subwooferLevel() {
     return Setting(QStringLiteral("subwooferLevel"), 3);
 }
@@ -31,11 +34,11 @@ inline Setting subwooferPhase() {
 inline Setting loudness() {
     return Setting(QStringLiteral("Setup_Loudness"), 0);
 }
-/// Balance, -15 (left) to 15 (right).
+/// Balance, -maxBalanceFader (left) to maxBalanceFader (right).
 inline Setting balance() {
     return Setting(QStringLiteral("SoundFieldBalance"), 0);
 }
-/// Fader with the service's sign, -15 (front) to 15 (rear).
+/// Fader with the service's sign, -maxBalanceFader (front) to maxBalanceFader (rear).
 inline Setting fader() {
     return Setting(QStringLiteral("SoundFieldFader"), 0);
 }

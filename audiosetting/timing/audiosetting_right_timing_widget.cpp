@@ -17,7 +17,6 @@ using namespace audiosetting::timing;
 
 namespace {
 
-const int maxDelay = 99;
 const int repeatDelay = 1000;    // ms from the press of a minus or plus key to its first repeat
 const int repeatInterval = 200;  // ms
 const int delaysEnabled = 1;     // first argument of the microcontroller's operation, always the same

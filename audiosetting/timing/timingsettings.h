@@ -14,12 +14,13 @@ enum Output { FrontLeft, FrontRight, RearLeft, RearRight, SubLeft, SubRight, out
 enum Unit { Milliseconds, Inches };
 
 const int presetCount = 2;
+const int maxDelay = 99;  ///< in 0.1 ms
 
 /// The unit shown.
 inline Setting unit() {
     return Setting(QStringLiteral("timing/type"), Milliseconds);
 }
-/// Delay of an output, 0 to 99 in 0.1 ms. The key says type and holds a delay. Required: cars hold
+/// Delay of an output, 0 to maxDelay in 0.1 ms. The key says type and holds a delay. Required: cars hold
 /// their delays under it.
 inline Setting delay(int output) {
     return Setting(QStringLiteral("timing/DATA_TYPE%1"), output, 0);

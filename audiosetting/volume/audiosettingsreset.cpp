@@ -13,6 +13,7 @@
 #include "timing/timingsettings.h"
 #include "translator.h"
 #include "ui_Audiosettingsreset.h"
+#include "volumesettings.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -24,9 +25,7 @@ using namespace audiosetting;
 namespace {
 
 const int delaysEnabled = 1;
-const int resetSourceCount = 6;    // required: DAB, the seventh source, keeps its gain as drivers know it
 const int firstPreset = 0;         // the custom curve that the reset sends
-const int channelCount = 8;        // volume channels, with those that have no row on any page
 const int defaultVolumeCount = 5;  // channels that have a "default_volume%1"
 const int resetVolume = 15;
 const int donePeriod = 2500;  // ms for which the success is shown
@@ -92,10 +91,11 @@ void applyDelays() {
     mcu::McuService::instance()->setAudioTimerDelay(delaysEnabled, delays);
 }
 
-// The stored gains without the offset that the Source Gain page adds. Required: what a unit plays after a reset must
+// The stored gains without the offset that the Source Gain page adds. DAB, the last
+// source, keeps its own, as drivers know it. Required: what a unit plays after a reset must
 // stay what it was; a slider sends the gain with the offset when it is next moved.
 void applySourceGains() {
-    for (int source = 0; source < resetSourceCount; ++source) {
+    for (int source = 0; source < sourcegain::Dab; ++source) {
         mcu::McuService::instance()->setAudioInputGainValue(source, sourcegain::gain(source).value());
     }
 }
@@ -191,7 +191,7 @@ void Audiosettingsreset::onAcceptClicked() {
     resetFrontFilter();
     applyDelays();
     applySourceGains();
-    for (int type = 0; type < channelCount; ++type) {
+    for (int type = 0; type < volume::channelCount; ++type) {
         audio->setVolumeLevel(resetVolume, type);
     }
     audio->setEQType(AudioEQPop, true);

@@ -16,9 +16,6 @@ using namespace audiosetting;
 
 namespace {
 
-const int minLevel = 0;
-const int maxLevel = 40;
-
 // The sixth row lies below these contents, out of a finger's reach. Required: drivers know this page with five
 // rows, and what changes TA elsewhere needs the slider all the same.
 QRect contentsGeometry() {
@@ -26,11 +23,11 @@ QRect contentsGeometry() {
 }
 
 int raised(int level) {
-    return level < maxLevel ? level + 1 : maxLevel;
+    return level < volume::maxLevel ? level + 1 : volume::maxLevel;
 }
 
 int lowered(int level) {
-    return level > minLevel ? level - 1 : minLevel;
+    return level > volume::minLevel ? level - 1 : volume::minLevel;
 }
 
 }  // namespace
@@ -58,21 +55,24 @@ void Audiovolumsettings::initUi() {
         cm::LabelButton *minus;
         const char *minusSlot;
     } rows[] = {
-        {Main, 0, m_ui->mainvolumeslider, SLOT(onMainVolumeSliderChanged(int, int)), m_ui->key_main_plus,
+        {Main, volume::Main, m_ui->mainvolumeslider, SLOT(onMainVolumeSliderChanged(int, int)), m_ui->key_main_plus,
          SLOT(onMainVolumPlus()), m_ui->key_main_minus, SLOT(onMainVolumMinus())},
-        {Phone, 2, m_ui->phonevolumeslider, SLOT(onPhoneVolSliderChanged(int, int)), m_ui->key_phone_volume_plus,
-         SLOT(onPhoneVolumPlus()), m_ui->key_phone_volume_minus, SLOT(onPhoneVolumMinus())},
-        {Voice, 4, m_ui->voicevolumeslider, SLOT(onVoiceVolSliderChanged(int, int)), m_ui->key_voice_volume_plus,
-         SLOT(onVoiceVolumPlus()), m_ui->key_voice_volume_minus, SLOT(onVoiceVolumMinus())},
-        {Navigation, 3, m_ui->navivolumeslider, SLOT(onNaviVolSliderChanged(int, int)), m_ui->key_navig_volume_plus,
-         SLOT(onNaviVolumPlus()), m_ui->key_navig_volume_minus, SLOT(onNaviVolumMinus())},
-        {Ringtone, 1, m_ui->Ringtonevolumeslider, SLOT(onRingtoneVolSliderChanged(int, int)),
+        {Phone, volume::Phone, m_ui->phonevolumeslider, SLOT(onPhoneVolSliderChanged(int, int)),
+         m_ui->key_phone_volume_plus, SLOT(onPhoneVolumPlus()), m_ui->key_phone_volume_minus,
+         SLOT(onPhoneVolumMinus())},
+        {Voice, volume::Voice, m_ui->voicevolumeslider, SLOT(onVoiceVolSliderChanged(int, int)),
+         m_ui->key_voice_volume_plus, SLOT(onVoiceVolumPlus()), m_ui->key_voice_volume_minus,
+         SLOT(onVoiceVolumMinus())},
+        {Navigation, volume::Navigation, m_ui->navivolumeslider, SLOT(onNaviVolSliderChanged(int, int)),
+         m_ui->key_navig_volume_plus, SLOT(onNaviVolumPlus()), m_ui->key_navig_volume_minus, SLOT(onNaviVolumMinus())},
+        {Ringtone, volume::Ringtone, m_ui->Ringtonevolumeslider, SLOT(onRingtoneVolSliderChanged(int, int)),
          m_ui->key_ringtone_volume_plus, SLOT(onRingtoneVolumPlus()), m_ui->key_ringtone_volume_minus,
          SLOT(onRingtoneVolumMinus())},
-        {Ta, 6, m_ui->TAvolumeslider, SLOT(onTAVolSliderChanged(int, int)), m_ui->key_ta_volume_plus,
-         SLOT(onTAVolumPlus()), m_ui->key_ta_volume_minus, SLOT(onTAVolumMinus())},
+        {Ta, volume::Announcements, m_ui->TAvolumeslider, SLOT(onTAVolSliderChanged(int, int)),
+         m_ui->key_ta_volume_plus, SLOT(onTAVolumPlus()), m_ui->key_ta_volume_minus, SLOT(onTAVolumMinus())},
     };
-    const SliderLook look = {minLevel, maxLevel + 1, QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n.png")};
+    const SliderLook look = {volume::minLevel, volume::maxLevel + 1,
+                             QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n.png")};
     for (const auto &form : rows) {
         Row &row = m_rows[form.id];
         row.type = form.type;
@@ -188,7 +188,7 @@ void Audiovolumsettings::onMainVolumPlus() {
     int &level = m_rows[Main].level;
     // No clamp: a level above the range stays as it is, only the disabled key stops at the range's end. Required: a
     // unit may store a louder level than this page reaches, which a touch must not change.
-    level = level > maxLevel ? level : level + 1;
+    level = level > volume::maxLevel ? level : level + 1;
     m_audioService->doBeep(0);
     showLevel(Main);
     sendLevel(Main);
@@ -243,8 +243,8 @@ void Audiovolumsettings::sendLevel(RowId id) {
 
 void Audiovolumsettings::updateKeys(RowId id) {
     const Row &row = m_rows[id];
-    row.minus->setEnabled(row.level > minLevel);
-    row.plus->setEnabled(row.level < maxLevel);
+    row.minus->setEnabled(row.level > volume::minLevel);
+    row.plus->setEnabled(row.level < volume::maxLevel);
 }
 
 // Changes made elsewhere ------------------------------------------------------------------------------------------

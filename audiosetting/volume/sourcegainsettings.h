@@ -7,7 +7,14 @@
 namespace audiosetting {
 namespace sourcegain {
 
-/// Input gain of a source, -10 to 10. \a source is its number in the microcontroller.
+/// Sources as the microcontroller counts them.
+enum Source { Radio, Usb, BluetoothMusic, CarPlay, AndroidAuto, SiriusXm, Dab, sourceCount };
+
+const int minGain = -10;
+const int maxGain = 10;
+const int neutralGain = 10;  ///< the microcontroller's value for a gain of 0
+
+/// Input gain of a source, minGain to maxGain.
 inline Setting gain(int source) {
     return Setting(QStringLiteral("audioinputgain%1"), source, 0);
 }

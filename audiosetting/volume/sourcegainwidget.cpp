@@ -5,7 +5,6 @@
 #include "mcuservice.h"
 #include "scrollbar.h"
 #include "sliderpage.h"
-#include "sourcegainsettings.h"
 #include "translator.h"
 
 #include <QEvent>
@@ -20,15 +19,13 @@ namespace audiosetting {
 
 namespace {
 
-const int minGain = -10;
-const int maxGain = 10;
 const int maxRadioGain =
     20;  // where Radio's plus stops, beyond the slider's end; required: only a stored gain leads there
-const int neutralGain = 10;  // what the microcontroller takes for a gain of 0
 
 // Safe for every value that the store may hold.
 int mcuGain(int gain) {
-    return gain > std::numeric_limits<int>::max() - neutralGain ? std::numeric_limits<int>::max() : gain + neutralGain;
+    return gain > std::numeric_limits<int>::max() - sourcegain::neutralGain ? std::numeric_limits<int>::max()
+                                                                            : gain + sourcegain::neutralGain;
 }
 
 }  // namespace
@@ -43,7 +40,8 @@ void SourceGainWidget::initUi() {
         m_scrollManage = makeScrollable(m_area);
     }
     m_scrollBar = addScrollBar(this, m_area);
-    const SliderLook look = {minGain, maxGain + 1, QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n_2.png")};
+    const SliderLook look = {sourcegain::minGain, sourcegain::maxGain + 1,
+                             QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n_2.png")};
     for (int id = 0; id < RowCount; ++id) {
         m_sliders[id] = createSlider(m_rows[id].placeholder);
         configureSlider(m_sliders[id], look);
@@ -106,13 +104,13 @@ void SourceGainWidget::changedBySlider(RowId id, int, int gain) {
 
 void SourceGainWidget::stepUp(RowId id) {
     qvaudio::AudioService::instance()->doBeep(0);
-    const int highest = id == Radio ? maxRadioGain : maxGain;
+    const int highest = id == Radio ? maxRadioGain : sourcegain::maxGain;
     setGain(id, m_gains[id] < highest ? m_gains[id] + 1 : highest);
 }
 
 void SourceGainWidget::stepDown(RowId id) {
     qvaudio::AudioService::instance()->doBeep(0);
-    setGain(id, m_gains[id] > minGain ? m_gains[id] - 1 : minGain);
+    setGain(id, m_gains[id] > sourcegain::minGain ? m_gains[id] - 1 : sourcegain::minGain);
 }
 
 void SourceGainWidget::setGain(RowId id, int gain) {
@@ -123,8 +121,8 @@ void SourceGainWidget::setGain(RowId id, int gain) {
 }
 
 void SourceGainWidget::updateKeys(RowId id) {
-    m_rows[id].minus->setEnabled(m_gains[id] > minGain);
-    m_rows[id].plus->setEnabled(m_gains[id] < maxGain);
+    m_rows[id].minus->setEnabled(m_gains[id] > sourcegain::minGain);
+    m_rows[id].plus->setEnabled(m_gains[id] < sourcegain::maxGain);
 }
 
 }  // namespace audiosetting

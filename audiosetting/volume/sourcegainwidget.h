@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/texts.h"
+#include "sourcegainsettings.h"
 
 #include <QWidget>
 
@@ -75,8 +76,8 @@ private:
 
 template <class Form> void SourceGainWidget::setForm(const Form &form, const Row &regional) {
     m_area = form.scrollArea;
-    m_rows[Radio] = {0,
-                     0,
+    m_rows[Radio] = {sourcegain::Radio,
+                     sourcegain::Radio,
                      texts::radio,
                      form.txt_Radio,
                      form.radioslider,
@@ -85,18 +86,13 @@ template <class Form> void SourceGainWidget::setForm(const Form &form, const Row
                      SLOT(onRadioVolumeSliderChanged(int, int)),
                      SLOT(onRadioCameraPlus()),
                      SLOT(onRadioCameraMinus())};
-    m_rows[AndroidAuto] = {4,
-                           4,
-                           texts::androidAuto,
-                           form.txt_androidauto,
-                           form.androidautoslider,
-                           form.key_androidauto_plus,
-                           form.key_androidauto_minus,
-                           SLOT(onAaVolumeSliderChanged(int, int)),
-                           SLOT(onAAPlus()),
-                           SLOT(onAAMinus())};
-    m_rows[CarPlay] = {3,
-                       3,
+    m_rows[AndroidAuto] = {sourcegain::AndroidAuto,    sourcegain::AndroidAuto,
+                           texts::androidAuto,         form.txt_androidauto,
+                           form.androidautoslider,     form.key_androidauto_plus,
+                           form.key_androidauto_minus, SLOT(onAaVolumeSliderChanged(int, int)),
+                           SLOT(onAAPlus()),           SLOT(onAAMinus())};
+    m_rows[CarPlay] = {sourcegain::CarPlay,
+                       sourcegain::CarPlay,
                        texts::carPlay,
                        form.txt_applecarplay,
                        form.applecarplayslider,
@@ -106,26 +102,14 @@ template <class Form> void SourceGainWidget::setForm(const Form &form, const Row
                        SLOT(onCpPlus()),
                        SLOT(onCpMinus())};
     m_rows[Regional] = regional;
-    m_rows[BtMusic] = {2,
-                       2,
-                       texts::bluetoothMusic,
-                       form.txt_bluetoothmusic,
-                       form.btmusicslider,
-                       form.key_btmusic_plus,
-                       form.key_btmusic_minus,
-                       SLOT(onBtMusiclumeSliderChanged(int, int)),
-                       SLOT(onBtMusicPlus()),
-                       SLOT(onBtMusicMinus())};
-    m_rows[Usb] = {1,
-                   1,
-                   texts::usb,
-                   form.txt_usb,
-                   form.usbslider,
-                   form.key_usb_plus,
-                   form.key_usb_minus,
-                   SLOT(onUsblumeSliderChanged(int, int)),
-                   SLOT(onUsbPlus()),
-                   SLOT(onUsbMinus())};
+    m_rows[BtMusic] = {sourcegain::BluetoothMusic, sourcegain::BluetoothMusic,
+                       texts::bluetoothMusic,      form.txt_bluetoothmusic,
+                       form.btmusicslider,         form.key_btmusic_plus,
+                       form.key_btmusic_minus,     SLOT(onBtMusiclumeSliderChanged(int, int)),
+                       SLOT(onBtMusicPlus()),      SLOT(onBtMusicMinus())};
+    m_rows[Usb] = {sourcegain::Usb,   sourcegain::Usb,   texts::usb,         form.txt_usb,
+                   form.usbslider,    form.key_usb_plus, form.key_usb_minus, SLOT(onUsblumeSliderChanged(int, int)),
+                   SLOT(onUsbPlus()), SLOT(onUsbMinus())};
 }
 
 }  // namespace audiosetting

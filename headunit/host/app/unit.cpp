@@ -3,6 +3,7 @@
 #include "audioservice.h"
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/audio/service/soundtables.h"
+#include "headunit/host/app/pagerequest.h"
 #include "headunit/host/app/plugincatalog.h"
 #include "headunit/host/app/stage.h"
 #include "headunit/host/screens/bandadjust.h"
@@ -27,9 +28,6 @@ namespace headunit {
 namespace {
 
 const QLatin1String audioSettingsId("audiosetting");
-// What another application writes to have Audio Settings open its Volume Settings page.
-const QLatin1String pageRequestKey("SettingTouchPageType");
-constexpr int volumePageRequest = 3;
 
 constexpr int mainChannel = 0;  ///< index into texts::channels
 constexpr int phoneChannel = 2;

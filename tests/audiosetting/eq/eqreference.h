@@ -2,6 +2,8 @@
 
 #include "eq/sliderbarwidget.h"
 
+#include "tests/tables/factorycurves.h"
+
 #include <QImage>
 #include <QList>
 #include <QPixmap>
@@ -21,13 +23,14 @@ struct Curve {
     std::array<int, bands> gains;
 };
 
-inline const QList<Curve> &presets() {
-    static const QList<Curve> table{
-        {0, 0, {{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}}},      {1, 0, {{1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 3, 1}}},
-        {2, 0, {{2, 4, 6, 4, 0, 0, 1, 1, 0, 0, 2, 3, 4}}},      {3, 0, {{5, 2, 2, 2, -2, -4, -3, -3, 0, 2, 4, 2, 4}}},
-        {4, 0, {{1, 2, 2, 1, 0, -1, 1, 1, 2, 2, 1, 2, 2}}},     {5, 0, {{6, 4, 6, 0, 2, 0, 0, 1, 2, 4, 6, 2, 4}}},
-        {7, 0, {{6, 2, 6, 0, -4, -1, 0, -1, 4, 0, -2, -2, 4}}}, {8, 0, {{10, 6, 0, 0, 6, 2, -2, -1, -4, 2, 6, 2, 4}}},
-    };
+inline const QList<Curve> &curves() {
+    static const QList<Curve> table = [] {
+        QList<Curve> list;
+        for (const FactoryCurve &curve : factoryCurves) {
+            list.append({curve.type, 0, curve.gains});
+        }
+        return list;
+    }();
     return table;
 }
 

@@ -113,7 +113,7 @@ private slots:
     void presetsAreShown_data() {
         QTest::addColumn<int>("number");
         QTest::addColumn<QList<int>>("levels");
-        for (const reference::Curve &preset : reference::presets()) {
+        for (const reference::Curve &preset : reference::curves()) {
             QTest::addRow("%d", preset.type) << preset.type << reference::levels(preset);
         }
         for (int number : {6, 9, 10, 15, -1, minimum}) {
@@ -274,7 +274,7 @@ private slots:
         show(&page);
         finger::tap(reference::sliders(page)[12], at(20));
         QCOMPARE(recording::take(), QStringList{highlight(-1)});
-        QList<int> levels = reference::levels(reference::presets()[3]);
+        QList<int> levels = reference::levels(reference::curves()[3]);
         levels[12] = 20;
         QCOMPARE(reference::levels(page), levels);
         advance(80);
@@ -461,7 +461,7 @@ private slots:
             lines << send(4, band);
         }
         QCOMPARE(recording::take(), lines);
-        QCOMPARE(reference::levels(page), reference::levels(reference::presets().last()));
+        QCOMPARE(reference::levels(page), reference::levels(reference::curves().last()));
     }
 
     void resetLeavesTheLastThreeBands() {
@@ -511,7 +511,7 @@ private slots:
         Audiosetting_right_eq_widget page(nullptr);
         page.onSetFlatEq();
         QCOMPARE(recording::take(), QStringList());
-        QCOMPARE(reference::levels(page), reference::levels(reference::presets()[6]));
+        QCOMPARE(reference::levels(page), reference::levels(reference::curves()[6]));
     }
 
     void hidingDoesNotLoseTheLastDrag() {

@@ -178,7 +178,7 @@ private slots:
         Audiosetting_right_factoryeq_widget page(nullptr);
         recording::state().eqType = 16;
         for (const Tile &tile : tiles) {
-            for (const reference::Curve &curve : reference::presets()) {
+            for (const reference::Curve &curve : reference::curves()) {
                 if (curve.type == tile.type) {
                     for (int band = 0; band < reference::bands; ++band) {
                         recording::state().customEq[band] = curve.gains[band] + 12;
@@ -203,7 +203,7 @@ private slots:
         Audiosetting_right_factoryeq_widget page(nullptr);
         recording::state().eqType = 16;
         for (int band = 0; band < reference::bands; ++band) {
-            recording::state().customEq[band] = reference::presets().at(1).gains[band] + 12;
+            recording::state().customEq[band] = reference::curves().at(1).gains[band] + 12;
         }
         page.resume();
         QCOMPARE(checkedKeys(page), QString());

@@ -92,7 +92,7 @@ private slots:
         recording::state().eqType = 3;
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
-        const QList<int> rock = reference::levels(reference::presets()[3]);
+        const QList<int> rock = reference::levels(reference::curves()[3]);
         finger::hold(customKey(page, 1), longPress);
         QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + saving(1, rock) + QStringList{type(16)} + sendAll(rock) +
                                         QStringList{highlight(1)});
@@ -265,7 +265,7 @@ private slots:
 
     void underAPresetTheSelectionFollowsAfter20Milliseconds() {
         recording::state().eqType = 3;
-        savePreset(4, reference::levels(reference::presets()[3]));
+        savePreset(4, reference::levels(reference::curves()[3]));
         Audiosetting_right_eq_widget page(nullptr);
         page.show();
         advance(19);

@@ -14,7 +14,7 @@ const int steps = 5000;
 const int settleTime = 200;  // ms; longer than the guard of the tabs and the commit timer
 
 QList<int> presetLevels(int type) {
-    for (const reference::Curve &preset : reference::presets()) {
+    for (const reference::Curve &preset : reference::curves()) {
         if (preset.type == type) {
             return reference::levels(preset);
         }

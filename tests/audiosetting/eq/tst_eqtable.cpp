@@ -42,7 +42,7 @@ private slots:
 
     void holdsThePresetsAndTheFiveCustomRows() {
         QCOMPARE(eq::curves().size(), 13);
-        for (const reference::Curve &curve : reference::presets()) {
+        for (const reference::Curve &curve : reference::curves()) {
             const int row = eq::findByType(eq::curves(), curve.type);
             QVERIFY(row >= 0);
             QVERIFY(std::equal(curve.gains.begin(), curve.gains.end(), eq::curves().at(row).gain));

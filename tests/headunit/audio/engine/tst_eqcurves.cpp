@@ -1,7 +1,7 @@
 #include "headunit/audio/engine/eqcurves.h"
 
-#include "platform/audioeqtype.h"
 #include "rendering.h"
+#include "tests/tables/factorycurves.h"
 
 #include <QTest>
 
@@ -24,14 +24,9 @@ void TestEqCurves::curves() {
         state.eqType = type;
         return curveInForce(state) == gains;
     };
-    QVERIFY(is(AudioEQFlat, {}));
-    QVERIFY(is(1, {1, 3, 5, 0, -1, 0, -2, 0, 3, 1, 0, 3, 1}));
-    QVERIFY(is(AudioEQPop, {2, 4, 6, 4, 0, 0, 1, 1, 0, 0, 2, 3, 4}));
-    QVERIFY(is(AudioEQRock, {5, 2, 2, 2, -2, -4, -3, -3, 0, 2, 4, 2, 4}));
-    QVERIFY(is(4, {1, 2, 2, 1, 0, -1, 1, 1, 2, 2, 1, 2, 2}));
-    QVERIFY(is(AudioEQElectronic, {6, 4, 6, 0, 2, 0, 0, 1, 2, 4, 6, 2, 4}));
-    QVERIFY(is(AudioEQJazz, {6, 2, 6, 0, -4, -1, 0, -1, 4, 0, -2, -2, 4}));
-    QVERIFY(is(AudioEQHipHop, {10, 6, 0, 0, 6, 2, -2, -1, -4, 2, 6, 2, 4}));
+    for (const reference::FactoryCurve &curve : reference::factoryCurves) {
+        QVERIFY2(is(curve.type, curve.gains), qPrintable(QString::number(curve.type)));
+    }
     QVERIFY(is(6, {}));
     QVERIFY(is(15, {}));
     QVERIFY(is(-1, {}));

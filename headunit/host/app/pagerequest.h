@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QLatin1String>
+
+namespace headunit {
+
+/// What another application writes to have Audio Settings open its Volume Settings page.
+const QLatin1String pageRequestKey("SettingTouchPageType");
+constexpr int volumePageRequest = 3;
+
+}  // namespace headunit
