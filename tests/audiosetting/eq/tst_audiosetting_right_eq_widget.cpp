@@ -173,10 +173,10 @@ private slots:
         }
         // A slot keeps and recalls them as well.
         finger::hold(customKey(page, 2), 1500);
-        QCOMPARE(recording::stored(slotKey(2, 0)), QVariant(32));
+        QCOMPARE(recording::stored(presetKey(2, 0)), QVariant(32));
         recording::clear();
         finger::tap(customKey(page, 2));
-        QCOMPARE(recording::take(), QStringList({"doBeep(0)", highlight(2), lastSlot(2)}));
+        QCOMPARE(recording::take(), QStringList({"doBeep(0)", highlight(2), lastPreset(2)}));
         // Steps start from there.
         finger::tap(upKeys(page)[0]);
         QCOMPARE(reference::levels(page)[0], 31);

@@ -28,15 +28,15 @@ QStringList saving(int preset, const QList<int> &levels) {
 class tst_EqPresets : public PageTest {
     Q_OBJECT
 private slots:
-    void fiveSlots_data() {
+    void fivePresets_data() {
         QTest::addColumn<int>("preset");
         for (int preset = 0; preset < 5; ++preset) {
             QTest::addRow("preset %d", preset) << preset;
         }
     }
 
-    void aLongPressStoresTheCurveShown_data() { fiveSlots_data(); }
-    void aLongPressStoresTheCurveShown() {
+    void aLongPressSavesTheCurveShown_data() { fivePresets_data(); }
+    void aLongPressSavesTheCurveShown() {
         QFETCH(int, preset);
         setLive(curve(preset));
         Audiosetting_right_eq_widget page(nullptr);
@@ -57,7 +57,7 @@ private slots:
         QCOMPARE(reference::levels(page), curve(preset));
     }
 
-    void storingSelectsTheSlotBeforeTheRelease() {
+    void savingSelectsThePresetBeforeTheRelease() {
         setLive(curve(1));
         savePreset(4, curve(1));
         recording::setStored("HIGHLIGHT_PRESET_ID", 4);
@@ -100,7 +100,7 @@ private slots:
         QCOMPARE(selected(page), 1);
     }
 
-    void aStoredSlotShowsItsNameAnEmptyOneItsPicture() {
+    void aSavedPresetShowsItsNameAnEmptyOneItsPicture() {
         savePreset(3, curve(1));
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
@@ -121,8 +121,8 @@ private slots:
         check({0});
     }
 
-    void aShortPressRecallsAStoredSlot_data() { fiveSlots_data(); }
-    void aShortPressRecallsAStoredSlot() {
+    void aShortPressRecallsASavedPreset_data() { fivePresets_data(); }
+    void aShortPressRecallsASavedPreset() {
         QFETCH(int, preset);
         setLive(everywhere(12));
         savePreset(preset, curve(3));
@@ -158,7 +158,7 @@ private slots:
         QCOMPARE(recording::state().eqType, 16);
     }
 
-    void anEmptySlotOnlyEvaluatesTheSelection() {
+    void anEmptyPresetOnlyEvaluatesTheSelection() {
         setLive(curve(1));
         savePreset(4, curve(1));
         Audiosetting_right_eq_widget page(nullptr);
@@ -208,7 +208,7 @@ private slots:
 
     // Selection -------------------------------------------------------------------------------------------------
 
-    void theFirstSlotWithTheCurveShownIsSelected() {
+    void theFirstPresetWithTheCurveShownIsSelected() {
         setLive(curve(1));
         savePreset(1, curve(2));
         savePreset(2, curve(1));
@@ -236,7 +236,7 @@ private slots:
         }
     }
 
-    void theHighlightedSlotIsSelectedWhateverItStores() {
+    void theHighlightedPresetIsSelectedWhateverItStores() {
         setLive(curve(1));
         savePreset(1, curve(1));
         savePreset(3, curve(2));
@@ -246,13 +246,13 @@ private slots:
         QCOMPARE(selected(page), 3);
     }
 
-    void aHighlightThatNamesNoStoredSlotSelectsNone_data() {
+    void aHighlightThatNamesNoSavedPresetSelectsNone_data() {
         QTest::addColumn<int>("highlighted");
         for (int highlighted : {2, 5, -2, minimum, maximum}) {
             QTest::addRow("%d", highlighted) << highlighted;
         }
     }
-    void aHighlightThatNamesNoStoredSlotSelectsNone() {
+    void aHighlightThatNamesNoSavedPresetSelectsNone() {
         QFETCH(int, highlighted);
         setLive(curve(1));
         savePreset(1, curve(1));
@@ -275,7 +275,7 @@ private slots:
         QCOMPARE(recording::take(), QStringList());
     }
 
-    void onlyTheLiveCurveAsksForTheLastSlotAndIsNotEvaluatedLater() {
+    void onlyTheLiveCurveAsksForTheLastPresetAndIsNotEvaluatedLater() {
         for (int number : {0, 3, 16, 17, 20}) {
             recording::reset();
             setLive(curve(1));
@@ -290,7 +290,7 @@ private slots:
         }
     }
 
-    void updateCustomEqUiSelectsStoredSlotsOnly() {
+    void updateCustomEqUiSelectsSavedPresetsOnly() {
         savePreset(1, curve(1));
         Audiosetting_right_eq_widget page(nullptr);
         page.updateCustomEqUi(1);
@@ -304,7 +304,7 @@ private slots:
 
     // What is called by name, and bad values -----------------------------------------------------------------------
 
-    void storingInNoSlotOnlyNotesTheNumber() {
+    void savingInNoPresetOnlyNotesTheNumber() {
         Audiosetting_right_eq_widget page(nullptr);
         for (int preset : {-1, 5, minimum, maximum}) {
             page.saveCustomEqValue(preset, 0, 0);
@@ -354,7 +354,7 @@ private slots:
         }
     }
 
-    void levelsOutOfRangeInASlotGoThroughUnchanged() {
+    void levelsOutOfRangeInAPresetGoThroughUnchanged() {
         setLive(everywhere(12));
         QList<int> levels = everywhere(12);
         levels[0] = 25;
@@ -372,7 +372,7 @@ private slots:
         QVERIFY(!upKeys(page)[3]->isEnabled());
     }
 
-    void aBadLastSlotDoesNoHarmOnShow() {
+    void aBadLastPresetDoesNoHarmOnShow() {
         savePreset(0, curve(1));
         for (int preset : {-1, 5, minimum, maximum}) {
             setLive(curve(2));
