@@ -226,6 +226,20 @@ private slots:
         }
     }
 
+    void anotherInitialisationGoesOnScrollingAsBefore() {
+        for (const Region &region : regions) {
+            const auto page = region.create();
+            show(page.get());
+            recording::setLogged(recording::Toolkit);
+            recording::clear();
+            page->initUi();
+            advance(0);
+            QCOMPARE(recording::take().filter("ScrollManage"), QStringList());
+            QCOMPARE(scrollBar(page.get())->geometry(), QRect(56, 0, 24, 432));
+            recording::setLogged(0);
+        }
+    }
+
     void theScreensGroundShinesThrough() {
         QWidget screen;
         screen.resize(1024, 600);

@@ -276,6 +276,15 @@ private slots:
         QVERIFY(sliderOf(page, taRow)->visibleRegion().isEmpty());
     }
 
+    void scrollBarStaysThereWhenThePageIsInitialisedInSight() {
+        Audiovolumsettings page(nullptr);
+        show(&page);
+        page.initUi();
+        advance(0);
+        QCOMPARE(scrollBar(&page)->geometry(), QRect(56, 0, 24, 432));
+        QVERIFY(scrollBar(&page)->isVisible());
+    }
+
     void constructAndShowSendNothingThatIsInForce() {
         setServiceLevels(16);
         Audiovolumsettings page(nullptr);
