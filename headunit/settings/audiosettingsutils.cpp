@@ -6,6 +6,7 @@
 #include "unitsettings.h"
 
 using headunit::SettingKey;
+using headunit::SettingsMap;
 using headunit::SoundPart;
 using headunit::traceCall;
 using headunit::traceValue;
@@ -13,9 +14,26 @@ using headunit::traceValue;
 struct AudioSettingsUtils::Private {
     headunit::SettingsStore &store = headunit::audioStore();
 
+    /// The keys that a reset changes, in the order of their names.
+    void traceReset(const SettingsMap &factory) {
+        QStringList changed = store.values().keys() + factory.keys();
+        changed.sort();
+        changed.removeDuplicates();
+        for (const QString &key : qAsConst(changed)) {
+            const QVariant before = store.values().value(key);
+            const QVariant after = factory.value(key);
+            if (before != after) {
+                const QString text = after.isValid() ? traceValue(after) : QStringLiteral("its default");
+                HEADUNIT_TRACE_KIND(Write, QStringLiteral("%1 = %2").arg(key, text),
+                                    QStringLiteral("store: %1 = %2").arg(key, text), key, before, after);
+            }
+        }
+    }
+
     void restoreDefault(const QString &key, int defaultValue) {
-        HEADUNIT_TRACE(QStringLiteral("%1 = %2").arg(key).arg(defaultValue),
-                       QStringLiteral("store: %1 = %2").arg(key).arg(defaultValue));
+        HEADUNIT_TRACE_KIND(Write, QStringLiteral("%1 = %2").arg(key).arg(defaultValue),
+                            QStringLiteral("store: %1 = %2").arg(key).arg(defaultValue), key, store.values().value(key),
+                            defaultValue);
         store.set(key, defaultValue);
     }
 };
@@ -46,8 +64,9 @@ bool AudioSettingsUtils::getValue(const QString &key, bool defaultValue) {
 }
 
 void AudioSettingsUtils::setValue(const QString &key, const QVariant &defaultValue, const QVariant &value, bool save) {
-    HEADUNIT_TRACE(traceCall("setValue", {key, defaultValue, value, save}),
-                   QStringLiteral("store: %1 = %2").arg(key, traceValue(value)));
+    HEADUNIT_TRACE_KIND(Write, traceCall("setValue", {key, defaultValue, value, save}),
+                        QStringLiteral("store: %1 = %2").arg(key, traceValue(value)), key, d->store.values().value(key),
+                        value);
     d->store.set(key, value);
 }
 
@@ -56,6 +75,9 @@ void AudioSettingsUtils::clear(const QString &path) {
     const headunit::FactoryState factory = headunit::factoryState(path);
     if (!factory.problem.isEmpty()) {
         qWarning("%s", qUtf8Printable(factory.problem));
+    }
+    if (headunit::traceEnabled()) {
+        d->traceReset(factory.values);
     }
     d->store.replaceAll(factory.values);
     headunit::notifySound(SoundPart::All);

@@ -6,8 +6,8 @@ namespace mem {
 
 SettingsCache::SettingsCache() {
     connect(this, &SettingsCache::SettingsCacheSig, this, [](const QString &key) {
-        HEADUNIT_TRACE(headunit::traceCall("SettingsCacheSig", {key}),
-                       QStringLiteral("announced: %1 changed").arg(key));
+        HEADUNIT_TRACE_KIND(Announcement, headunit::traceCall("SettingsCacheSig", {key}),
+                            QStringLiteral("announced: %1 changed").arg(key));
     });
 }
 

@@ -31,8 +31,9 @@ int SettingsFunc::getValue(const QString &key, int defaultValue) {
 }
 
 void SettingsFunc::setValue(const QString &key, const QVariant &defaultValue, const QVariant &value, bool save) {
-    HEADUNIT_TRACE(traceCall("SettingsFunc::setValue", {key, defaultValue, value, save}),
-                   QStringLiteral("shared store: %1 = %2").arg(key, traceValue(value)));
+    HEADUNIT_TRACE_KIND(Write, traceCall("SettingsFunc::setValue", {key, defaultValue, value, save}),
+                        QStringLiteral("shared store: %1 = %2").arg(key, traceValue(value)), key,
+                        d->store.values().value(key), value);
     d->store.set(key, value);
 }
 

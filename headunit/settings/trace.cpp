@@ -1,45 +1,50 @@
 #include "trace.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace headunit {
 
 namespace {
 
-TraceSink &installed() {
-    static TraceSink sink;
-    return sink;
-}
-
-bool readsTraced = false;
+std::vector<TraceListener *> listeners;
+int readers = 0;
 
 }  // namespace
 
-void setTraceSink(TraceSink sink) {
-    installed() = std::move(sink);
+TraceListener::TraceListener(Function function, Reads reads) : m_function(std::move(function)), m_reads(false) {
+    listeners.push_back(this);
+    setReads(reads);
+}
+
+TraceListener::~TraceListener() {
+    setReads(WithoutReads);
+    listeners.erase(std::find(listeners.begin(), listeners.end(), this));
+}
+
+void TraceListener::setReads(Reads reads) {
+    readers += int(reads == WithReads) - int(m_reads);
+    m_reads = reads == WithReads;
 }
 
 bool traceEnabled() {
-    return static_cast<bool>(installed());
-}
-
-void setTraceReads(bool on) {
-    readsTraced = on;
+    return !listeners.empty();
 }
 
 bool traceReadsEnabled() {
-    return readsTraced && traceEnabled();
+    return readers > 0;
 }
 
-void trace(const QString &call, const QString &meaning) {
-    if (!traceEnabled()) {
-        return;
+void trace(const TraceEntry &entry) {
+    const std::vector<TraceListener *> all = listeners;
+    for (TraceListener *const listener : all) {
+        const bool lives = std::find(listeners.begin(), listeners.end(), listener) != listeners.end();
+        if (lives && (entry.kind != TraceKind::Read || listener->m_reads)) {
+            const TraceListener::Function function = listener->m_function;  // which may end its listener
+            function(entry);
+        }
     }
-    TraceEntry entry;
-    entry.call = call;
-    entry.meaning = meaning;
-    const TraceSink sink = installed();  // the sink may replace itself
-    sink(entry);
 }
 
 QString traceValue(const QVariant &value) {

@@ -7,24 +7,56 @@
 
 namespace headunit {
 
-/// The record of calls across the contract, in order: each implementation reports its calls, whoever shows them
-/// (the host's --trace) installs a sink. GUI thread only. Without a sink a call costs one comparison.
-struct TraceEntry {
-    QString call;     ///< the call as written in code: setCrossoverFrontFreq(3, 2, 10)
-    QString meaning;  ///< its plain meaning: front high-pass 63 Hz, 12 dB/oct, -2 dB
+/// What an entry of the record is about.
+enum class TraceKind {
+    Call,          ///< a call of a service or of the store
+    Read,          ///< a call that only reads
+    Write,         ///< a value of the store that is written
+    Announcement,  ///< a signal of the unit to the applications
+    Window,        ///< what the host tells a window, or a window the host
+    Touch,         ///< a gesture that an application posts to the host
 };
 
-using TraceSink = std::function<void(const TraceEntry &)>;
+/// One entry of the record of calls across the contract.
+struct TraceEntry {
+    TraceKind kind = TraceKind::Call;
+    QString call;     ///< the call as written in code: setCrossoverFrontFreq(3, 2, 10)
+    QString meaning;  ///< its plain meaning: front high-pass 63 Hz, 12 dB/oct, -2 dB
+    // Of a write:
+    QString key = QString();
+    QVariant before = QVariant();  ///< the stored value; invalid where there was none
+    QVariant after = QVariant();   ///< invalid where the key is removed
+};
 
-/// Installs the one sink; an empty function removes it.
-void setTraceSink(TraceSink sink);
+/// Listens, while it lives, to the record of calls across the contract, in order: each implementation reports its
+/// calls. GUI thread only. Where nobody listens a call costs one comparison.
+class TraceListener {
+public:
+    using Function = std::function<void(const TraceEntry &)>;
+    /// Whether calls that only read are wanted as well: showing a page reads dozens of values.
+    enum Reads { WithoutReads, WithReads };
+
+    /// \a function may end this listener, or another.
+    explicit TraceListener(Function function, Reads reads = WithoutReads);
+    ~TraceListener();
+    TraceListener(const TraceListener &) = delete;
+    TraceListener &operator=(const TraceListener &) = delete;
+
+    void setReads(Reads reads);
+
+private:
+    friend void trace(const TraceEntry &entry);
+
+    Function m_function;
+    bool m_reads;
+};
+
+/// Whether anybody listens.
 bool traceEnabled();
-/// Hands an entry to the sink.
-void trace(const QString &call, const QString &meaning);
-
-/// Whether calls that only read are recorded as well. Off at first: showing a page reads dozens of values.
-void setTraceReads(bool on);
+/// Whether anybody listens to reads.
 bool traceReadsEnabled();
+/// Hands an entry to all who want it.
+void trace(const TraceEntry &entry);
 
 /// A value as written in code: 3, true, "text".
 QString traceValue(const QVariant &value);
@@ -33,18 +65,22 @@ QString traceCall(const char *operation, const QVariantList &arguments = QVarian
 
 }  // namespace headunit
 
-/// Reports a call; the arguments are only evaluated while a sink is installed.
-#define HEADUNIT_TRACE(call, meaning)           \
-    do {                                        \
-        if (headunit::traceEnabled()) {         \
-            headunit::trace((call), (meaning)); \
-        }                                       \
+/// Reports an entry of a kind; the other arguments (call, meaning, and of a write key, before and after) are only
+/// evaluated while somebody listens.
+#define HEADUNIT_TRACE_KIND(kind, ...)                                 \
+    do {                                                               \
+        if (headunit::traceEnabled()) {                                \
+            headunit::trace({headunit::TraceKind::kind, __VA_ARGS__}); \
+        }                                                              \
     } while (false)
 
+/// Reports a call.
+#define HEADUNIT_TRACE(call, meaning) HEADUNIT_TRACE_KIND(Call, (call), (meaning))
+
 /// The same for a call that only reads.
-#define HEADUNIT_TRACE_READ(call, meaning)      \
-    do {                                        \
-        if (headunit::traceReadsEnabled()) {    \
-            headunit::trace((call), (meaning)); \
-        }                                       \
+#define HEADUNIT_TRACE_READ(call, meaning)                                   \
+    do {                                                                     \
+        if (headunit::traceReadsEnabled()) {                                 \
+            headunit::trace({headunit::TraceKind::Read, (call), (meaning)}); \
+        }                                                                    \
     } while (false)

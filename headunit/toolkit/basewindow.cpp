@@ -50,10 +50,12 @@ QWidget *BaseWindow::mainWidget() const {
 }
 
 void BaseWindow::setMainWidget(QWidget *widget, int id) {
-    HEADUNIT_TRACE(QStringLiteral("setMainWidget(%1, %2)")
-                       .arg(widget ? QString::fromLatin1(widget->metaObject()->className()) : QStringLiteral("null"))
-                       .arg(id),
-                   QStringLiteral("the widget of window %1").arg(id));
+    HEADUNIT_TRACE_KIND(
+        Window,
+        QStringLiteral("setMainWidget(%1, %2)")
+            .arg(widget ? QString::fromLatin1(widget->metaObject()->className()) : QStringLiteral("null"))
+            .arg(id),
+        QStringLiteral("the widget of window %1").arg(id));
     d->mainWidget = widget;
 }
 

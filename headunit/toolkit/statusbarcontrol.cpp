@@ -38,8 +38,8 @@ StatusBarControl *StatusBarControl::instance() {
 }
 
 void StatusBarControl::sethide(bool hide) {
-    HEADUNIT_TRACE(headunit::traceCall("sethide", {hide}),
-                   hide ? QStringLiteral("hide the status bar") : QStringLiteral("show the status bar"));
+    HEADUNIT_TRACE_KIND(Window, headunit::traceCall("sethide", {hide}),
+                        hide ? QStringLiteral("hide the status bar") : QStringLiteral("show the status bar"));
     if (hidden == hide) {
         return;
     }

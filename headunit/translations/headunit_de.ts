@@ -263,5 +263,9 @@
         <source>Band adjust</source>
         <translation>Bänder</translation>
     </message>
+    <message id="20019">
+        <source>Tuner's desk</source>
+        <translation>Abstimmplatz</translation>
+    </message>
 </context>
 </TS>

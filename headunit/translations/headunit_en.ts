@@ -263,5 +263,9 @@
         <source>Band adjust</source>
         <translation>Band adjust</translation>
     </message>
+    <message id="20019">
+        <source>Tuner's desk</source>
+        <translation>Tuner's desk</translation>
+    </message>
 </context>
 </TS>

@@ -263,5 +263,9 @@
         <source>Band adjust</source>
         <translation>Bandas</translation>
     </message>
+    <message id="20019">
+        <source>Tuner's desk</source>
+        <translation>Mesa de ajuste</translation>
+    </message>
 </context>
 </TS>

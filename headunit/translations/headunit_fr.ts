@@ -263,5 +263,9 @@
         <source>Band adjust</source>
         <translation>Bandes</translation>
     </message>
+    <message id="20019">
+        <source>Tuner's desk</source>
+        <translation>Poste de réglage</translation>
+    </message>
 </context>
 </TS>

@@ -263,5 +263,9 @@
         <source>Band adjust</source>
         <translation>バンド調整</translation>
     </message>
+    <message id="20019">
+        <source>Tuner's desk</source>
+        <translation>調整デスク</translation>
+    </message>
 </context>
 </TS>

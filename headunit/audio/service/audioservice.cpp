@@ -16,8 +16,8 @@ struct AudioService::Private {
 AudioService::AudioService() : d(new Private) {
     connect(&d->sound, &SoundModel::channelLevelChanged, this, [this](int channel, int level) {
         const int mute = d->sound.state().muted ? 1 : 0;
-        HEADUNIT_TRACE(traceCall("audioVolumeChanged", {mute, level, channel}),
-                       QStringLiteral("announced: ") + headunit::channelText(channel, level));
+        HEADUNIT_TRACE_KIND(Announcement, traceCall("audioVolumeChanged", {mute, level, channel}),
+                            QStringLiteral("announced: ") + headunit::channelText(channel, level));
         Q_EMIT audioVolumeChanged(mute, level, channel);
     });
 }

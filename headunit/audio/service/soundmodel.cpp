@@ -60,7 +60,8 @@ template <typename T> void SoundModel::assign(T &member, const T &value) {
 }
 
 void SoundModel::keep(const QString &key, int value) {
-    HEADUNIT_TRACE(QStringLiteral("%1 = %2").arg(key).arg(value), QStringLiteral("store: %1 = %2").arg(key).arg(value));
+    HEADUNIT_TRACE_KIND(Write, QStringLiteral("%1 = %2").arg(key).arg(value),
+                        QStringLiteral("store: %1 = %2").arg(key).arg(value), key, m_store.values().value(key), value);
     m_store.set(key, value);
 }
 

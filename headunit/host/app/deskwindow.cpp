@@ -1,15 +1,21 @@
 #include "headunit/host/app/deskwindow.h"
 
+#include "headunit/host/app/deskkey.h"
 #include "headunit/host/screens/hardkeys.h"
 #include "headunit/host/screens/look.h"
+#include "headunit/host/screens/texts.h"
 #include "keyevent.h"
+#include "translator.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QWindow>
 
 namespace headunit {
 
 namespace {
+
+constexpr QRect deskKeyPlace(look::screenWidth, 566, HardKeys::stripWidth, 30);  // in the space below the last hard key
 
 /// The hard key that a key of the desk's keyboard stands for; 0: none.
 int hardKeyOf(int key) {
@@ -38,11 +44,15 @@ int hardKeyOf(int key) {
 
 DeskWindow::DeskWindow()
     : m_screen(new QWidget(this)),
-      m_hardKeys(new HardKeys(QRect(look::screenWidth, 0, HardKeys::stripWidth, look::screenHeight), this)) {
+      m_hardKeys(new HardKeys(QRect(look::screenWidth, 0, HardKeys::stripWidth, look::screenHeight), this)),
+      m_deskKey(new DeskKey(this)) {
     setWindowTitle(QStringLiteral("Head unit"));
     setFixedSize(look::screenWidth + HardKeys::stripWidth, look::screenHeight);
     m_screen->setObjectName(QStringLiteral("screen"));
     m_screen->setGeometry(0, 0, look::screenWidth, look::screenHeight);
+    m_deskKey->setGeometry(deskKeyPlace);
+    m_deskKey->setAccessibleName(Translator::translate(texts::tunersDesk));
+    connect(m_deskKey, &QAbstractButton::clicked, this, &DeskWindow::deskWanted);
 }
 
 void DeskWindow::showEvent(QShowEvent *) {
@@ -61,8 +71,22 @@ bool DeskWindow::eventFilter(QObject *watched, QEvent *event) {
     return false;
 }
 
+void DeskWindow::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::LanguageChange) {
+        m_deskKey->setAccessibleName(Translator::translate(texts::tunersDesk));
+    }
+    QWidget::changeEvent(event);
+}
+
+void DeskWindow::closeEvent(QCloseEvent *event) {
+    QWidget::closeEvent(event);
+    QCoreApplication::quit();  // whatever of the tuner's desk is open
+}
+
 void DeskWindow::keyPressEvent(QKeyEvent *event) {
-    if (const int key = hardKeyOf(event->key())) {
+    if (event->key() == Qt::Key_F12) {
+        Q_EMIT deskWanted();
+    } else if (const int key = hardKeyOf(event->key())) {
         Q_EMIT m_hardKeys->keyPressed(key);
     } else {
         QWidget::keyPressEvent(event);

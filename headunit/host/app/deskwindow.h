@@ -4,6 +4,7 @@
 
 namespace headunit {
 
+class DeskKey;
 class HardKeys;
 
 /// The unit as it stands on the desk: the screen of 1024 x 600, and beside it the hard keys.
@@ -17,11 +18,15 @@ public:
     HardKeys *hardKeys() const { return m_hardKeys; }
 
 Q_SIGNALS:
+    /// The tuner's desk is to be opened, by its key or by F12.
+    void deskWanted();
     /// Once: the window is being painted for the first time, and is by the time that posted events are delivered.
     void exposed();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
@@ -29,6 +34,7 @@ protected:
 private:
     QWidget *const m_screen;
     HardKeys *const m_hardKeys;
+    DeskKey *const m_deskKey;
     bool m_exposed = false;
 };
 

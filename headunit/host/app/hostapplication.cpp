@@ -46,7 +46,8 @@ bool HostApplication::notify(QObject *receiver, QEvent *event) {
 bool HostApplication::event(QEvent *event) {
     if (event->type() == TouchEvent::eventType()) {
         const auto touch = static_cast<TouchEvent *>(event);
-        HEADUNIT_TRACE(traceCall("TouchEvent", {int(touch->code()), touch->x(), touch->y()}), touchText(touch->code()));
+        HEADUNIT_TRACE_KIND(Touch, traceCall("TouchEvent", {int(touch->code()), touch->x(), touch->y()}),
+                            touchText(touch->code()));
         Q_EMIT touched(touch->code());
         return true;
     }

@@ -6,6 +6,7 @@
 #include "headunit/host/app/options.h"
 #include "headunit/host/app/plugincatalog.h"
 #include "headunit/host/app/soundlibrary.h"
+#include "headunit/host/app/tunersdesk.h"
 #include "headunit/host/app/unit.h"
 #include "headunit/host/screens/hardkeys.h"
 #include "headunit/settings/trace.h"
@@ -129,11 +130,8 @@ QString fileProblem(const Options &options) {
     return QString();
 }
 
-void printTrace() {
-    setTraceReads(true);
-    setTraceSink([](const TraceEntry &entry) {
-        std::printf("%s -> %s\n", qUtf8Printable(entry.call), qUtf8Printable(entry.meaning));
-    });
+void printTrace(const TraceEntry &entry) {
+    std::printf("%s -> %s\n", qUtf8Printable(entry.call), qUtf8Printable(entry.meaning));
 }
 
 int runSoundJob(const SoundJob &job) {
@@ -178,6 +176,10 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
         QObject::connect(&window, &DeskWindow::exposed, &application, &QCoreApplication::quit, Qt::QueuedConnection);
     }
     window.show();
+    TunersDesk desk(window, unit);
+    if (options.desk) {
+        QTimer::singleShot(0, &desk, [&desk] { desk.open(); });  // after the first screen
+    }
     if (!options.scripted()) {
         std::unique_ptr<QObject> sound;
         if (!options.exitWhenShown) {
@@ -256,12 +258,13 @@ int main(int argc, char **argv) {
     }
     setUnitRoot(options.root);
     openSettings();
+    std::unique_ptr<TraceListener> tracePrinter;
     if (options.trace) {
-        printTrace();
+        tracePrinter = std::make_unique<TraceListener>(printTrace, TraceListener::WithReads);
     }
     const int result =
         options.soundJob.isEmpty() ? runUnit(options, application, moveTime) : runSoundJob(options.soundJob);
-    setTraceSink({});
+    tracePrinter.reset();
     closeSettings();
     return result;
 }

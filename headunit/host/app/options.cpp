@@ -30,6 +30,7 @@ constexpr OptionRow optionRows[] = {
     {"meters", nullptr, "Print what the loudspeakers and the limiter do, once a second, while the unit plays."},
     {"render", "IN", "Play a sound file under the current settings into another, --render IN.wav OUT.wav, and end."},
     {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
+    {"desk", nullptr, "Open the tuner's desk at once: what each touch does, set-ups, undo. Later: F12."},
     {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
     {"verbose", nullptr, "Print debug lines."},
     {"exit-when-shown", nullptr, "End once the first screen is painted; for measuring the start."},
@@ -125,6 +126,7 @@ ParsedOptions parseOptions(const QStringList &arguments) {
         options.soundJob.renderTo = options.plugins.takeFirst();
     }
     options.soundJob.measureTo = parser.value(QStringLiteral("measure"));
+    options.desk = parser.isSet(QStringLiteral("desk"));
     options.trace = parser.isSet(QStringLiteral("trace"));
     options.verbose = parser.isSet(QStringLiteral("verbose"));
     options.exitWhenShown = parser.isSet(QStringLiteral("exit-when-shown"));

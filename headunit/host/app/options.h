@@ -19,6 +19,7 @@ struct Options {
     QString play;                ///< what to play on the desk: music, noise, sweep, loudspeakers, silence, or a file
     bool meters = false;         ///< print what the loudspeakers do
     SoundJob soundJob;           ///< what to do with the sound instead of showing the unit
+    bool desk = false;           ///< open the tuner's desk at once
     bool trace = false;          ///< print each call across the contract
     bool verbose = false;        ///< print debug lines
     bool exitWhenShown = false;  ///< end once the first screen is painted

@@ -24,7 +24,7 @@ constexpr WindowCall onHide{&WindowInterface::onHide, "onHide", "the window was 
 constexpr WindowCall onDestroy{&WindowInterface::onDestroy, "onDestroy", "the window is no longer wanted"};
 
 void tell(WindowInterface *window, const WindowCall &call) {
-    HEADUNIT_TRACE(traceCall(call.name), QLatin1String(call.meaning));
+    HEADUNIT_TRACE_KIND(Window, traceCall(call.name), QLatin1String(call.meaning));
     (window->*call.call)();
 }
 
@@ -63,6 +63,13 @@ void Stage::takeUpWidget(QWidget *widget) {
     widget->setGeometry(m_stage->rect());
 }
 
+void Stage::refresh() {
+    if (QWidget *const widget = m_front ? m_front->mainWidget() : nullptr) {
+        widget->hide();
+        widget->show();
+    }
+}
+
 void Stage::leave() {
     if (!m_front) {
         return;
@@ -97,8 +104,8 @@ bool Stage::offerKey(KeyEvent *event) {
         return false;
     }
     const bool used = m_front->keyEvent(event) == 1;
-    HEADUNIT_TRACE(traceCall("keyEvent", {event->key(), int(event->type())}),
-                   used ? QStringLiteral("hard key, used by the window") : QStringLiteral("hard key, the unit's"));
+    HEADUNIT_TRACE_KIND(Window, traceCall("keyEvent", {event->key(), int(event->type())}),
+                        used ? QStringLiteral("hard key, used by the window") : QStringLiteral("hard key, the unit's"));
     return used;
 }
 
@@ -107,8 +114,9 @@ bool Stage::offerBack() {
         return false;
     }
     const bool answered = m_front->backEvent() == 1;
-    HEADUNIT_TRACE(traceCall("backEvent"), answered ? QStringLiteral("Back, answered by the window")
-                                                    : QStringLiteral("Back, the unit leaves the window"));
+    HEADUNIT_TRACE_KIND(
+        Window, traceCall("backEvent"),
+        answered ? QStringLiteral("Back, answered by the window") : QStringLiteral("Back, the unit leaves the window"));
     return answered;
 }
 

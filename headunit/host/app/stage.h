@@ -25,6 +25,8 @@ public:
 
     /// Brings a window to the front, leaving the one that is there. False if it has no widget to show.
     bool open(WindowInterface *window);
+    /// Hides the window in front and shows it again, so that its pages read their settings anew.
+    void refresh();
     /// Takes the window in front off the stage.
     void leave();
     /// Leaves, and ends every window. The windows may be deleted afterwards; releaseWidgets() then frees what they

@@ -128,6 +128,15 @@ bool Unit::openApplication(const QString &id, Place origin) {
     return true;
 }
 
+void Unit::refreshFront() {
+    if (m_place == InApplication) {
+        m_stage->refresh();
+    } else if (m_place == BandAdjust) {
+        showHome();  // the panel shows what it found when it was made
+        showBandAdjust();
+    }
+}
+
 void Unit::leaveApplication() {
     if (m_place == InApplication) {
         m_place = Nowhere;

@@ -39,6 +39,9 @@ public:
     /// Asks Audio Settings for its Volume Settings page on behalf of another application.
     bool requestVolumeSettings();
 
+    /// Has what is in front read its settings again, as when it is opened.
+    void refreshFront();
+
     void startCall();
     void endCall();
     /// False if there is no such source.

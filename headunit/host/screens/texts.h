@@ -16,6 +16,7 @@ constexpr int startCall = 20008;
 constexpr int endCall = 20009;
 constexpr int callInProgress = 20010;
 constexpr int bandAdjust = 20018;
+constexpr int tunersDesk = 20019;
 
 struct Channel {
     int type;  ///< as the audio service counts

@@ -16,7 +16,6 @@ class tst_McuService : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void init();
-    void cleanup() { setTraceSink({}); }
     void everyOperation();
     void delaysAreReadDuringTheCall();
     void delaysWithoutArray();
@@ -114,7 +113,7 @@ void tst_McuService::outOfRange() {
 
 void tst_McuService::traced() {
     QStringList lines;
-    setTraceSink([&lines](const TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
+    const TraceListener listener([&lines](const TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
     int delays[] = {5, 0, 0, 0, 0, 0};
     m_mcu->setLoudness(1);
     m_mcu->setSubwooferValue(4);

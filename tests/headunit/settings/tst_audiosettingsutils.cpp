@@ -81,8 +81,6 @@ void tst_AudioSettingsUtils::init() {
 
 void tst_AudioSettingsUtils::cleanup() {
     setSoundListener({});
-    setTraceSink({});
-    setTraceReads(false);
     QVERIFY(saved());
     closeSettings();
 }
@@ -260,7 +258,7 @@ void tst_AudioSettingsUtils::clearFromAnotherFile() {
 
 void tst_AudioSettingsUtils::traced() {
     QStringList lines;
-    setTraceSink([&lines](const TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
+    TraceListener listener([&lines](const TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
     const auto take = [&lines] {
         const QStringList taken = lines;
         lines.clear();
@@ -270,7 +268,7 @@ void tst_AudioSettingsUtils::traced() {
     QCOMPARE(take(), QStringList{"setValue(\"subwooferLevel\", 3, 4, true) -> store: subwooferLevel = 4"});
     m_settings->getValue("subwooferLevel", 3);
     QCOMPARE(take(), QStringList());
-    setTraceReads(true);
+    listener.setReads(TraceListener::WithReads);
     m_settings->getValue("subwooferLevel", 3);
     m_settings->getValue("Setup_Sub", false);
     QCOMPARE(take(), QStringList({"getValue(\"subwooferLevel\", 3) -> store: subwooferLevel is 4",
@@ -286,10 +284,15 @@ void tst_AudioSettingsUtils::traced() {
     m_settings->setValue("ADV_AUDIO_SETTINGS", 0, 1, true);
     m_settings->updateDefeatSetup();
     m_settings->clear(factoryPath);
-    QCOMPARE(take(), QStringList({"updateDefeatSetup() -> Defeat off: sound processing in force",
-                                  "setValue(\"ADV_AUDIO_SETTINGS\", 0, 1, true) -> store: ADV_AUDIO_SETTINGS = 1",
-                                  "updateDefeatSetup() -> Defeat on: sound processing bypassed",
-                                  "clear(\"" + factoryPath + "\") -> all audio settings to the factory state"}));
+    const QStringList cleared = take();
+    QCOMPARE(cleared.mid(0, 4),
+             QStringList({"updateDefeatSetup() -> Defeat off: sound processing in force",
+                          "setValue(\"ADV_AUDIO_SETTINGS\", 0, 1, true) -> store: ADV_AUDIO_SETTINGS = 1",
+                          "updateDefeatSetup() -> Defeat on: sound processing bypassed",
+                          "clear(\"" + factoryPath + "\") -> all audio settings to the factory state"}));
+    // Then each key that the reset changes: 2 that were set, 6 delays and 15 of the crossover that were made flat.
+    QCOMPARE(cleared.size(), 4 + 2 + 6 + 15);
+    QCOMPARE(cleared.at(4), QString("ADV_AUDIO_SETTINGS = its default -> store: ADV_AUDIO_SETTINGS = its default"));
 }
 
 QTEST_GUILESS_MAIN(tst_AudioSettingsUtils)

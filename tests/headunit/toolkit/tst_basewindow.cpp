@@ -80,12 +80,11 @@ private slots:
 
     void handOverIsTraced() {
         QStringList calls;
-        headunit::setTraceSink([&](const headunit::TraceEntry &entry) { calls << entry.call; });
+        const headunit::TraceListener listener([&](const headunit::TraceEntry &entry) { calls << entry.call; });
         PlainWindow window;
         QWidget widget;
         window.setMainWidget(&widget, 33);
         window.setMainWidget(nullptr, 34);
-        headunit::setTraceSink(headunit::TraceSink());
         QCOMPARE(calls, (QStringList{"setMainWidget(QWidget, 33)", "setMainWidget(null, 34)"}));
     }
 };

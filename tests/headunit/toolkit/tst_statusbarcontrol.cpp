@@ -30,11 +30,11 @@ private slots:
 
     void eachCallIsTraced() {
         QStringList calls;
-        headunit::setTraceSink([&](const headunit::TraceEntry &entry) { calls << entry.call + ": " + entry.meaning; });
+        const headunit::TraceListener listener(
+            [&](const headunit::TraceEntry &entry) { calls << entry.call + ": " + entry.meaning; });
         cm::StatusBarControl::instance()->sethide(true);
         cm::StatusBarControl::instance()->sethide(true);
         cm::StatusBarControl::instance()->sethide(false);
-        headunit::setTraceSink(headunit::TraceSink());
         QCOMPARE(calls, (QStringList{"sethide(true): hide the status bar", "sethide(true): hide the status bar",
                                      "sethide(false): show the status bar"}));
     }

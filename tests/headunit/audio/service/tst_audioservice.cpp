@@ -41,8 +41,6 @@ void tst_AudioService::init() {
 }
 
 void tst_AudioService::cleanup() {
-    setTraceSink({});
-    setTraceReads(false);
     m_sound.setMuted(false);
 }
 
@@ -167,7 +165,7 @@ void tst_AudioService::followsClear() {
 
 void tst_AudioService::traced() {
     QStringList lines;
-    setTraceSink([&lines](const TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
+    const TraceListener listener([&lines](const TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
     m_service->doBeep(0);
     m_service->setBalanceFader(3, -2, true);
     m_service->setEQType(AudioEQRock, true);
@@ -187,8 +185,8 @@ void tst_AudioService::traced() {
 
 void tst_AudioService::tracedReads() {
     QStringList lines;
-    setTraceSink([&lines](const TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; });
-    setTraceReads(true);
+    const TraceListener listener([&lines](const TraceEntry &entry) { lines << entry.call + " -> " + entry.meaning; },
+                                 TraceListener::WithReads);
     int balance = 0;
     int fader = 0;
     m_service->getBalanceFader(balance, fader);

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+class QObject;
+class QWidget;
+
+namespace headunit {
+
+/// What the tuner's desk knows of the unit that it works on. The desk is a library of its own, loaded only when it is
+/// opened; this is all that it knows of the host.
+class DeskHost {
+public:
+    virtual ~DeskHost() = default;
+
+    /// The unit's window, with the screen and the hard keys.
+    virtual QWidget *window() = 0;
+    /// The screen of 1024 x 600.
+    virtual QWidget *screen() = 0;
+    /// Has what is in front show what is stored now, as when it is opened.
+    virtual void refreshFront() = 0;
+};
+
+/// Opens the desk, and one of its windows: \a panel is its name (see panels.cpp), or empty for those that were open
+/// last. Returns the desk, which deletes itself when it is closed. Calling it again brings the same desk to the front.
+/// Exported by the desk's library under the name deskEntryName.
+using DeskEntry = QObject *(*)(DeskHost *host, const QString *panel);
+constexpr char deskEntryName[] = "headunitOpenDesk";
+
+}  // namespace headunit

@@ -1,0 +1,235 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>desk</name>
+    <message>
+        <source>Tuner's desk</source>
+        <translation>Mesa de ajuste</translation>
+    </message>
+    <message>
+        <source>&amp;Desk</source>
+        <translation>&amp;Mesa</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;Windows</source>
+        <translation>&amp;Ventanas</translation>
+    </message>
+    <message>
+        <source>&amp;Close the desk</source>
+        <translation>&amp;Cerrar la mesa</translation>
+    </message>
+    <message>
+        <source>Service console</source>
+        <translation>Consola de servicios</translation>
+    </message>
+    <message>
+        <source>What happens between the applications and the unit</source>
+        <translation>Lo que ocurre entre las aplicaciones y la unidad</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Restablecer</translation>
+    </message>
+    <message>
+        <source>Top bar</source>
+        <translation>Barra superior</translation>
+    </message>
+    <message>
+        <source>Tab bar</source>
+        <translation>Barra de pestañas</translation>
+    </message>
+    <message>
+        <source>Home screen</source>
+        <translation>Pantalla de inicio</translation>
+    </message>
+    <message>
+        <source>Status bar</source>
+        <translation>Barra de estado</translation>
+    </message>
+    <message>
+        <source>Hard keys</source>
+        <translation>Teclas físicas</translation>
+    </message>
+    <message>
+        <source>Touch</source>
+        <translation>Toque</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Llamada</translation>
+    </message>
+    <message>
+        <source>Write</source>
+        <translation>Escritura</translation>
+    </message>
+    <message>
+        <source>Announcement</source>
+        <translation>Aviso</translation>
+    </message>
+    <message>
+        <source>Posted touch</source>
+        <translation>Gesto enviado</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Ventana</translation>
+    </message>
+    <message>
+        <source>Read</source>
+        <translation>Lectura</translation>
+    </message>
+    <message>
+        <source>Log line</source>
+        <translation>Línea de registro</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>sin definir</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Clase</translation>
+    </message>
+    <message>
+        <source>Meaning</source>
+        <translation>Significado</translation>
+    </message>
+    <message>
+        <source>finger down on %1</source>
+        <translation>dedo abajo en %1</translation>
+    </message>
+    <message>
+        <source>finger up on %1</source>
+        <translation>dedo arriba en %1</translation>
+    </message>
+    <message>
+        <source>key of the keyboard</source>
+        <translation>tecla del teclado</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 de %2 filas</translation>
+    </message>
+    <message>
+        <source>paused, %1 more</source>
+        <translation>en pausa, %1 más</translation>
+    </message>
+    <message>
+        <source>Every page</source>
+        <translation>Todas las páginas</translation>
+    </message>
+    <message>
+        <source>Save the rows shown</source>
+        <translation>Guardar las filas mostradas</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Texto (*.txt)</translation>
+    </message>
+    <message>
+        <source>JSON lines (*.jsonl)</source>
+        <translation>Líneas JSON (*.jsonl)</translation>
+    </message>
+    <message>
+        <source>Saved in %1</source>
+        <translation>Guardado en %1</translation>
+    </message>
+    <message>
+        <source>Words that stand in the row</source>
+        <translation>Palabras que están en la fila</translation>
+    </message>
+    <message>
+        <source>Filter by words</source>
+        <translation>Filtrar por palabras</translation>
+    </message>
+    <message>
+        <source>Shows the rows in which all of these words stand, in call, meaning or page</source>
+        <translation>Muestra las filas en las que están todas estas palabras, en llamada, significado o página</translation>
+    </message>
+    <message>
+        <source>Classes</source>
+        <translation>Clases</translation>
+    </message>
+    <message>
+        <source>Which classes of rows are shown. Reads are recorded only while they are.</source>
+        <translation>Qué clases de filas se muestran. Las lecturas solo se registran mientras se muestran.</translation>
+    </message>
+    <message>
+        <source>Filter by page</source>
+        <translation>Filtrar por página</translation>
+    </message>
+    <message>
+        <source>Shows what this page of the unit caused</source>
+        <translation>Muestra lo que causó esta página de la unidad</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Holds the rows still; what comes meanwhile is shown afterwards</source>
+        <translation>Detiene las filas; lo que llegue se muestra después</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Seguir</translation>
+    </message>
+    <message>
+        <source>Keeps the newest row in sight</source>
+        <translation>Mantiene a la vista la fila más reciente</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Forgets all rows</source>
+        <translation>Olvida todas las filas</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows as text</source>
+        <translation>Copia las filas seleccionadas como texto</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Guardar…</translation>
+    </message>
+    <message>
+        <source>Saves the rows shown as text or as JSON lines</source>
+        <translation>Guarda las filas mostradas como texto o como líneas JSON</translation>
+    </message>
+    <message>
+        <source>Rows of the service console</source>
+        <translation>Filas de la consola de servicios</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>Guardando %1</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+</context>
+</TS>

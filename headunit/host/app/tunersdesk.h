@@ -1,0 +1,35 @@
+#pragma once
+
+#include "headunit/desk/frame/deskhost.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace headunit {
+
+class DeskWindow;
+class Unit;
+
+/// Opens the tuner's desk over the unit. The desk is a library of its own: until it is opened, it costs nothing.
+class TunersDesk : public QObject, private DeskHost {
+    Q_OBJECT
+public:
+    /// Opens it whenever \a window asks for it.
+    TunersDesk(DeskWindow &window, Unit &unit);
+    ~TunersDesk() override;
+
+    /// Opens the desk, with the window of that name in front if one is given. What keeps it from being opened is one
+    /// line on standard error.
+    void open(const QString &panel = QString());
+
+private:
+    QWidget *window() override;
+    QWidget *screen() override;
+    void refreshFront() override;
+
+    DeskWindow &m_window;
+    Unit &m_unit;
+    QPointer<QObject> m_desk;
+};
+
+}  // namespace headunit

@@ -1,0 +1,49 @@
+// Makes the pictures of docs/tuning.md: desk_pictures FOLDER LANGUAGE. Every panel at rest and after a few touches.
+
+#include "desktest.h"
+
+#include "headunit/desk/frame/panel.h"
+
+#include <QDir>
+
+namespace {
+
+constexpr QSize size(1180, 640);
+
+bool shoot(UnitOnTheDesk &unit, const QDir &folder, const QString &state) {
+    bool saved = true;
+    for (const headunit::PanelRow *row = headunit::panelsBegin(); row != headunit::panelsEnd(); ++row) {
+        headunit::Desk *const desk = unit.openDesk(QLatin1String(row->name));
+        for (QDockWidget *dock : desk->findChildren<QDockWidget *>()) {
+            dock->setVisible(dock->objectName() == QLatin1String(row->name));
+        }
+        desk->resize(size);
+        unit.pass(500);
+        saved = desk->grab().save(folder.filePath(QStringLiteral("desk_%1_%2.png").arg(row->name, state))) && saved;
+    }
+    return saved;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    if (argc != 3) {
+        qCritical("usage: desk_pictures FOLDER LANGUAGE");
+        return 2;
+    }
+    headunit::prepareUnitApplication();
+    new headunit::VirtualTime;
+    QApplication application(argc, argv);
+    headunit::setUpUnitApplication();
+    QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, false);
+    UnitOnTheDesk unit;
+    unit.unit->setLanguage(QString::fromLocal8Bit(argv[2]));
+    const QDir folder(QString::fromLocal8Bit(argv[1]));
+    bool saved = shoot(unit, folder, QStringLiteral("rest"));
+    for (const char *name : {"key_Subwoofer", "key_subvol_next", "key_subvol_next", "key_crossover", "key_freq_plus",
+                             "key_freq_plus", "key_slope_plus", "key_level_minus", "key_timing", "key_general"}) {
+        unit.tap(name);
+    }
+    saved = shoot(unit, folder, QStringLiteral("busy")) && saved;
+    return saved ? 0 : 1;
+}
