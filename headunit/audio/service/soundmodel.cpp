@@ -112,7 +112,7 @@ int SoundModel::channelLevel(int channel) const {
 }
 
 void SoundModel::setSourceGain(int source, int value) {
-    if (exists(source, SoundState::sources, "source") && !tooLoud(value, ranges::sourceGain, "source gain")) {
+    if (exists(source, SoundState::sources, "source")) {
         assign(m_state.sourceGain[static_cast<size_t>(source)], clamped(value, ranges::sourceGain, "source gain"));
     }
 }

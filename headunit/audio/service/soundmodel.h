@@ -21,9 +21,10 @@ enum class SoundFault { None, NothingToPlay, NoLibrary, NoServer, NoDevice };
 /// The sound of the unit: the one SoundState, the checks at its boundary, and the settings that the services keep
 /// themselves (live equaliser bands, curve in force, channel levels).
 ///
-/// A quantity out of range is clamped, unless that could make something louder: a volume out of range, and a gain above
-/// its range, make the call void, as does a number that names something that does not exist (band, channel, source,
-/// frequency index). Either writes a debug line, one each kind and second. GUI thread only.
+/// A quantity out of range is clamped, unless that could make something louder: a volume out of range, and a band's,
+/// the subwoofer's or a filter's level above its range, make the call void, as does a number that names something that
+/// does not exist (band, channel, source, frequency index). A source's gain is clamped all the same, as the page for it
+/// goes beyond its range. Either writes a debug line, one each kind and second. GUI thread only.
 class SoundModel : public QObject {
     Q_OBJECT
 public:

@@ -28,25 +28,20 @@ int storedGain(int value, const Range &range, int otherwise, const char *what) {
     return otherwise;
 }
 
-template <size_t Count> std::array<int, Count> storedGains(const SettingsStore &store, const SettingKey &key,
-                                                           const Range &range, int offset = 0) {
+/// What a stored value out of range counts for: its nearer end, or, where that might be loud, as never written.
+enum class OutOfRange { NearerEnd, Default };
+
+template <size_t Count> std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key,
+                                                         const Range &range, OutOfRange outOfRange, int offset = 0) {
     std::array<int, Count> row;
     // In the store's numbers, so that a debug line says what stands there.
     const Range storedRange = {range.low - offset, range.high - offset};
     for (size_t number = 0; number < Count; ++number) {
         const QString name = QString::fromLatin1(key.name).arg(number);
         const int value = store.intValue(name, key.defaultValue);
-        row[number] = storedGain(value, storedRange, key.defaultValue, qPrintable(name)) + offset;
-    }
-    return row;
-}
-
-template <size_t Count>
-std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key, const Range &range) {
-    std::array<int, Count> row;
-    for (size_t number = 0; number < Count; ++number) {
-        const QString name = QString::fromLatin1(key.name).arg(number);
-        row[number] = clamped(store.intValue(name, key.defaultValue), range, qPrintable(name));
+        row[number] = offset + (outOfRange == OutOfRange::Default
+                                    ? storedGain(value, storedRange, key.defaultValue, qPrintable(name))
+                                    : clamped(value, storedRange, qPrintable(name)));
     }
     return row;
 }
@@ -77,7 +72,7 @@ CrossoverFilter SoundModel::restoredFilter(FilterChannel channel) const {
 }
 
 std::array<int, SoundState::outputs> SoundModel::restoredDelays() const {
-    return storedRow<SoundState::outputs>(m_store, keys::delay, ranges::delay);
+    return storedRow<SoundState::outputs>(m_store, keys::delay, ranges::delay, OutOfRange::NearerEnd);
 }
 
 bool SoundModel::restoredDefeat() const {
@@ -90,12 +85,14 @@ SoundState SoundModel::restored() const {
     next.muted = m_state.muted;
     next.activePrompts = m_state.activePrompts;
     next.eqType = stored(m_store, keys::eqType);
-    next.customEq = storedGains<SoundState::bands>(m_store, keys::customEq, ranges::bandValue);
+    next.customEq = storedRow<SoundState::bands>(m_store, keys::customEq, ranges::bandValue, OutOfRange::Default);
     next.balance = clamped(stored(m_store, keys::balance), ranges::balanceFader, keys::balance.name);
     next.fader = clamped(stored(m_store, keys::fader), ranges::balanceFader, keys::fader.name);
-    next.channelLevel = storedGains<SoundState::channels>(m_store, keys::channelLevel, ranges::channelLevel);
-    next.sourceGain =
-        storedGains<SoundState::sources>(m_store, keys::sourceGain, ranges::sourceGain, neutralSourceGain);
+    next.channelLevel =
+        storedRow<SoundState::channels>(m_store, keys::channelLevel, ranges::channelLevel, OutOfRange::Default);
+    // The page goes on to 20 for the radio, which sounds like 10.
+    next.sourceGain = storedRow<SoundState::sources>(m_store, keys::sourceGain, ranges::sourceGain,
+                                                     OutOfRange::NearerEnd, neutralSourceGain);
     next.loudness = storedFlag(m_store, keys::loudness);
     next.defeat = restoredDefeat();
     if (storedFlag(m_store, keys::subwooferOn)) {

@@ -114,7 +114,7 @@ void tst_SoundModel::setters_data() {
     row(
         "gain without its offset", 1, [](M m) { m.setSourceGain(0, -10); }, [](S s) { s.sourceGain[0] = 0; });
     row(
-        "gain too high", 1, [](M m) { m.setSourceGain(0, far); }, [](S) {});
+        "gain too high", 1, [](M m) { m.setSourceGain(0, far); }, [](S s) { s.sourceGain[0] = 20; });
     row(
         "source 7", 1, [](M m) { m.setSourceGain(7, 5); }, [](S) {});
     row(
@@ -563,12 +563,12 @@ void tst_SoundModel::aStoredValueOutOfRangeIsReportedAsItStands() {
     const SoundModel model(store);
     QCOMPARE(log.takeDebug(), QStringList({"sound: eq3 99 is not within -12 to 24, taken as 0",
                                            "sound: eq12 -13 is not within -12 to 24, taken as 0",
-                                           "sound: audioinputgain5 2147483647 is not within -10 to 10, taken as 0",
-                                           "sound: audioinputgain6 -11 is not within -10 to 10, taken as 0"}));
+                                           "sound: audioinputgain5 2147483647 is not within -10 to 10, taken as 10",
+                                           "sound: audioinputgain6 -11 is not within -10 to 10, taken as -10"}));
     QCOMPARE(model.state().customEq[3], 0);
     QCOMPARE(model.state().customEq[12], 0);
-    QCOMPARE(model.state().sourceGain[5], 10);
-    QCOMPARE(model.state().sourceGain[6], 10);
+    QCOMPARE(model.state().sourceGain[5], 20);
+    QCOMPARE(model.state().sourceGain[6], 0);
 }
 
 /// Whatever a store that was damaged, or made elsewhere, says: what decides how loud it is has its readers' default.
@@ -579,7 +579,6 @@ void tst_SoundModel::storedLevelsOutOfRangeAreNeverLoud() {
         SettingsStore store;
         for (int number = 0; number < SoundState::bands; ++number) {
             store.set(QString("eq%1").arg(number), value);
-            store.set(QString("audioinputgain%1").arg(number), value);
             store.set(QString("inputgain%1").arg(number), value == 25 ? 41 : value);
         }
         store.set("crossover/frontlevel", value);
@@ -596,7 +595,6 @@ void tst_SoundModel::noCallOutOfRangeIsLouder() {
     SettingsStore store;
     SoundModel model(store);
     model.setChannelLevel(0, 7);
-    model.setSourceGain(0, 2);
     model.setCustomEq(5, 3);
     model.setSubwooferLevel(1);
     model.setFilter(FilterChannel::Rear, {2, 2, 1});
@@ -604,7 +602,6 @@ void tst_SoundModel::noCallOutOfRangeIsLouder() {
     const SettingsMap kept = store.values();
     for (const int value : {41, 1000, std::numeric_limits<int>::max()}) {
         model.setChannelLevel(0, value);
-        model.setSourceGain(0, value);
         model.setCustomEq(5, value);
         model.setSubwooferLevel(value);
         model.setFilter(FilterChannel::Rear, {2, 2, value});
