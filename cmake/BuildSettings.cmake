@@ -1,6 +1,8 @@
 # Settings that every target shares.
 
-option(AUDIOSETTING_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+set(AUDIOSETTING_SANITIZE "" CACHE STRING
+    "Sanitizers to build with: address (and undefined behaviour), thread (data races), or none where it is empty")
+set_property(CACHE AUDIOSETTING_SANITIZE PROPERTY STRINGS "" address thread)
 
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -20,13 +22,18 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverl
 if(AUDIOSETTING_WERROR)
     add_compile_options(-Werror)
 endif()
-if(AUDIOSETTING_SANITIZE)
-    add_compile_options(-O1 -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-    # The sanitizers' own code confuses this one warning; the release build gives it.
-    add_compile_options(-Wno-maybe-uninitialized)
-    add_link_options(-fsanitize=address,undefined)
+if(AUDIOSETTING_SANITIZE STREQUAL "address")
+    set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=undefined)
+elseif(AUDIOSETTING_SANITIZE STREQUAL "thread")
+    set(sanitizers -fsanitize=thread)
+elseif(AUDIOSETTING_SANITIZE)
+    message(FATAL_ERROR "AUDIOSETTING_SANITIZE is address or thread, not ${AUDIOSETTING_SANITIZE}")
 endif()
-if(NOT AUDIOSETTING_SANITIZE)
+if(AUDIOSETTING_SANITIZE)
+    # The sanitizers' own code confuses this one warning; the release build gives it.
+    add_compile_options(-O1 ${sanitizers} -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+    add_link_options(${sanitizers})
+else()
     add_link_options(-Wl,--no-undefined -Wl,--as-needed)
 endif()
 add_compile_definitions(QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING)

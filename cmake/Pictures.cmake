@@ -3,9 +3,9 @@
 find_program(PYTHON3_PROGRAM python3 REQUIRED)
 set(PICTURES_SOURCE_DIR ${CMAKE_SOURCE_DIR}/audiosetting/resources)
 set(PICTURES_RENDERER ${CMAKE_SOURCE_DIR}/tools/render_pictures.py)
-set(PICTURES_TEMPLATE ${CMAKE_CURRENT_LIST_DIR}/pictures.cpp.in)
+set(PICTURES_CODE_DIR ${CMAKE_CURRENT_LIST_DIR})
 
-# headunit_pictures(TARGET TABLE file DENSE file.rcc): adds the table's pictures to a target's objects.
+# headunit_pictures(TARGET TABLE file DENSE file.rcc): adds the table's pictures to a target of the same CMakeLists.txt.
 #
 # A line of the table is: prefix/name source state width height, with sources below the table's folder and the states of
 # resources/palette/. Each source is one build step, so that a changed drawing renders its own family only.
@@ -69,22 +69,30 @@ function(headunit_pictures target)
         list(APPEND files ${files_${source}})
     endforeach()
 
-    set(PICTURES_PACKS "")
-    set(PICTURES_ASSEMBLY "")
+    set(archives "")
+    set(symbols "")
     set(pack_files "")
     foreach(pack IN LISTS packs)
         headunit_picture_archive(${out}/${pack}.rcc "" "${names_${pack}}" "${files}" ${out})
         list(APPEND pack_files ${out}/${pack}.rcc)
-        string(APPEND PICTURES_ASSEMBLY "PICTURE_PACK(${target}_${pack}, \"${out}/${pack}.rcc\")\n")
-        list(APPEND PICTURES_PACKS ${target}_${pack})
+        string(APPEND archives "PICTURE_ARCHIVE(${target}_${pack}, \"${out}/${pack}.rcc\")\n")
+        string(APPEND symbols "${target}_${pack}, ")
     endforeach()
-    list(JOIN PICTURES_PACKS ", " PICTURES_PACKS)
     headunit_picture_archive(${ARG_DENSE} "@2x" "${names}" "${files}" ${out})
-    get_filename_component(PICTURES_DENSE ${ARG_DENSE} NAME)
-    configure_file(${PICTURES_TEMPLATE} ${out}/${target}_pictures.cpp @ONLY)
-    set_source_files_properties(${out}/${target}_pictures.cpp TARGET_DIRECTORY ${target} PROPERTIES
+    get_filename_component(dense ${ARG_DENSE} NAME)
+    file(WRITE ${out}/${target}_pictures.cpp.new "#include \"${PICTURES_CODE_DIR}/embeddedpictures.h\"
+
+${archives}
+namespace {
+const unsigned char *const archives[] = {${symbols}nullptr};
+const EmbeddedPictures pictures(archives, \"${dense}\");
+}  // namespace
+")
+    configure_file(${out}/${target}_pictures.cpp.new ${out}/${target}_pictures.cpp COPYONLY)
+    set_source_files_properties(${out}/${target}_pictures.cpp PROPERTIES
         OBJECT_DEPENDS "${pack_files};${ARG_DENSE}" SKIP_AUTOGEN ON)
-    target_sources(${target} PRIVATE ${out}/${target}_pictures.cpp)
+    target_sources(${target} PRIVATE ${out}/${target}_pictures.cpp ${PICTURES_CODE_DIR}/embeddedpictures.cpp
+        ${PICTURES_CODE_DIR}/embeddedpictures.h)
     target_link_libraries(${target} PRIVATE ${CMAKE_DL_LIBS})
     add_custom_target(${target}_pictures DEPENDS ${pack_files} ${ARG_DENSE})
     set_target_properties(${target}_pictures PROPERTIES PICTURE_PACKS "${pack_files}")
@@ -105,10 +113,14 @@ function(headunit_picture_archive archive suffix names files folder)
     set(description ${folder}/${archive_name}${suffix}.qrc)
     file(GENERATE OUTPUT ${description} CONTENT "${qrc}")
     get_filename_component(archive_folder ${archive} DIRECTORY)
-    # Version 1 is what Qt 5.3 reads, and it holds no file times.
+    # Version 1 is what Qt 5.3 reads, and it holds no file times. Old releases write no other.
+    set(format "")
+    if(NOT Qt5Core_VERSION VERSION_LESS 5.13)
+        set(format --format-version 1)
+    endif()
     add_custom_command(OUTPUT ${archive}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${archive_folder}
-        COMMAND Qt5::rcc --binary --no-compress --format-version 1 --output ${archive} ${description}
+        COMMAND Qt5::rcc --binary --no-compress ${format} --output ${archive} ${description}
         DEPENDS ${files} ${description}
         COMMENT "Packing pictures: ${archive_name}${suffix}" VERBATIM)
 endfunction()
