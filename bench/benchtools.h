@@ -6,7 +6,7 @@
 #include <QMouseEvent>
 #include <QWidget>
 
-/// What the floor and the product do alike, so that only what differs is measured.
+/// The common part of floor and product, so that only their difference is measured.
 namespace bench {
 
 constexpr QSize screen(1024, 600);

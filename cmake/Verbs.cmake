@@ -53,7 +53,7 @@ function(headunit_library name)
     target_link_libraries(${name} PUBLIC headunit_contract Qt5::Core ${ARG_LINK})
 endfunction()
 
-# What every test runs in, and for how long (s) at most: a busy machine with a slow disk is no reason to fail.
+# The environment of every test, and its longest time in seconds: a busy machine with a slow disk is no reason to fail.
 set(audiosetting_test_timeout 1800)
 set(audiosetting_test_environment
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1;\

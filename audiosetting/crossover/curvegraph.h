@@ -14,7 +14,7 @@ class CurveGraph : public QFrame {
 public:
     explicit CurveGraph(QWidget *parent);
 
-    /// What lies behind the curves; opaque, at least as large as the graph.
+    /// Sets the picture behind the curves; opaque, at least as large as the graph.
     void setGround(const QPixmap &ground);
 
 protected:

@@ -5,7 +5,7 @@
 
 namespace headunit {
 
-/// What the disk answered: no error, or its text.
+/// The disk's answer: no error, or its text.
 struct DiskResult {
     bool missing = false;  ///< there is no such file
     QString error;         ///< empty: done

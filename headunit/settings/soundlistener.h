@@ -4,7 +4,7 @@
 
 namespace headunit {
 
-/// What of the sound must be taken from the store again.
+/// The part of the sound that must be taken from the store again.
 enum class SoundPart { Crossover, Delays, Defeat, All };
 
 /// The sound side of the unit, as far as the store knows it.

@@ -37,7 +37,7 @@ struct HorizontalSlider::Private : public QObject {
         return rect;
     }
 
-    /// What a step changes: the knob, and the track from one fill edge to the other.
+    /// The area that a step changes: the knob, and the track from one fill edge to the other.
     QRect stepRect() const { return QRect(centre(), 0, 1, q->height()).united(knobRect()); }
 
     bool move(int to) {

@@ -144,7 +144,7 @@ void VirtualTime::fire(quint64 serial) {
     timer = find(serial);
     if (timer) {
         timer->running = false;
-        // What came due while its own timeout ran a loop is lost, as on a real unit.
+        // A timeout that came due while the timer's own timeout ran a loop is lost, as on a real unit.
         while (timer->interval > 0 && timer->due <= m_now) {
             timer->due += timer->interval + timer->lateness;
         }

@@ -50,7 +50,7 @@ function tapSomewhere() {
     tap(at[0], at[1]);
 }
 
-// What leads from page to page.
+// The keys that lead from page to page.
 var roads = ["left_widget/key_general", "left_widget/key_eq", "left_widget/key_crossover", "left_widget/key_timing",
              "left_widget/key_factoryeq", "key_advanced", "Key_001_loudness", "Key_003_source_gain",
              "Key_004_vol_settings", "Key_005_res_audio", "Key_accept", "Key_Reject", "top_widget/Key_update",

@@ -37,7 +37,7 @@ PLATFORM_API void reset();
 /// The audio settings store.
 PLATFORM_API void setStored(const QString &key, const QVariant &value);
 PLATFORM_API QVariant stored(const QString &key);  ///< an invalid value where nothing is stored
-/// What AudioSettingsUtils::clear() restores; nothing at first.
+/// The values that AudioSettingsUtils::clear() restores; none at first.
 PLATFORM_API void setFactory(const QHash<QString, QVariant> &values);
 
 /// The general settings store.

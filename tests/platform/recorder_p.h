@@ -4,7 +4,7 @@
 
 namespace recording {
 
-/// What an argument looks like in the log.
+/// The text of an argument in the log.
 QString text(int value);
 QString text(bool value);
 QString text(const QString &value);

@@ -12,8 +12,8 @@ namespace {
 /// Far above what any file holds; beyond it lie only damaged samples.
 constexpr float largestSample = 16;
 
-/// What an input may do at worst: a sample that is no number is silence.
-double tamed(float sample) {
+/// A sample of an input, made safe: one that is no number is silence.
+double sanitize(float sample) {
     return std::isnan(sample) ? 0 : std::clamp(sample, -largestSample, largestSample);
 }
 
@@ -70,7 +70,7 @@ bool Engine::add(size_t input, const float *samples, double *mixed, size_t frame
     for (size_t frame = 0; frame < frames; ++frame) {
         const double gain = gains[frame] * (way == 0 ? from : from + way * m_fade.weights()[frame]);
         for (size_t side = 0; side < stereo; ++side) {
-            mixed[frame * stereo + side] += tamed(samples[frame * stereo + side]) * gain;
+            mixed[frame * stereo + side] += sanitize(samples[frame * stereo + side]) * gain;
         }
     }
     return true;

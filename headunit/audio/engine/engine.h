@@ -11,7 +11,7 @@
 
 namespace headunit::engine {
 
-/// What comes in: left and right in turn for each input, in full scale 1; null for one that is silent.
+/// The samples of each input: left and right in turn, full scale 1; null for an input that is silent.
 using Inputs = std::array<const float *, inputCount>;
 
 /// The sound processor: mixes the inputs, and gives each output what the parameters say. A change of parameters fades
@@ -29,7 +29,7 @@ public:
 
     void setParameters(const Parameters &parameters) { m_parameters.write(parameters); }
 
-    /// What comes next rises from silence over fadeInSamples.
+    /// The next samples rise from silence over fadeInSamples.
     void fadeIn() { m_fadeIn.restart(); }
     /// Gives \a frames of outputCount samples, each within full scale. Any number of frames at a time gives the same.
     void process(const Inputs &inputs, float *out, size_t frames);

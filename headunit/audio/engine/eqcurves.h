@@ -9,7 +9,7 @@ namespace headunit::engine {
 /// Gains in dB of the bands, from 63 Hz to 16 kHz.
 using Curve = std::array<int, SoundState::bands>;
 
-/// What the equaliser is set to: a factory curve, or the live custom one. A type without a curve is flat.
+/// The curve that the equaliser is set to: a factory curve, or the live custom one. A type without a curve is flat.
 Curve curveInForce(const SoundState &state);
 
 }  // namespace headunit::engine

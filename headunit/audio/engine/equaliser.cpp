@@ -10,8 +10,8 @@ namespace headunit::engine {
 
 namespace {
 
-/// What of a section's decibels is left at its neighbour's centre: with less the sum of equal bands waves, with more
-/// the solver works against itself.
+/// The part of a section's decibels that is left at its neighbour's centre: with less the sum of equal bands waves,
+/// with more the solver works against itself.
 constexpr double shareAtNeighbour = 0.30;
 
 /// Distances between the bands, which depend on nothing that can be set.
@@ -48,7 +48,7 @@ double squaredWidth(size_t section, double gain) {
     return layout().neighbour[section] * ratio;
 }
 
-/// What a section of \a gain dB does at the bands' centres.
+/// The response of a section of \a gain dB at the bands' centres.
 BandGains sectionDecibels(size_t section, double gain) {
     const double width = squaredWidth(section, gain);
     const double power = std::pow(10, gain / 10);

@@ -10,7 +10,7 @@
 
 namespace headunit::engine {
 
-/// What becomes of a tone that is alike on left and right of an input, once the engine's latency is taken off.
+/// The level and phase of a tone that is alike on left and right of an input, once the engine's latency is taken off.
 struct MeasuredPoint {
     double hz;
     std::array<std::complex<double>, outputCount> outputs;

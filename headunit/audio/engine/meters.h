@@ -8,7 +8,7 @@
 
 namespace headunit::engine {
 
-/// What came out of the unit during some time, for whoever wants to look.
+/// Readings of the outputs over some time.
 struct Meters {
     std::array<float, outputCount> peak{};                  ///< highest sample of each output, 0 to 1
     std::array<double, pairCount> limiterGain = {1, 1, 1};  ///< lowest gain of the limiter of each pair, 0 to 1

@@ -20,13 +20,13 @@ using engine::stereo;
 constexpr size_t chunkFrames = 1024;
 constexpr float minusThreeDecibels = 0.70710678F;
 
-/// What a channel of the file adds to left and right.
+/// The share of a channel of the file in left and right.
 struct Share {
     float left;
     float right;
 };
 
-/// What a place in a listening room adds. The low frequencies of a film are left out, as the unit makes its own.
+/// The share of a place in a listening room. The low frequencies of a film are left out, as the unit makes its own.
 struct Place {
     int name;
     Share share;

@@ -104,7 +104,7 @@ bool SoundWriter::open(const std::string &path, std::string *error) {
         if (!std::filesystem::is_regular_file(path, unknown)) {
             return d->fail("this is no file that could be replaced", error);
         }
-        // What a link leads to is replaced, not the link.
+        // The file that a link leads to is replaced, not the link.
         d->target = std::filesystem::canonical(path, unknown).string();
     }
     if (!d->create()) {

@@ -10,7 +10,7 @@
 
 namespace headunit {
 
-/// Takes states of the sound to whoever works out what they mean for the samples, on a thread of its own: that costs
+/// Designs parameters from sound states on its own thread, on a thread of its own: that costs
 /// more than all else that happens while a finger drags a slider.
 class ControlThread {
 public:

@@ -7,7 +7,7 @@ namespace headunit {
 
 namespace {
 
-/// What is read in one go.
+/// Frames read in one go.
 constexpr size_t pieceFrames = 4096;
 
 }  // namespace

@@ -69,7 +69,7 @@ Q_SIGNALS:
     /// hear this one first, and last the one that is in force.
     void channelLevelChanged(int channel, int level);
     void faultChanged();
-    /// A key click is wanted.
+    /// Asks for a key click.
     void beeped(int sound);
 
 private:

@@ -1,4 +1,4 @@
-// What of the sound stands in the store, and under which keys: the same ones that the pages read.
+// Restores the sound from the store: which parts stand there, under the same keys that the pages read.
 
 #include "soundlimits.h"
 #include "soundmodel.h"

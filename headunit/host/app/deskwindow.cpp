@@ -56,7 +56,8 @@ DeskWindow::DeskWindow()
 }
 
 void DeskWindow::showEvent(QShowEvent *) {
-    // What covers the window whole spares it its own paint event, so the first picture is seen at the window below.
+    // A child that covers the whole window spares it its own paint event, so the first picture is seen at the window
+    // below.
     if (!m_exposed) {
         windowHandle()->installEventFilter(this);
     }

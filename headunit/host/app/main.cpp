@@ -36,7 +36,7 @@ namespace {
 constexpr int exitGood = 0;
 constexpr int exitUnusable = 2;
 
-// What the status bar shows wherever pictures must be the same at every run.
+// The time that the status bar shows wherever pictures must be the same at every run.
 const char fixedTime[] = "10:08";
 
 int refuse(const QString &reason) {

@@ -7,7 +7,7 @@
 
 namespace headunit {
 
-/// What the command line asks for. Every option has a default that works.
+/// The options of the command line. Every option has a default that works.
 struct Options {
     QStringList plugins;         ///< files to load; empty: the one built beside the host
     QString root;                ///< folder that stands for the unit's file system; empty: below the user's data

@@ -23,7 +23,7 @@ public:
     /// Where the unit can be.
     enum Place { Nowhere, Home, Car, Call, BandAdjust, InApplication };
 
-    /// Shows everything in \a screen; \a clock gives the status bar its time. Starts nowhere.
+    /// Shows everything in \a screen; \a clock gives the status bar its time. The place is Nowhere at first.
     Unit(PluginCatalog &catalog, QWidget *screen, StatusBar::Clock clock);
     ~Unit() override;
 
@@ -58,7 +58,7 @@ public:
 
     void pressHardKey(int key);
     void releaseHardKey(int key);
-    /// What an application asks for with a touch event.
+    /// Does what an application asks for with a touch event.
     void touch(int code);
 
     /// Ends the applications and deletes them. The unit shows nothing afterwards.

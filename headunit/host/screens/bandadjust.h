@@ -9,7 +9,7 @@ namespace headunit {
 /// would cost every start.
 QWidget *createBandAdjust(QWidget *parent);
 
-/// What that library exports, and under which name.
+/// The function that the library exports, and its name.
 using BandAdjustEntry = QWidget *(*)(QWidget *parent);
 constexpr char bandAdjustEntryName[] = "headunitCreateBandAdjust";
 

@@ -32,7 +32,7 @@ enum class KeyState { Normal, Pressed, Checked, Disabled };
 
 /// The unit's font at a size in pixels.
 QFont font(int pixels);
-/// Fills with the ground of every screen.
+/// Fills with the background of every screen.
 void paintGround(QPainter &painter, const QRect &rect);
 /// A raised key.
 void paintKey(QPainter &painter, const QRect &rect, KeyState state);

@@ -44,7 +44,7 @@ public:
     Q_INVOKABLE QJSValue store(const QString &key);
     /// The sound state, as an object.
     Q_INVOKABLE QJSValue sound();
-    /// What the loudspeakers give of a tone: heard(hz), or heard(hz, input) for another input than the main one.
+    /// The level of a tone at each loudspeaker: heard(hz), or heard(hz, input) for another input than the main one.
     Q_INVOKABLE QJSValue heard(double hz, int input = 0);
     /// After how many samples each loudspeaker begins to play.
     Q_INVOKABLE QJSValue arrival();

@@ -41,7 +41,8 @@ int run(ScriptTarget &target, const QString &file, const QString &folder) {
     (new ScriptApi(target, &engine, folder))->install();
     QJSValue result = engine.importModule(file);
     if (!result.isError()) {
-        // What was thrown while the module ran, be it undefined, is pending until now, and comes instead of this.
+        // A value that was thrown while the module ran, be it undefined, is pending until now, and comes instead of
+        // this.
         result = engine.evaluate(QStringLiteral("var moduleHasEnded = true;"));
         if (engine.globalObject().hasProperty(QStringLiteral("moduleHasEnded"))) {
             return exitGood;

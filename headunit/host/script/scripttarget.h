@@ -6,8 +6,8 @@ class QWidget;
 
 namespace headunit {
 
-/// What a script can do with the unit besides touching it. The script engine is a library of its own, loaded only
-/// when there is a script; this is all that it knows of the host.
+/// The operations on the unit that a script has besides touching it. The script engine is a library of its own, loaded
+/// only when there is a script; this is all that it knows of the host.
 class ScriptTarget {
 public:
     virtual ~ScriptTarget() = default;

@@ -8,7 +8,7 @@ namespace headunit {
 /// The unit's sound state as an object of a script, with the names of SoundState.
 QJSValue soundObject(QJSEngine &engine);
 
-/// What the loudspeakers give of a tone of \a hz on an \a input (engine::Input), measured on the engine's samples:
+/// The level at each loudspeaker of a tone of \a hz on an \a input (engine::Input), measured on the engine's samples:
 /// decibels and degrees of the six outputs, as { db: [...], deg: [...] }. Decibels are -Infinity for silence.
 QJSValue heardObject(QJSEngine &scripts, double hz, int input);
 

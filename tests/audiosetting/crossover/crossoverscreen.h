@@ -8,7 +8,7 @@
 
 #include <array>
 
-/// What the tests of the Crossover page know of it, written down apart from its own tables.
+/// The tests' own knowledge of the Crossover page, written down apart from its own tables.
 namespace crossovertest {
 
 enum { front, rear, subwoofer, channels };

@@ -8,7 +8,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-/// What the tests of the EQ page share.
+/// The common parts of the tests of the EQ page.
 namespace eqpage {
 
 inline QString highlight(int preset) {

@@ -22,7 +22,7 @@ struct Picture {
     QString denseFile() const { return QStringLiteral(":/") + name + QStringLiteral("@2x.png"); }
 };
 
-// What the keys lie on: the lightest and the darkest point of the ground.
+// The lightest and the darkest point of the background that the keys lie on.
 const QRgb groundTop = qRgb(0x16, 0x1d, 0x27);
 const QRgb groundBottom = qRgb(0x0a, 0x0d, 0x12);
 const QRgb white = qRgb(255, 255, 255);

@@ -8,7 +8,7 @@
 
 #include <array>
 
-/// What the tests of the Timing page know of it, written down apart from its own tables.
+/// The tests' own knowledge of the Timing page, written down apart from its own tables.
 namespace timingtest {
 
 constexpr int outputs = 6;

@@ -11,7 +11,7 @@
 #include <QScrollBar>
 #include <QTest>
 
-/// What the tests of Volume Settings and Source Gain share: finding and touching the parts of their rows.
+/// The common parts of the tests of Volume Settings and Source Gain: finding and touching the parts of their rows.
 namespace sliderpage {
 
 inline QWidget *contents(QWidget *page) {

@@ -1,4 +1,4 @@
-// What the scripts share.
+// The common parts of the scripts.
 
 // Lets a touch come to its end: longer than a key blinks, and than the tabs ignore a second tap.
 export function settle() {
@@ -10,7 +10,7 @@ export function use(place, y) {
     settle();
 }
 
-// What each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
+// The level at each loudspeaker (front left and right, rear, subwoofer) gives of a tone, in dB, is as expected.
 export function hears(what, hz, expected, input) {
     var is = heard(hz, input || 0).db;
     for (var i = 0; i < 6; ++i) {

@@ -8,7 +8,7 @@
 #include <functional>
 #include <vector>
 
-/// What the tests of the engine share: settings to start from, signals, and looks at what comes out.
+/// The common parts of the engine's tests: settings to start from, signals, and looks at what comes out.
 namespace rendering {
 
 using headunit::SoundState;
