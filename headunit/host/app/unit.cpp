@@ -3,15 +3,15 @@
 #include "audioservice.h"
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/audio/service/soundtables.h"
+#include "headunit/host/app/chosenlanguage.h"
 #include "headunit/host/app/pagerequest.h"
 #include "headunit/host/app/plugincatalog.h"
 #include "headunit/host/app/stage.h"
+#include "headunit/host/app/unitscreens.h"
 #include "headunit/host/screens/bandadjust.h"
-#include "headunit/host/screens/callscreen.h"
-#include "headunit/host/screens/carscreen.h"
-#include "headunit/host/screens/homescreen.h"
-#include "headunit/host/screens/leveloverlay.h"
 #include "headunit/host/screens/texts.h"
+#include "headunit/toolkit/language.h"
+#include "headunit/toolkit/sourcedisplay.h"
 #include "headunit/toolkit/statusbar.h"
 #include "keyevent.h"
 #include "settingscache.h"
@@ -21,6 +21,7 @@
 
 #include <QDebug>
 
+#include <iterator>
 #include <utility>
 
 namespace headunit {
@@ -29,16 +30,29 @@ namespace {
 
 const QLatin1String audioSettingsId("audiosetting");
 
-constexpr int mainChannel = 0;  ///< index into texts::channels
-constexpr int phoneChannel = 2;
-
 }  // namespace
 
 Unit::Unit(PluginCatalog &catalog, QWidget *screen, StatusBar::Clock clock)
-    : m_catalog(catalog), m_screen(screen), m_clock(std::move(clock)), m_stage(new Stage(screen, this)) {
-    setStatusBarObserver([this](bool) { updateStatusBar(); });
-    connect(&SoundModel::instance(), &SoundModel::changed, this, &Unit::showSound);
-    connect(&SoundModel::instance(), &SoundModel::faultChanged, this, &Unit::showSound);
+    : m_catalog(catalog),
+      m_screen(screen),
+      m_stage(new Stage(screen, this)),
+      m_screens(new UnitScreens(catalog, screen, std::move(clock), this)) {
+    connectScreens();
+    setStatusBarObserver([this](bool) { m_screens->updateStatusBar(); });
+    connect(&SoundModel::instance(), &SoundModel::changed, m_screens, &UnitScreens::showSound);
+    connect(&SoundModel::instance(), &SoundModel::faultChanged, m_screens, &UnitScreens::showSound);
+}
+
+void Unit::connectScreens() {
+    connect(m_screens, &UnitScreens::applicationChosen, this, [this](const QString &id) { openApplication(id, Home); });
+    connect(m_screens, &UnitScreens::bandAdjustChosen, this, &Unit::showBandAdjust);
+    connect(m_screens, &UnitScreens::carChosen, this, &Unit::showCar);
+    connect(m_screens, &UnitScreens::volumeSettingsRequested, this, &Unit::requestVolumeSettings);
+    connect(m_screens, &UnitScreens::sourceChosen, this, &Unit::setSource);
+    connect(m_screens, &UnitScreens::languageChosen, this, &Unit::chooseLanguage);
+    connect(m_screens, &UnitScreens::promptToggled, this, &Unit::togglePrompt);
+    connect(m_screens, &UnitScreens::callToggled, this, [this] { m_callActive ? endCall() : startCall(); });
+    connect(m_screens, &UnitScreens::callEnded, this, &Unit::endCall);
 }
 
 Unit::~Unit() {
@@ -70,15 +84,15 @@ void Unit::show(Place place, QWidget *widget) {
     cm::StatusBarControl::instance()->sethide(false);
     widget->show();
     widget->raise();
-    updateStatusBar();
+    m_screens->updateStatusBar();
 }
 
 void Unit::showHome() {
-    show(Home, homeScreen());
+    show(Home, m_screens->home());
 }
 
 void Unit::showCar() {
-    show(Car, carScreen());
+    show(Car, m_screens->car());
 }
 
 void Unit::showBandAdjust() {
@@ -124,7 +138,7 @@ bool Unit::openApplication(const QString &id, Place origin) {
         m_shown = nullptr;
     }
     closeBandAdjust();
-    updateStatusBar();
+    m_screens->updateStatusBar();
     return true;
 }
 
@@ -162,7 +176,7 @@ void Unit::startCall() {
     setCallActive(true);
     m_beforeCall = m_place;
     m_windowBeforeCall = m_stage->front();
-    show(Call, callScreen());
+    show(Call, m_screens->call());
 }
 
 void Unit::endCall() {
@@ -177,7 +191,7 @@ void Unit::endCall() {
         m_place = InApplication;
         m_shown->hide();
         m_shown = nullptr;
-        updateStatusBar();
+        m_screens->updateStatusBar();
     } else {
         show(m_beforeCall);
     }
@@ -197,7 +211,7 @@ void Unit::pressHardKey(int key) {
             break;
         case KeyEvent::Mute:
             setMuted(!SoundModel::instance().state().muted);
-            showLevel(mainChannel);
+            m_screens->showLevel(texts::mainChannel);
             break;
         case KeyEvent::Home:
             showHome();
@@ -239,7 +253,7 @@ void Unit::touch(int code) {
 }
 
 void Unit::stepVolume(int by) {
-    const int number = m_callActive ? phoneChannel : mainChannel;
+    const int number = m_callActive ? texts::phoneChannel : texts::mainChannel;
     const texts::Channel &channel = texts::channels[number];
     qvaudio::AudioService *const audio = qvaudio::AudioService::instance();
     const int level =
@@ -248,17 +262,57 @@ void Unit::stepVolume(int by) {
     if (!m_callActive) {
         setMuted(false);  // who turns the volume wants to hear it
     }
-    showLevel(number);
+    m_screens->showLevel(number);
 }
 
-void Unit::showLevel(int number) {
-    const texts::Channel &channel = texts::channels[number];
-    if (!m_levelOverlay) {
-        m_levelOverlay = new LevelOverlay(m_screen);
+// The driver's choices --------------------------------------------------------------------------------------------
+
+void Unit::setCallActive(bool active) {
+    m_callActive = active;
+    SoundModel::instance().setPromptActive(Prompt::Phone, active);
+    m_screens->setCallActive(active);
+}
+
+void Unit::togglePrompt(Prompt prompt) {
+    SoundModel &model = SoundModel::instance();
+    model.setPromptActive(prompt, !model.state().activePrompts[static_cast<size_t>(prompt)]);
+}
+
+void Unit::setMuted(bool muted) {
+    if (muted != SoundModel::instance().state().muted) {
+        SoundModel::instance().setMuted(muted);
     }
-    const bool muted = number == mainChannel && SoundModel::instance().state().muted;
-    m_levelOverlay->showLevel(channel.textId, qvaudio::AudioService::instance()->getSourceVolByType(channel.type),
-                              muted);
+}
+
+bool Unit::setSource(int source) {
+    if (source < 0 || source >= int(std::size(texts::sources))) {
+        return false;
+    }
+    SoundModel::instance().setActiveSource(source);
+    setCurrentSourceDisplay(source);
+    m_screens->setSource(source);
+    return true;
+}
+
+bool Unit::setLanguage(const QString &code) {
+    if (!Language::set(code)) {
+        return false;
+    }
+    m_screens->setLanguage(code);
+    return true;
+}
+
+void Unit::chooseLanguage(const QString &code) {
+    if (setLanguage(code)) {
+        setChosenLanguage(code);
+    }
+}
+
+void Unit::restoreLanguage() {
+    const QString code = chosenLanguage();
+    if (code != Language::current()) {
+        setLanguage(code);
+    }
 }
 
 void Unit::shutDown() {

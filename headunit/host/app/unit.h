@@ -9,12 +9,9 @@ class WindowInterface;
 
 namespace headunit {
 
-class CallScreen;
-class CarScreen;
-class HomeScreen;
-class LevelOverlay;
 class PluginCatalog;
 class Stage;
+class UnitScreens;
 
 /// The head unit in operation: which of its screens or applications is in front, and what its keys do.
 class Unit : public QObject {
@@ -65,39 +62,26 @@ public:
     void shutDown();
 
 private:
+    void connectScreens();
     void show(Place place);
     void show(Place place, QWidget *widget);
     void leaveApplication();
     void closeBandAdjust();
     void stepVolume(int by);
-    void showLevel(int number);  ///< index into texts::channels
     void setCallActive(bool active);
-    HomeScreen *homeScreen();
-    CarScreen *carScreen();
-    CallScreen *callScreen();
-    StatusBar *statusBar();
-    void updateStatusBar();
-    void showSound();
 
     PluginCatalog &m_catalog;
     QWidget *const m_screen;
-    const StatusBar::Clock m_clock;
     Stage *const m_stage;
+    UnitScreens *const m_screens;
     Place m_place = Nowhere;
     Place m_origin = Home;                          ///< where the application in front returns to
     Place m_beforeCall = Home;                      ///< what the call took the screen from ...
     WindowInterface *m_windowBeforeCall = nullptr;  ///< ... and its window, if it was an application
     bool m_callActive = false;
-    int m_source = 0;
 
-    // Made when they are first shown.
     QWidget *m_shown = nullptr;       ///< the host's own screen that is in front
     QWidget *m_bandAdjust = nullptr;  ///< only while it is in front: it shows what it found when it was made
-    HomeScreen *m_home = nullptr;
-    CarScreen *m_car = nullptr;
-    CallScreen *m_call = nullptr;
-    StatusBar *m_statusBar = nullptr;
-    LevelOverlay *m_levelOverlay = nullptr;
 };
 
 }  // namespace headunit

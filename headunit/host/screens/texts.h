@@ -28,6 +28,10 @@ constexpr Channel channels[] = {{0, 20011}, {1, 20012}, {2, 20013}, {3, 20014}, 
 /// Names of the prompts, in the order of headunit::Prompt; short enough for a row of keys.
 constexpr int prompts[] = {20012, 20013, 20014, 20031, 20032, 20033};
 
+// Places in channels.
+constexpr int mainChannel = 0;
+constexpr int phoneChannel = 2;
+
 /// Names of the audio sources, in the order of their numbers.
 constexpr int sources[] = {361, 16, 1084, 14, 15, 427, 20017};
 
