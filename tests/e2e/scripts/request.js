@@ -46,3 +46,18 @@ use("key_return");
 use("key_return");
 use("key_return");
 expect("car", "visible", true);
+
+// Left from Volume Settings by the home key: the next request returns to the one that asked all the same.
+home();
+use("tile_audiosetting");
+use("key_advanced");
+use("Key_004_vol_settings");
+expect("Txt_title", "text", "Volume Settings");
+home();
+use("tile_car");
+use("car_request");
+expect("Txt_title", "text", "Volume Settings");
+expect(store("SettingTouchPageType") === 3);
+use("key_return");
+expect("car", "visible", true);
+expect(store("SettingTouchPageType") === 0);
