@@ -1,15 +1,10 @@
 #include "look.h"
 
+#include "colours.h"
+
 #include <QPushButton>
 
 namespace audiosetting {
-
-namespace {
-
-const QRgb textColour = 0xFFFFFF;
-const QRgb disabledTextColour = 0x57575F;
-
-}  // namespace
 
 void Look::colourTexts(QWidget *screens) {
     QPalette palette = screens->palette();

@@ -1,5 +1,7 @@
 #include "sliderbarwidget.h"
 
+#include "base/colours.h"
+
 #include <QEvent>
 #include <QImage>
 #include <QMouseEvent>
@@ -15,10 +17,6 @@ namespace {
 const int lastLevel = 24;
 const int barRadius = 5;
 const int numberPointSize = 19;
-
-QColor barColor() {
-    return QColor(11, 183, 237, 255);
-}
 
 QColor numberColor() {
     return QColor(17, 17, 17);
@@ -42,7 +40,7 @@ template <class Draw> QPixmap sharedPicture(const QString &key, const QSize &siz
 
 void drawBar(QPainter &painter, const QRect &rect) {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(barColor());
+    painter.setBrush(QColor(audiosetting::accentColour));
     painter.drawRoundedRect(rect, barRadius, barRadius);
 }
 

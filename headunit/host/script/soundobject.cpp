@@ -56,7 +56,7 @@ QJSValue soundObject(QJSEngine &engine) {
 }
 
 QJSValue heardObject(QJSEngine &scripts, double hz, int input) {
-    constexpr double degreesPerRadian = 180 / 3.14159265358979323846;
+    constexpr double degreesPerRadian = 180 / engine::pi;
     const engine::MeasuredPoint point =
         engine::measure(SoundModel::instance().state(), {hz}, static_cast<engine::Input>(input)).front();
     QJSValue decibels = scripts.newArray(engine::outputCount);

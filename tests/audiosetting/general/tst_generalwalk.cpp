@@ -2,6 +2,7 @@
 #include "general/balancefadercontrol.h"
 #include "navigation/audiorootpagtsettings.h"
 #include "tests/platform/pagetest.h"
+#include "tests/platform/seeds.h"
 #include "tests/platform/testmain.h"
 
 #include <QLabel>
@@ -136,19 +137,7 @@ class tst_GeneralWalk : public PageTest {
     }
 
 private slots:
-    void screenServicesAndStoreAgree_data() {
-        QTest::addColumn<quint32>("seed");
-        const QByteArray given = qgetenv("AUDIOSETTING_SEED");
-        if (!given.isEmpty()) {
-            QTest::newRow(given) << given.toUInt();
-            return;
-        }
-        for (quint32 seed = 1; seed <= 5; ++seed) {
-            QTest::addRow("%u", seed) << seed;
-        }
-        const quint32 fresh = QRandomGenerator::global()->generate();
-        QTest::addRow("%u", fresh) << fresh;
-    }
+    void screenServicesAndStoreAgree_data() { addSeedRows(5); }
 
     void screenServicesAndStoreAgree() {
         QFETCH(quint32, seed);

@@ -1,6 +1,7 @@
 #include "navigation/audiorootpagtsettings.h"
 #include "tests/audiosetting/crossover/crossoverscreen.h"
 #include "tests/audiosetting/timing/timingscreen.h"
+#include "tests/platform/seeds.h"
 #include "tests/platform/testmain.h"
 
 #include <QRandomGenerator>
@@ -384,19 +385,7 @@ class tst_CrossoverTimingWalk : public PageTest {
     }
 
 private slots:
-    void screenServicesAndStoreAgree_data() {
-        QTest::addColumn<quint32>("seed");
-        const QByteArray given = qgetenv("AUDIOSETTING_SEED");
-        if (!given.isEmpty()) {
-            QTest::newRow(given) << given.toUInt();
-            return;
-        }
-        for (quint32 seed = 1; seed <= 3; ++seed) {
-            QTest::addRow("%u", seed) << seed;
-        }
-        const quint32 fresh = QRandomGenerator::global()->generate();
-        QTest::addRow("%u", fresh) << fresh;
-    }
+    void screenServicesAndStoreAgree_data() { addSeedRows(3); }
     void screenServicesAndStoreAgree() {
         QFETCH(quint32, seed);
         QRandomGenerator random(seed);

@@ -9,11 +9,7 @@ using namespace headunit::engine;
 
 namespace rendering {
 
-namespace {
-
-constexpr double pi = 3.14159265358979323846;
-
-}  // namespace
+namespace {}  // namespace
 
 SoundState neutral() {
     SoundState state;

@@ -15,7 +15,6 @@ namespace {
 
 /// Gain in dB that the three filters should have, from the analogue formula.
 double butterworth(int order, double hz, double cutOff, bool highPass) {
-    constexpr double pi = 3.14159265358979323846;
     const double ratio = std::tan(pi * hz / sampleRate) / std::tan(pi * cutOff / sampleRate);
     return -10 * std::log10(1 + std::pow(highPass ? 1 / ratio : ratio, 2 * order));
 }

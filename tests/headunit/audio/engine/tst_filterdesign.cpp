@@ -13,8 +13,6 @@ namespace {
 
 using Design = CrossoverSections (*)(int order, double hz);
 
-constexpr double pi = 3.14159265358979323846;
-
 std::complex<double> total(const CrossoverSections &sections, double hz) {
     return response(sections[0], hz) * response(sections[1], hz);
 }

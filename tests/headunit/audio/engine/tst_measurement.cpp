@@ -23,7 +23,6 @@ bool isNear(std::complex<double> value, std::complex<double> expected, double to
 
 /// What a delay of so many samples does to a tone.
 std::complex<double> late(int samples, double hz) {
-    constexpr double pi = 3.14159265358979323846;
     return std::polar(1.0, -2 * pi * hz * samples / sampleRate);
 }
 
