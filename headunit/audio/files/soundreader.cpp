@@ -1,13 +1,15 @@
 #include "soundreader.h"
 
+#include "resampler.h"
+
 #include "headunit/audio/engine/kernel.h"
 
-#include <samplerate.h>
 #include <sndfile.h>
 
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 namespace headunit {
@@ -122,17 +124,13 @@ std::vector<Share> shares(SNDFILE *file, size_t channels) {
 
 struct SoundReader::Private {
     SNDFILE *file = nullptr;
-    SRC_STATE *resampler = nullptr;
-    double ratio = 1;
-    sf_count_t unread = 0;  ///< frames of the file
+    std::optional<Resampler> resampler;  ///< none at the engine's own rate
+    sf_count_t unread = 0;               ///< frames of the file
     std::vector<Share> list;
     std::vector<float> raw;
     std::vector<float> chunk = std::vector<float>(chunkFrames * stereo);
 
-    ~Private() {
-        src_delete(resampler);
-        sf_close(file);
-    }
+    ~Private() { sf_close(file); }
 
     size_t readFile(float *target, size_t frames) {
         const size_t wanted = std::min(frames, chunkFrames);
@@ -155,10 +153,10 @@ struct SoundReader::Private {
         return got;
     }
 
-    static long feed(void *reader, float **data) {
+    static size_t feed(void *reader, const float **samples, size_t frames) {
         Private *const self = static_cast<Private *>(reader);
-        *data = self->chunk.data();
-        return static_cast<long>(self->readFile(self->chunk.data(), chunkFrames));
+        *samples = self->chunk.data();
+        return self->readFile(self->chunk.data(), frames);
     }
 };
 
@@ -168,6 +166,7 @@ SoundReader::~SoundReader() = default;
 
 bool SoundReader::open(const std::string &path, std::string *error) {
     constexpr int largestChannelCount = 64;
+    constexpr double largestRatio = 256;  // between sample rates
     d = std::make_unique<Private>();
     std::error_code unknown;
     if (std::filesystem::exists(path, unknown) && !std::filesystem::is_regular_file(path, unknown)) {
@@ -185,19 +184,18 @@ bool SoundReader::open(const std::string &path, std::string *error) {
         return false;
     }
     d->unread = info.frames;
-    d->ratio = sampleRate / info.samplerate;
-    if (info.channels < 1 || info.channels > largestChannelCount || !src_is_valid_ratio(d->ratio)) {
+    const double ratio = sampleRate / info.samplerate;
+    if (info.channels < 1 || info.channels > largestChannelCount || ratio > largestRatio || ratio < 1 / largestRatio) {
         *error = path + ": a file of " + std::to_string(info.channels) + " channels at " +
                  std::to_string(info.samplerate) + " Hz cannot be played";
         return false;
     }
     d->list = shares(d->file, static_cast<size_t>(info.channels));
     d->raw.resize(chunkFrames * d->list.size());
-    if (d->ratio != 1) {
-        int code = 0;
-        d->resampler = src_callback_new(Private::feed, SRC_SINC_BEST_QUALITY, stereo, &code, d.get());
-        if (!d->resampler) {
-            *error = path + ": " + src_strerror(code);
+    if (ratio != 1) {
+        d->resampler.emplace(info.samplerate, sampleRate, stereo, chunkFrames, Private::feed, d.get());
+        if (!d->resampler->isGood()) {
+            *error = path + ": there is not enough memory to play it";
             return false;
         }
     }
@@ -213,10 +211,7 @@ size_t SoundReader::read(float *target, size_t frames) {
     while (done < frames) {
         float *const next = target + done * stereo;
         const size_t wanted = frames - done;
-        const size_t got = d->resampler
-                               ? static_cast<size_t>(std::max(
-                                     0L, src_callback_read(d->resampler, d->ratio, static_cast<long>(wanted), next)))
-                               : d->readFile(next, wanted);
+        const size_t got = d->resampler ? d->resampler->read(next, wanted) : d->readFile(next, wanted);
         if (got == 0) {
             break;
         }

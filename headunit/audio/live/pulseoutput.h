@@ -1,22 +1,39 @@
 #pragma once
 
+#include "outputmap.h"
+
 #include <chrono>
 #include <memory>
+#include <string>
 
 namespace headunit {
 
 class Player;
 
-/// Plays on the desk's sound server (PulseAudio's protocol, which PipeWire answers, too): on six channels where the
-/// device has front, rear and side ones, folded down to two where not. Follows the server's default device. A server or
-/// a device that is not there, or goes, is looked for until it is. What it has to say goes to standard error: each
-/// state of affairs once, when it begins.
+/// Plays on the desk's sound server (PulseAudio's protocol, which PipeWire answers, too), at the device's own rate, on
+/// its channels, in its format. Follows the server's default device, and whoever moves the stream to another one. A
+/// server or a device that is not there, or goes, is looked for until it is. Every end that is not the server's doing
+/// is a fall of the sound, not a cut. What it has to say goes to standard error: each state of affairs once, when it
+/// begins.
 class PulseOutput {
 public:
-    /// Starts at once. \a player is used by the server's thread until the output is destroyed. \a retryAfter is the
-    /// time between two looks for what is missing.
-    explicit PulseOutput(Player &player, std::chrono::milliseconds retryAfter = std::chrono::seconds(2));
+    struct Settings {
+        std::string device;  ///< the only one to play on, by the server's name of it; empty: the default device
+        OutputMap map;       ///< empty: as usual for the device
+        std::chrono::milliseconds retryAfter = std::chrono::seconds(2);  ///< between looks for what is missing
+    };
+
+    /// Starts at once. \a player is used by the server's thread until the output is destroyed.
+    PulseOutput(Player &player, const Settings &settings);
+    /// Takes as long as the sound's end is on its way to the loudspeakers, half a second at most.
     ~PulseOutput();
+
+    /// The sound falls to silence and stays silent until resume(); takes as long as the destructor.
+    void pause();
+    void resume();
+
+    /// How often the server has had nothing left to play.
+    unsigned dropouts() const;
 
 private:
     struct Private;

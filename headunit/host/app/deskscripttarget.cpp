@@ -35,6 +35,16 @@ void DeskScriptTarget::wait(int ms) {
     }
 }
 
+void DeskScriptTarget::setInterrupt(std::function<void()> interrupt) {
+    m_endSignals.reset();
+    if (interrupt) {
+        m_endSignals = std::make_unique<EndSignals>([interrupt](int) {
+            interrupt();
+            QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);  // a wait, too
+        });
+    }
+}
+
 bool DeskScriptTarget::openApplication(const QString &id) {
     return m_unit.openApplication(id, Unit::Home);
 }

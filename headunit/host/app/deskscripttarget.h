@@ -1,7 +1,10 @@
 #pragma once
 
+#include "headunit/host/app/endsignals.h"
 #include "headunit/host/script/scripttarget.h"
 #include "headunit/virtualtime/virtualtimelibrary.h"
+
+#include <memory>
 
 namespace headunit {
 
@@ -17,6 +20,7 @@ public:
     QWidget *window() override;
     QWidget *screen() override;
     void wait(int ms) override;
+    void setInterrupt(std::function<void()> interrupt) override;
     bool openApplication(const QString &id) override;
     void showHome() override;
     void showCar() override;
@@ -29,6 +33,7 @@ private:
     DeskWindow &m_window;
     Unit &m_unit;
     const MoveTime m_moveTime;
+    std::unique_ptr<EndSignals> m_endSignals;
 };
 
 /// Loads the script library that stands beside the host and runs a script, or with an empty \a file the tour.

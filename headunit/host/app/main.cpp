@@ -1,6 +1,7 @@
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/host/app/deskscripttarget.h"
 #include "headunit/host/app/deskwindow.h"
+#include "headunit/host/app/endsignals.h"
 #include "headunit/host/app/hostapplication.h"
 #include "headunit/host/app/hostlibrary.h"
 #include "headunit/host/app/options.h"
@@ -35,6 +36,7 @@ namespace {
 
 constexpr int exitGood = 0;
 constexpr int exitUnusable = 2;
+constexpr int exitSignal = 128;  // plus the number of the signal that cut a script short
 
 // The time that the status bar shows wherever pictures must be the same at every run.
 const char fixedTime[] = "10:08";
@@ -181,12 +183,14 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
         QTimer::singleShot(0, &desk, [&desk] { desk.open(); });  // after the first screen
     }
     if (!options.scripted()) {
+        // Whoever asks the unit to end gets what closing its window gives: settings kept, sound faded, exit code 0.
+        const EndSignals endSignals([](int) { QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection); });
         std::unique_ptr<QObject> sound;
         if (!options.exitWhenShown) {
             // After the first screen
             QTimer::singleShot(0, &application, [&sound, &options] {
                 QString silentBecause;
-                sound.reset(startSound(options.play, options.meters, &silentBecause));
+                sound.reset(startSound(options.playJob, &silentBecause));
                 if (!silentBecause.isEmpty()) {
                     std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
                 }
@@ -199,7 +203,8 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
     }
     DeskScriptTarget target(window, unit, moveTime);
     target.wait(0);
-    return runScript(target, options.script, options.tour);
+    const int result = runScript(target, options.script, options.tour);
+    return receivedEndSignal() == 0 ? result : exitSignal + receivedEndSignal();
 }
 
 }  // namespace

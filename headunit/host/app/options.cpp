@@ -1,5 +1,7 @@
 #include "headunit/host/app/options.h"
 
+#include "headunit/audio/live/outputmap.h"
+
 #include <QCommandLineParser>
 
 namespace headunit {
@@ -27,6 +29,9 @@ constexpr OptionRow optionRows[] = {
     {"tour", "DIR", "Visit every screen, leave a picture of each in a folder, and end."},
     {"play", "WHAT",
      "What sounds: music, noise, sweep, loudspeakers (one by one), silence, or a file. Default: music."},
+    {"device", "NAME", "Sound device to play on, as the sound server calls it. Default: the server's own default."},
+    {"map", "FL=CHANNEL,...",
+     "Device's channel for each of FL, FR, RL, RR, SL and SR, like FL=aux0. Default: as usual for the device."},
     {"meters", nullptr, "Print what the loudspeakers and the limiter do, once a second, while the unit plays."},
     {"render", "IN", "Play a sound file under the current settings into another, --render IN.wav OUT.wav, and end."},
     {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
@@ -75,6 +80,12 @@ QString problem(const QCommandLineParser &parser) {
                 .arg(largestScale);
         }
     }
+    OutputMap map;
+    std::string reason;
+    const QString mapText = parser.value(QStringLiteral("map"));
+    if (parser.isSet(QStringLiteral("map")) && !parseOutputMap(mapText.toStdString(), &map, &reason)) {
+        return QStringLiteral("--map %1: %2").arg(mapText, QString::fromStdString(reason));
+    }
     QStringList given;
     for (const char *name : {"script", "tour", "render", "measure"}) {
         if (parser.isSet(QString::fromLatin1(name))) {
@@ -118,9 +129,11 @@ ParsedOptions parseOptions(const QStringList &arguments) {
     options.open = parser.value(QStringLiteral("open"));
     options.script = parser.value(QStringLiteral("script"));
     options.tour = parser.value(QStringLiteral("tour"));
-    options.play =
+    options.playJob.what =
         parser.isSet(QStringLiteral("play")) ? parser.value(QStringLiteral("play")) : QString::fromLatin1(defaultPlay);
-    options.meters = parser.isSet(QStringLiteral("meters"));
+    options.playJob.device = parser.value(QStringLiteral("device"));
+    options.playJob.map = parser.value(QStringLiteral("map"));
+    options.playJob.meters = parser.isSet(QStringLiteral("meters"));
     options.soundJob.renderFrom = parser.value(QStringLiteral("render"));
     if (!options.soundJob.renderFrom.isEmpty()) {
         options.soundJob.renderTo = options.plugins.takeFirst();

@@ -16,8 +16,7 @@ struct Options {
     QString open;                ///< application to open at once; empty: the home screen
     QString script;              ///< script to run
     QString tour;                ///< folder that the tour's pictures go to; empty: no tour
-    QString play;                ///< what to play on the desk: music, noise, sweep, loudspeakers, silence, or a file
-    bool meters = false;         ///< print what the loudspeakers do
+    PlayJob playJob;             ///< what sounds while the unit is shown
     SoundJob soundJob;           ///< what to do with the sound instead of showing the unit
     bool desk = false;           ///< open the tuner's desk at once
     bool trace = false;          ///< print each call across the contract

@@ -21,9 +21,9 @@ QString doSoundJob(const SoundJob &job) {
     return problem;
 }
 
-QObject *startSound(const QString &what, bool meters, QString *problem) {
+QObject *startSound(const PlayJob &job, QString *problem) {
     const auto entry = resolve<StartSoundEntry>(startSoundEntryName, problem);
-    return entry ? entry(&what, meters, problem) : nullptr;
+    return entry ? entry(&job, problem) : nullptr;
 }
 
 }  // namespace headunit

@@ -16,19 +16,26 @@ struct SoundJob {
     bool isEmpty() const { return renderFrom.isEmpty() && measureTo.isEmpty(); }
 };
 
+/// What sounds on the desk while the unit is shown.
+struct PlayJob {
+    QString what{};    ///< music, noise, sweep, loudspeakers, silence, or a file
+    QString device{};  ///< of the sound server; empty: its default
+    QString map{};     ///< the device's channels, "FL=aux0,…" (see parseOutputMap()); empty: as usual for the device
+    bool meters = false;  ///< a line a second on standard output says how loud it is
+};
+
 /// Does a job under the unit's current settings. An empty text, or a line that says why it cannot be done. What there
 /// is to say of a job that is done goes to standard output.
 QString doSoundJob(const SoundJob &job);
 
-/// Plays \a what on the desk, under the unit's settings, until the object that it returns is deleted; with \a meters, a
-/// line a second on standard output says how loud that is. \a problem is a line that says what of it cannot be, or an
-/// empty text; then there may be no object.
-QObject *startSound(const QString &what, bool meters, QString *problem);
+/// Plays on the desk, under the unit's settings, until the object that it returns is deleted. \a problem is a line that
+/// says what of it cannot be, or an empty text; then there may be no object.
+QObject *startSound(const PlayJob &job, QString *problem);
 
 /// Exported by the library under these names.
 using SoundEntry = void (*)(const SoundJob *job, QString *problem);
 constexpr char soundEntryName[] = "headunitDoSoundJob";
-using StartSoundEntry = QObject *(*)(const QString *what, bool meters, QString *problem);
+using StartSoundEntry = QObject *(*)(const PlayJob *job, QString *problem);
 constexpr char startSoundEntryName[] = "headunitStartSound";
 
 }  // namespace headunit

@@ -39,7 +39,9 @@ int run(ScriptTarget &target, const QString &file, const QString &folder) {
     // A script is over when its last line is: what fails in a promise's callback would be nobody's failure.
     engine.globalObject().deleteProperty(QStringLiteral("Promise"));
     (new ScriptApi(target, &engine, folder))->install();
+    target.setInterrupt([&engine] { engine.setInterrupted(true); });
     QJSValue result = engine.importModule(file);
+    target.setInterrupt({});
     if (!result.isError()) {
         // A value that was thrown while the module ran, be it undefined, is pending until now, and comes instead of
         // this.

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace headunit {
@@ -18,6 +20,9 @@ public:
     virtual QWidget *screen() = 0;
     /// Lets \a ms milliseconds pass, delivering what falls due. 0: delivers what is pending.
     virtual void wait(int ms) = 0;
+
+    /// From now on \a interrupt is called, on another thread, when the process is to end; an empty one ends that.
+    virtual void setInterrupt(std::function<void()> interrupt) = 0;
 
     virtual bool openApplication(const QString &id) = 0;
     virtual void showHome() = 0;

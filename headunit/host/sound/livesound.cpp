@@ -22,9 +22,9 @@ engine::Input inputOfChannel(int channel) {
 
 }  // namespace
 
-LiveSound::LiveSound(const QString &what, QString *problem) {
+LiveSound::LiveSound(const PlayJob &job, QString *problem) {
     std::string error;
-    if (!m_player.choose(QFile::encodeName(what).toStdString(), &error)) {
+    if (!m_player.choose(QFile::encodeName(job.what).toStdString(), &error)) {
         *problem = QFile::decodeName(error.c_str());
         SoundModel::instance().setFault(SoundFault::NothingToPlay);
         m_player.choose("silence", &error);
@@ -40,7 +40,15 @@ LiveSound::LiveSound(const QString &what, QString *problem) {
     });
     connect(&model, &SoundModel::beeped, this, [this] { m_player.chime(engine::BeepInput); });
     m_player.setState(model.state());  // before the first sample
-    m_output = std::make_unique<PulseOutput>(m_player);
+    PulseOutput::Settings settings;
+    settings.device = job.device.toStdString();
+    if (!job.map.isEmpty() && !parseOutputMap(job.map.toStdString(), &settings.map, &error)) {
+        *problem = QString::fromStdString(error);
+    }
+    m_output = std::make_unique<PulseOutput>(m_player, settings);
+    if (job.meters) {
+        printMeters();
+    }
 }
 
 void LiveSound::takeState() {
@@ -68,10 +76,6 @@ void LiveSound::printMeters() {
 
 }  // namespace headunit
 
-extern "C" Q_DECL_EXPORT QObject *headunitStartSound(const QString *what, bool meters, QString *problem) {
-    const auto sound = new headunit::LiveSound(*what, problem);
-    if (meters) {
-        sound->printMeters();
-    }
-    return sound;
+extern "C" Q_DECL_EXPORT QObject *headunitStartSound(const headunit::PlayJob *job, QString *problem) {
+    return new headunit::LiveSound(*job, problem);
 }

@@ -3,6 +3,7 @@
 #include "headunit/audio/live/controlthread.h"
 #include "headunit/audio/live/player.h"
 #include "headunit/audio/live/pulseoutput.h"
+#include "headunit/host/app/soundlibrary.h"
 
 #include <QObject>
 #include <QTimer>
@@ -13,18 +14,15 @@ namespace headunit {
 class LiveSound : public QObject {
     Q_OBJECT
 public:
-    /// Starts to play \a what (see Player::choose()). \a problem is a line that says why that cannot be; the rest is
-    /// heard all the same.
-    LiveSound(const QString &what, QString *problem);
-
-    /// From now on a line a second goes to standard output while something plays.
-    void printMeters();
+    /// Starts to play. \a problem is a line that says what cannot be; the rest is heard all the same.
+    LiveSound(const PlayJob &job, QString *problem);
 
 private Q_SLOTS:
     void takeState();
 
 private:
     void takeStateSoon();
+    void printMeters();
 
     bool m_statePending = false;
     Player m_player;

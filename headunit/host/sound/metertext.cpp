@@ -1,6 +1,6 @@
 #include "headunit/host/sound/metertext.h"
 
-#include "headunit/host/sound/outputnames.h"
+#include "headunit/audio/live/outputnames.h"
 
 #include <cmath>
 

@@ -46,6 +46,9 @@ private Q_SLOTS:
     void tourWithoutADisplay_data();
     void tourWithoutADisplay();
     void damagedSettings();
+    void signalsEndTheUnitInOrder_data();
+    void signalsEndTheUnitInOrder();
+    void signalsEndAScript();
 
 private:
     struct Result {
@@ -430,6 +433,54 @@ void TestHeadunit::damagedSettings() {
     QCOMPARE(result.code, 0);
     QCOMPARE(result.errLines().size(), 1);
     QVERIFY2(result.err.contains(settings), qPrintable(result.err));
+}
+
+void TestHeadunit::signalsEndTheUnitInOrder_data() {
+    QTest::addColumn<int>("number");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void TestHeadunit::signalsEndTheUnitInOrder() {
+    QFETCH(int, number);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("HOME", m_folder->path());
+    environment.insert("PULSE_SERVER", "unix:" + m_folder->filePath("nothing"));
+    environment.insert("TMPDIR", m_folder->path());
+    QProcess unit;
+    unit.setProcessEnvironment(environment);
+    unit.setReadChannel(QProcess::StandardError);
+    unit.start(HEADUNIT, {"--root", m_folder->filePath("root")});
+    // What it says once everything runs
+    QByteArray said;
+    while (!said.contains("no sound server") && unit.waitForReadyRead(patience)) {
+        said += unit.readAll();
+    }
+    QCOMPARE(::kill(static_cast<pid_t>(unit.processId()), number), 0);
+    QVERIFY(unit.waitForFinished(patience));
+    QCOMPARE(unit.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(unit.exitCode(), 0);
+}
+
+/// A script that does not end by itself: what it set is kept, and its exit code says that it was cut short.
+void TestHeadunit::signalsEndAScript() {
+    const QString script = write("endless.js", "setStore('kept', 5);\nlog('runs');\nwhile (true) {}\n");
+    const QStringList root = {"--root", m_folder->filePath("root")};
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    QProcess unit;
+    unit.setProcessEnvironment(environment);
+    unit.start(HEADUNIT, root + QStringList{"--script", script});
+    QVERIFY(unit.waitForReadyRead(patience));
+    QCOMPARE(unit.readAllStandardOutput(), QByteArray("runs\n"));
+    unit.terminate();
+    QVERIFY(unit.waitForFinished(patience));
+    QCOMPARE(unit.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(unit.exitCode(), 128 + SIGTERM);
+    const Result after = run(root + QStringList{"--script", write("look.js", "log(store('kept'));\n")});
+    QCOMPARE(after.out, QStringLiteral("5\n"));
 }
 
 QTEST_GUILESS_MAIN(TestHeadunit)

@@ -166,7 +166,7 @@ void TestLiveSound::cleanup() {
 void TestLiveSound::beginsAsTheStoreSaysAndWithoutABurst() {
     SoundModel::instance().setBalanceFader(15, -15);  // what is on the disk: front right
     QString problem;
-    const LiveSound sound(m_tone, &problem);
+    const LiveSound sound({m_tone}, &problem);
     QCOMPARE(problem, QString());
     const Frame expected = {0, amplitude, 0, 0, 0, 0};
     WAIT_FOR(near(m_recording->peaks(), expected));
@@ -176,7 +176,7 @@ void TestLiveSound::beginsAsTheStoreSaysAndWithoutABurst() {
 
 void TestLiveSound::risesAgainAfterAnInterruption() {
     QString problem;
-    const LiveSound sound(m_tone, &problem);
+    const LiveSound sound({m_tone}, &problem);
     const Frame expected = {amplitude, amplitude, amplitude, amplitude, 0, 0};
     WAIT_FOR(near(m_recording->peaks(), expected));
     const size_t before = m_recording->frames().size();
@@ -187,7 +187,7 @@ void TestLiveSound::risesAgainAfterAnInterruption() {
 
 void TestLiveSound::followsEveryChange() {
     QString problem;
-    LiveSound sound(m_tone, &problem);
+    LiveSound sound({m_tone}, &problem);
     WAIT_FOR(near(m_recording->peaks(), {amplitude, amplitude, amplitude, amplitude, 0, 0}));
     SoundModel &model = SoundModel::instance();
     model.setChannelLevel(0, 36);
@@ -222,7 +222,7 @@ template <typename Touch> void TestLiveSound::touchUntilHeard(const Touch &touch
 void TestLiveSound::volumesAndKeysAnswer() {
     SoundModel &model = SoundModel::instance();
     QString problem;
-    LiveSound sound("silence", &problem);
+    LiveSound sound({"silence"}, &problem);
     WAIT_FOR(m_server->streams() == "6ch on car");
     const std::array<int, 5> withASound = {1, 2, 3, 4, 6};
     for (const int channel : withASound) {
@@ -239,7 +239,7 @@ void TestLiveSound::volumesAndKeysAnswer() {
 
 void TestLiveSound::whatCannotBePlayed() {
     QString problem;
-    const LiveSound sound(m_folder.filePath("no such file.wav"), &problem);
+    const LiveSound sound({m_folder.filePath("no such file.wav")}, &problem);
     QVERIFY(problem.contains("no such file.wav: "));
     SoundModel &model = SoundModel::instance();
     touchUntilHeard([&] { model.setChannelLevel(1, model.channelLevel(1) == 40 ? 39 : 40); });

@@ -9,6 +9,7 @@ class TestOptions : public QObject {
 private Q_SLOTS:
     void defaults();
     void values();
+    void sound();
     void soundJobs();
     void refuses_data();
     void refuses();
@@ -50,6 +51,22 @@ void TestOptions::values() {
     QVERIFY(parsed.options.exitWhenShown);
 }
 
+void TestOptions::sound() {
+    headunit::PlayJob job = parseOptions({QStringLiteral("headunit")}).options.playJob;
+    QCOMPARE(job.what, QStringLiteral("music"));
+    QCOMPARE(job.device + job.map, QString());
+    QVERIFY(!job.meters);
+    const headunit::ParsedOptions parsed =
+        parseOptions({QStringLiteral("headunit"), QStringLiteral("--play=noise"), QStringLiteral("--device=car"),
+                      QStringLiteral("--map=FL=aux0,SR=lfe"), QStringLiteral("--meters")});
+    QCOMPARE(parsed.error, QString());
+    job = parsed.options.playJob;
+    QCOMPARE(job.what, QStringLiteral("noise"));
+    QCOMPARE(job.device, QStringLiteral("car"));
+    QCOMPARE(job.map, QStringLiteral("FL=aux0,SR=lfe"));
+    QVERIFY(job.meters);
+}
+
 void TestOptions::soundJobs() {
     QVERIFY(parseOptions({QStringLiteral("headunit")}).options.soundJob.isEmpty());
     headunit::ParsedOptions parsed = parseOptions(
@@ -76,6 +93,8 @@ void TestOptions::refuses_data() {
     row("value missing", "--root", "root");
     row("value empty", "--root=", "--root");
     row("value for a flag", "--trace=1", "trace");
+    row("map that is none", "--map FL", "--map FL: \"FL\" is not like");
+    row("map of an unknown output", "--map FX=aux0", "\"FX\"");
     row("given twice", "--open a --open b", "--open");
     row("scale no number", "--scale big", "--scale big");
     row("scale zero", "--scale 0", "--scale 0");
@@ -101,9 +120,10 @@ void TestOptions::refuses() {
 
 void TestOptions::helpNamesEveryOption() {
     const QString help = headunit::optionsHelp();
-    for (const char *name : {"--help", "--version", "--root <DIR>", "--scale <N>", "--language <xx>", "--open <NAME>",
-                             "--script <FILE.js>", "--tour <DIR>", "--play <WHAT>", "--meters", "--render <IN>",
-                             "--measure <OUT>", "--trace", "--verbose", "--exit-when-shown"}) {
+    for (const char *name :
+         {"--help", "--version", "--root <DIR>", "--scale <N>", "--language <xx>", "--open <NAME>",
+          "--script <FILE.js>", "--tour <DIR>", "--play <WHAT>", "--device <NAME>", "--map <FL=CHANNEL,...>",
+          "--meters", "--render <IN>", "--measure <OUT>", "--trace", "--verbose", "--exit-when-shown"}) {
         QVERIFY2(help.contains(QLatin1String(name)), name);
     }
 }

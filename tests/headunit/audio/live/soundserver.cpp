@@ -70,9 +70,9 @@ bool SoundServer::answers() const {
     return control({"info"}).contains("Server Name");
 }
 
-void SoundServer::plugIn(const QString &device, const QString &channels) {
-    control({"load-module", "module-null-sink", "sink_name=" + device, "rate=48000", "format=float32le",
-             QStringLiteral("channels=%1").arg(channelCount(channels)), "channel_map=" + channels});
+void SoundServer::plugIn(const QString &device, const QString &channels, int rate, const QString &format) {
+    control({"load-module", "module-null-sink", "sink_name=" + device, QStringLiteral("rate=%1").arg(rate),
+             "format=" + format, QStringLiteral("channels=%1").arg(channelCount(channels)), "channel_map=" + channels});
 }
 
 void SoundServer::unplug(const QString &device) {
@@ -92,6 +92,13 @@ void SoundServer::makeDefault(const QString &device) {
     control({"set-default-sink", device});
 }
 
+void SoundServer::move(const QString &device) {
+    const QStringList playing = control({"list", "short", "sink-inputs"}).split('\n', Qt::SkipEmptyParts);
+    for (const QString &stream : playing) {
+        control({"move-sink-input", column(stream, 0), device});
+    }
+}
+
 void SoundServer::hangUp() {
     unload(m_programs);
     control(QStringList("load-module") + m_programs.split(' '));
@@ -106,8 +113,11 @@ QString SoundServer::streams() const {
     QStringList found;
     const QStringList streams = control({"list", "short", "sink-inputs"}).split('\n', Qt::SkipEmptyParts);
     for (const QString &stream : streams) {
-        const QString format = column(stream, 4);  // "float32le 6ch 48000Hz"
-        found << format.section(' ', 1, 1) + " on " + names.value(column(stream, 1));
+        QString format = column(stream, 4);  // "float32le 6ch 48000Hz"
+        if (format.startsWith("float32le ") && format.endsWith(" 48000Hz")) {
+            format = format.section(' ', 1, 1);
+        }
+        found << format + " on " + names.value(column(stream, 1));
     }
     return found.join(", ");
 }

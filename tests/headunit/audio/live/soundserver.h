@@ -21,12 +21,16 @@ public:
 
     bool answers() const;
     /// Plugs a device in, with channels like "front-left,front-right". The first one is the default.
-    void plugIn(const QString &device, const QString &channels);
+    void plugIn(const QString &device, const QString &channels, int rate = 48000,
+                const QString &format = QStringLiteral("float32le"));
     void unplug(const QString &device);
     void makeDefault(const QString &device);
+    /// Takes all streams to another device, as a mixer's user does.
+    void move(const QString &device);
     /// Ends the connections of programs that came by address(), and takes new ones. For a named socket.
     void hangUp();
-    /// What plays, as "6ch on NAME", where NAME is the device; joined by commas.
+    /// What plays, as "6ch on NAME" or, if its samples are other than floats at 48 kHz, as "s16le 2ch 44100Hz on NAME",
+    /// where NAME is the device; joined by commas.
     QString streams() const;
     /// Starts to record what a device plays on \a channels, as raw numbers of 16 bits; stops when the process is
     /// deleted.

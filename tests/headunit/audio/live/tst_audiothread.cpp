@@ -1,7 +1,7 @@
 // What the audio thread must not do while it plays: allocate, take a lock, call the system. Each is counted on a thread
 // that fills the loudspeakers' samples while another one changes settings.
 
-#include "headunit/audio/live/folddown.h"
+#include "headunit/audio/live/devicesound.h"
 #include "headunit/audio/live/player.h"
 
 #include "tests/headunit/audio/engine/rendering.h"
@@ -226,31 +226,36 @@ void TestAudioThread::everythingIsCounted() {
 
 void TestAudioThread::playsAlone_data() {
     QTest::addColumn<QString>("what");
+    QTest::addColumn<double>("rate");
+    for (const double rate : {8000.0, 44100.0, 96000.0, 192000.0}) {
+        QTest::addRow("music at %g Hz", rate) << "music" << rate;
+    }
     for (const char *what : {"music", "noise", "sweep", "loudspeakers", "silence"}) {
-        QTest::newRow(what) << QString::fromLatin1(what);
+        QTest::newRow(what) << QString::fromLatin1(what) << sampleRate;
     }
     for (const double seconds : {0.1, 2.0}) {
         const QString name = m_folder.filePath(QStringLiteral("%1.wav").arg(seconds));
         soundfiletest::write(name.toStdString(), soundfiletest::tone(44100, 2, 440, seconds));
-        QTest::addRow("file of %g s", seconds) << name;
+        QTest::addRow("file of %g s", seconds) << name << sampleRate;
     }
 }
 
 void TestAudioThread::playsAlone() {
     QFETCH(QString, what);
-    constexpr size_t blockFrames = 512;
+    QFETCH(double, rate);
+    constexpr size_t blockFrames = 3000;
     constexpr int blocksOfAState = 20;
     std::string error;
     Player player;
     QVERIFY2(player.choose(what.toStdString(), &error), error.c_str());
-    std::vector<float> out(blockFrames * outputCount);
+    DeviceSound sound(player, {rate, 2, SampleFormat::Int16, {{FrontLeft, 0, 1}, {FrontRight, 1, 1}}});
+    std::vector<unsigned char> out(blockFrames * sound.frameBytes());
     std::atomic<int> played{0};
     std::atomic<bool> ended{false};
     const Counts done = count(
         [&] {
             while (!ended) {
-                player.fill(out.data(), blockFrames);
-                foldDown(out.data(), blockFrames);
+                sound.fill(out.data(), 1 + static_cast<size_t>(played * 97) % blockFrames);
                 ++played;
             }
         },
@@ -268,6 +273,7 @@ void TestAudioThread::playsAlone() {
             }
             ended = true;
         });
+    QVERIFY(!sound.hasEnded());
     qInfo("%d blocks: %d allocations, %d locks, %d system calls", played.load(), done.allocations, done.locks,
           done.systemCalls);
     QCOMPARE(done.allocations, 0);

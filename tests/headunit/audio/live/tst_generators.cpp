@@ -1,6 +1,5 @@
 #include "headunit/audio/live/generators.h"
 
-#include "headunit/audio/live/folddown.h"
 #include "tests/headunit/audio/engine/rendering.h"
 
 #include <QTest>
@@ -56,7 +55,6 @@ private Q_SLOTS:
     void pinkHasTheSameInEveryOctave();
     void sweepRises();
     void chimesDifferAndEnd();
-    void foldDownKeepsSides();
 };
 
 void TestGenerators::sameInAnyBlocks() {
@@ -118,15 +116,6 @@ void TestGenerators::chimesDifferAndEnd() {
         QVERIFY(std::find(heard.begin(), heard.end(), samples) == heard.end());
         heard.push_back(samples);
     }
-}
-
-void TestGenerators::foldDownKeepsSides() {
-    std::vector<float> samples = {1, -1, 1, -1, 1, -1, 0.3F, 0, 0, 0, 0, 0.6F};
-    foldDown(samples.data(), 2);
-    QVERIFY(samples[0] == 1.0F);
-    QVERIFY(samples[1] == -1.0F);
-    QCOMPARE(samples[2], 0.1F);
-    QCOMPARE(samples[3], 0.2F);
 }
 
 QTEST_APPLESS_MAIN(TestGenerators)

@@ -47,7 +47,7 @@ private:
 const QByteArray noServer = "headunit: no sound server answers, so the unit is silent until one does\n";
 const QByteArray noDevice = "headunit: the sound server has no device, so the unit is silent until it has one\n";
 const QByteArray folded =
-    "headunit: the sound device lacks front, rear or side channels; all six loudspeakers play on two channels\n";
+    "headunit: the sound device has fewer than six channels; all six loudspeakers play on two of them\n";
 
 }  // namespace
 
@@ -61,9 +61,16 @@ private Q_SLOTS:
     void playsWithTheChannelsOfTheDevice_data();
     void playsWithTheChannelsOfTheDevice();
     void followsTheDefaultDevice();
+    void playsInTheFormatOfTheDevice_data();
+    void playsInTheFormatOfTheDevice();
+    void staysWhereItWasTaken();
+    void playsOnTheNamedDeviceOnly();
+    void saysWhatTheMapMisses();
+    void pausesAndResumes();
     void devicesAndServersComeAndGo();
 
 private:
+    static PulseOutput::Settings settings(const QString &device = QString(), const QString &map = QString());
     QString file(const char *name) const { return m_folder->filePath(QString::fromLatin1(name)); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -72,6 +79,17 @@ private:
 
 #define WAIT_FOR(what) QTRY_VERIFY_WITH_TIMEOUT(what, patience)
 #define WAIT_FOR_STREAM(expected) QTRY_COMPARE_WITH_TIMEOUT(server.streams(), QString(expected), patience)
+
+PulseOutput::Settings TestPulseOutput::settings(const QString &device, const QString &map) {
+    PulseOutput::Settings wanted;
+    wanted.retryAfter = retry;
+    wanted.device = device.toStdString();
+    std::string error;
+    if (!map.isEmpty() && !parseOutputMap(map.toStdString(), &wanted.map, &error)) {
+        qFatal("%s", error.c_str());
+    }
+    return wanted;
+}
 
 void TestPulseOutput::init() {
     m_folder = std::make_unique<QTemporaryDir>();
@@ -89,7 +107,7 @@ void TestPulseOutput::saysOnceThatNoServerAnswers() {
         delete server.nextPendingConnection();
     });
     StandardError said(file("log"));
-    const PulseOutput output(m_player, retry);
+    const PulseOutput output(m_player, settings());
     WAIT_FOR(calls >= 5);
     QCOMPARE(said.text(), noServer);
 }
@@ -98,7 +116,7 @@ void TestPulseOutput::saysOnceThatThereIsNoDevice() {
     SoundServer server(*m_folder);
     WAIT_FOR(server.answers());
     StandardError said(file("log"));
-    const PulseOutput output(m_player, retry);
+    const PulseOutput output(m_player, settings());
     WAIT_FOR(said.text() == noDevice);
     server.plugIn("car", SoundServer::sixChannels);
     WAIT_FOR_STREAM("6ch on car");
@@ -109,7 +127,7 @@ void TestPulseOutput::saysOnceThatThereIsNoDevice() {
 
 void TestPulseOutput::endsAtOnce() {
     for (int i = 0; i < 20; ++i) {
-        const PulseOutput output(m_player, retry);
+        const PulseOutput output(m_player, settings());
     }
 }
 
@@ -118,11 +136,13 @@ void TestPulseOutput::playsWithTheChannelsOfTheDevice_data() {
     QTest::addColumn<QString>("stream");
     QTest::addColumn<QByteArray>("said");
     QTest::newRow("six") << SoundServer::sixChannels << "6ch on car" << QByteArray();
-    QTest::newRow("7.1") << SoundServer::surround71 << "6ch on car" << QByteArray();
-    QTest::newRow("5.1") << SoundServer::surround51 << "2ch on car" << folded;
+    QTest::newRow("7.1") << SoundServer::surround71 << "8ch on car" << QByteArray();
+    QTest::newRow("5.1") << SoundServer::surround51 << "6ch on car" << QByteArray();
     QTest::newRow("stereo") << SoundServer::stereo << "2ch on car" << folded;
     QTest::newRow("mono") << "mono"
-                          << "2ch on car" << folded;
+                          << "1ch on car" << folded;
+    QTest::newRow("numbered") << "aux0,aux1,aux2,aux3,aux4,aux5"
+                              << "6ch on car" << QByteArray();
     // What a server without a device plays to
     QTest::newRow("none") << ""
                           << "2ch on auto_null" << noDevice;
@@ -140,7 +160,7 @@ void TestPulseOutput::playsWithTheChannelsOfTheDevice() {
         server.plugIn("car", channels);
     }
     StandardError log(file("log"));
-    const PulseOutput output(m_player, retry);
+    const PulseOutput output(m_player, settings());
     WAIT_FOR_STREAM(stream);
     QCOMPARE(log.text(), said);
 }
@@ -150,7 +170,7 @@ void TestPulseOutput::followsTheDefaultDevice() {
     WAIT_FOR(server.answers());
     server.plugIn("car", SoundServer::sixChannels);
     StandardError said(file("log"));
-    const PulseOutput output(m_player, retry);
+    const PulseOutput output(m_player, settings());
     WAIT_FOR_STREAM("6ch on car");
     server.plugIn("headphones", SoundServer::stereo);
     server.makeDefault("headphones");
@@ -161,8 +181,105 @@ void TestPulseOutput::followsTheDefaultDevice() {
     QCOMPARE(said.text(), folded);
 }
 
+void TestPulseOutput::playsInTheFormatOfTheDevice_data() {
+    QTest::addColumn<int>("rate");
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QString>("stream");
+    for (const int rate : {44100, 88200, 96000, 192000}) {
+        QTest::addRow("%d", rate) << rate << "float32le" << QStringLiteral("float32le 6ch %1Hz on car").arg(rate);
+    }
+    for (const char *format : {"s16le", "s24le", "s24-32le", "s32le"}) {
+        QTest::newRow(format) << 48000 << format << QString::fromLatin1(format) + " 6ch 48000Hz on car";
+    }
+    QTest::newRow("other byte order") << 44100 << "s16be"
+                                      << "s16le 6ch 44100Hz on car";
+    QTest::newRow("eight bits") << 48000 << "u8"
+                                << "6ch on car";
+}
+
+void TestPulseOutput::playsInTheFormatOfTheDevice() {
+    QFETCH(int, rate);
+    QFETCH(QString, format);
+    QFETCH(QString, stream);
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    server.plugIn("car", SoundServer::sixChannels, rate, format);
+    const PulseOutput output(m_player, settings());
+    WAIT_FOR_STREAM(stream);
+}
+
+/// Whoever takes the stream to another device does not find it on the default one because of its format.
+void TestPulseOutput::staysWhereItWasTaken() {
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    server.plugIn("car", SoundServer::sixChannels);
+    server.plugIn("headphones", SoundServer::stereo, 48000, "s16le");
+    server.plugIn("radio", SoundServer::stereo);
+    const PulseOutput output(m_player, settings());
+    WAIT_FOR_STREAM("6ch on car");
+    server.move("headphones");
+    WAIT_FOR_STREAM("s16le 2ch 48000Hz on headphones");
+    // Another default device is none of its business, until that is the one that it plays on.
+    server.makeDefault("radio");
+    server.makeDefault("headphones");
+    server.makeDefault("car");
+    WAIT_FOR_STREAM("6ch on car");
+    server.move("headphones");
+    WAIT_FOR_STREAM("s16le 2ch 48000Hz on headphones");
+    server.unplug("headphones");
+    WAIT_FOR_STREAM("6ch on car");
+    server.makeDefault("radio");
+    WAIT_FOR_STREAM("2ch on radio");
+}
+
+void TestPulseOutput::playsOnTheNamedDeviceOnly() {
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    server.plugIn("car", SoundServer::sixChannels);
+    StandardError said(file("log"));
+    const QByteArray missing =
+        "headunit: there is no sound device \"headphones\", so the unit is silent until there is\n";
+    const PulseOutput output(m_player, settings("headphones"));
+    WAIT_FOR(said.text() == missing);
+    QCOMPARE(server.streams(), QString());
+    server.plugIn("headphones", SoundServer::stereo);
+    WAIT_FOR_STREAM("2ch on headphones");
+    server.makeDefault("headphones");
+    server.makeDefault("car");
+    server.unplug("headphones");
+    WAIT_FOR(said.text() == missing + folded + missing);
+    QCOMPARE(server.streams(), QString());
+    server.plugIn("headphones", SoundServer::sixChannels);
+    WAIT_FOR_STREAM("6ch on headphones");
+}
+
+void TestPulseOutput::saysWhatTheMapMisses() {
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    server.plugIn("car", "aux0,aux1,aux2,aux3");
+    StandardError said(file("log"));
+    const PulseOutput output(m_player, settings(QString(), "FL=aux0,FR=aux1,SL=aux4,SR=aux9"));
+    WAIT_FOR_STREAM("4ch on car");
+    QCOMPARE(said.text(), QByteArray("headunit: the sound device lacks the channels that --map names for SL, SR\n"));
+}
+
+void TestPulseOutput::pausesAndResumes() {
+    SoundServer server(*m_folder);
+    WAIT_FOR(server.answers());
+    server.plugIn("car", SoundServer::sixChannels);
+    PulseOutput output(m_player, settings());
+    for (int time = 0; time < 3; ++time) {
+        WAIT_FOR_STREAM("6ch on car");
+        output.pause();
+        WAIT_FOR_STREAM("");
+        output.pause();
+        output.resume();
+    }
+    WAIT_FOR_STREAM("6ch on car");
+}
+
 void TestPulseOutput::devicesAndServersComeAndGo() {
-    const PulseOutput output(m_player, retry);
+    const PulseOutput output(m_player, settings());
     {
         SoundServer server(*m_folder);
         WAIT_FOR(server.answers());
