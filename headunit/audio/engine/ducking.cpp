@@ -41,9 +41,11 @@ Ducking::Gain Ducking::next() {
 }
 
 void Ducking::advance(double *gains, size_t frames) {
-    for (size_t frame = 0; frame < frames; ++frame) {
-        gains[frame] = isMoving() ? toDouble(next()) : gain();
+    size_t frame = 0;
+    for (; frame < frames && isMoving(); ++frame) {
+        gains[frame] = toDouble(next());
     }
+    std::fill(gains + frame, gains + frames, gain());
 }
 
 }  // namespace headunit::engine

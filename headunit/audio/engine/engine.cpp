@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 
 namespace headunit::engine {
 
@@ -12,8 +14,24 @@ namespace {
 /// Far above what any file holds; beyond it lie only damaged samples.
 constexpr float largestSample = 16;
 
+/// Magnitudes are compared as whole numbers, in whose order they stand, because the compiler puts that into vectors.
+int32_t magnitudeBits(float sample) {
+    int32_t bits;
+    std::memcpy(&bits, &sample, sizeof bits);
+    return bits & 0x7fffffff;
+}
+
+bool isDamaged(const float *samples, size_t count) {
+    const int32_t largest = magnitudeBits(largestSample);
+    int32_t room = 0;
+    for (size_t i = 0; i < count; ++i) {
+        room |= largest - magnitudeBits(samples[i]);
+    }
+    return room < 0;
+}
+
 /// A sample of an input, made safe: one that is no number is silence.
-double sanitize(float sample) {
+float sanitized(float sample) {
     return std::isnan(sample) ? 0 : std::clamp(sample, -largestSample, largestSample);
 }
 
@@ -68,10 +86,17 @@ bool Engine::add(size_t input, const float *samples, double *mixed, size_t frame
         return false;
     }
     for (size_t frame = 0; frame < frames; ++frame) {
-        const double gain = gains[frame] * (way == 0 ? from : from + way * m_fade.weights()[frame]);
-        for (size_t side = 0; side < stereo; ++side) {
-            mixed[frame * stereo + side] += sanitize(samples[frame * stereo + side]) * gain;
-        }
+        gains[frame] *= way == 0 ? from : from + way * m_fade.weights()[frame];
+    }
+    std::array<float, Chain::largestBlock * stereo> safe;
+    if (isDamaged(samples, frames * stereo)) {
+        std::transform(samples, samples + frames * stereo, safe.begin(), sanitized);
+        samples = safe.data();
+    }
+    for (size_t frame = 0; frame < frames; ++frame) {
+        const double gain = gains[frame];
+        mixed[stereo * frame] += static_cast<double>(samples[stereo * frame]) * gain;
+        mixed[stereo * frame + 1] += static_cast<double>(samples[stereo * frame + 1]) * gain;
     }
     return true;
 }

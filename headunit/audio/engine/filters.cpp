@@ -11,10 +11,13 @@ std::array<double, coefficientCount> coefficients(const Biquad &section) {
     return {section.b0, section.b1, section.b2, section.a1, section.a2};
 }
 
-void place(const double *mix, const std::array<double, outputCount> &placement, double *spread, size_t frames) {
-    for (size_t frame = 0; frame < frames; ++frame) {
-        for (size_t output = 0; output < outputCount; ++output) {
-            spread[frame * outputCount + output] = mix[frame * stereo + output % stereo] * placement[output];
+void place(const double *mix, std::array<double, outputCount> placement, double *spread, size_t frames) {
+    for (size_t frame = 0; frame < frames; ++frame, mix += stereo, spread += outputCount) {
+        const double left = mix[0];
+        const double right = mix[1];
+        for (size_t pair = 0; pair < outputCount; pair += stereo) {
+            spread[pair] = left * placement[pair];
+            spread[pair + 1] = right * placement[pair + 1];
         }
     }
 }
@@ -41,16 +44,23 @@ void Filters::load(const ChainParameters &parameters) {
 void Filters::loadTone(const ChainParameters &parameters) {
     for (size_t group = 0; group < groupCount; ++group) {
         m_toneActive[group] = false;
-        for (size_t i = 0; i < groupSections; ++i) {
-            const Biquad &section = parameters.tone[group * groupSections + i];
-            const auto values = coefficients(section);
-            std::copy(values.begin(), values.end(), m_tone[group].coefficients[i]);
-            if (section.isIdentity()) {
-                // What it heard must not come out of a section that passes samples on as they are.
-                std::fill_n(&m_tone[group].states[i][0][0], stateCount * stereo, 0.0);
-            } else {
-                m_toneActive[group] = true;
+    }
+    for (size_t number = 0; number < toneSections; ++number) {
+        const Biquad &section = parameters.tone[number];
+        ToneGroup &group = m_tone[number / groupSections];
+        const size_t place = number % halfSections;
+        const size_t lane = number % groupSections / halfSections * stereo;
+        const auto values = coefficients(section);
+        for (size_t i = 0; i < coefficientCount; ++i) {
+            std::fill_n(&group.coefficients[place][i][lane], stereo, values[i]);
+        }
+        if (section.isIdentity()) {
+            // What it heard must not come out of a section that passes samples on as they are.
+            for (auto &state : group.states[place]) {
+                std::fill_n(&state[lane], stereo, 0.0);
             }
+        } else {
+            m_toneActive[number / groupSections] = true;
         }
     }
 }
@@ -77,7 +87,7 @@ void Filters::loadCrossover(const ChainParameters &parameters) {
 
 void Filters::forget() {
     for (ToneGroup &group : m_tone) {
-        std::fill_n(&group.states[0][0][0], groupSections * stateCount * stereo, 0.0);
+        std::fill_n(&group.states[0][0][0], halfSections * stateCount * groupLanes, 0.0);
     }
     std::fill_n(&m_bank.states[0][0][0], crossoverStages * stateCount * outputCount, 0.0);
 }

@@ -11,7 +11,7 @@ namespace headunit::engine {
 /// heard.
 class Filters {
 public:
-    static constexpr size_t largestBlock = 64;  ///< in frames
+    static constexpr size_t largestBlock = 256;  ///< in frames
 
     explicit Filters(const Kernel &kernel);
 

@@ -11,14 +11,16 @@ constexpr size_t stateCount = 2;
 constexpr size_t stereo = 2;
 constexpr size_t crossoverStages = 2;
 
-/// Tone sections are run in groups: long enough that the processor overlaps their waiting for one another, short
-/// enough for its registers.
-constexpr size_t groupSections = 5;
+/// Tone sections are run in groups of two halves, the second of which follows the first a few frames behind, so that a
+/// vector holds a section of each. A half is long enough that the processor overlaps its sections' waiting for one
+/// another, and short enough for its registers.
+constexpr size_t halfSections = 5;
+constexpr size_t groupSections = 2 * halfSections;
+constexpr size_t groupLanes = 4;  ///< first half left and right, second half left and right
 
-/// A group's sections, one after the other, both channels alike.
 struct alignas(32) ToneGroup {
-    double coefficients[groupSections][coefficientCount];
-    double states[groupSections][stateCount][stereo];
+    double coefficients[halfSections][coefficientCount][groupLanes];
+    double states[halfSections][stateCount][groupLanes];
 };
 
 /// Two sections for each output.
@@ -40,9 +42,9 @@ struct Kernel {
     void (*tone)(ToneGroup *group, double *samples, size_t frames);
     /// Filters \a frames of outputCount samples in place.
     void (*outputs)(OutputBank *bank, double *spread, size_t frames);
-    /// Gives interpolatedFrames for each row, one row after the other; the first from the first interpolatorTaps \a
-    /// samples.
-    void (*interpolate)(const Interpolator &interpolator, const float *samples, float *rows);
+    /// Gives interpolatedFrames for each row, one row after the other, the first from the first interpolatorTaps
+    /// \a samples; and the highest magnitude of each row.
+    void (*interpolate)(const Interpolator &interpolator, const float *samples, float *rows, float *highest);
 };
 
 extern const Kernel plainKernel;  ///< whatever every processor of this kind has; SSE2 on x86-64

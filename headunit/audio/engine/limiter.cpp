@@ -2,10 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <limits>
 
 namespace headunit::engine {
 
 namespace {
+
+using Pair = double __attribute__((vector_size(stereo * sizeof(double))));
+using Bits = int64_t __attribute__((vector_size(stereo * sizeof(int64_t))));
+constexpr int64_t magnitudeBits = std::numeric_limits<int64_t>::max();
 
 /// What is limited goes so high: a little below full scale, for what TruePeak may miss.
 constexpr double ceiling = 0.985;
@@ -33,17 +39,21 @@ double Limiter::wantedGain(size_t pair) const {
 
 /// When a group is complete, the one before it can be read.
 void Limiter::analyse() {
-    std::array<double, pairCount> &newest = m_highest[m_frame / group % m_highest.size()];
-    newest = {};
+    std::array<Pair, pairCount> highest{};
     const double *sample = &m_samples[(m_frame - group) % length * outputCount];
     for (size_t frame = 0; frame < group; ++frame) {
-        for (double &highest : newest) {
-            for (size_t side = 0; side < stereo; ++side) {
-                highest = std::max(highest, std::abs(*sample++));
-            }
+        for (Pair &pair : highest) {
+            Bits bits;
+            std::memcpy(&bits, sample, sizeof bits);
+            bits &= magnitudeBits;
+            const Pair magnitudes = reinterpret_cast<Pair>(bits);
+            pair = magnitudes > pair ? magnitudes : pair;
+            sample += stereo;
         }
     }
+    std::array<double, pairCount> &newest = m_highest[m_frame / group % m_highest.size()];
     for (size_t pair = 0; pair < pairCount; ++pair) {
+        newest[pair] = std::max(highest[pair][0], highest[pair][1]);
         m_gains[pair].want(wantedGain(pair));
     }
 }

@@ -4,15 +4,25 @@
 
 namespace headunit::engine {
 
+namespace {
+
+void narrow(const double *from, float *to, size_t count) {
+    std::transform(from, from + count, to, [](double sample) { return static_cast<float>(sample); });
+}
+
+}  // namespace
+
 void MixHistory::write(const double *program, const double *prompts, size_t frames) {
     for (size_t done = 0; done < frames;) {
         const size_t place = m_position;
         const size_t count = std::min(frames - done, length - place);
-        std::copy_n(program + done * stereo, count * stereo, &m_program[place * stereo]);
+        narrow(program + done * stereo, &m_program[place * stereo], count * stereo);
         if (prompts) {
-            std::copy_n(prompts + done * stereo, count * stereo, &m_prompts[place * stereo]);
-        } else {
-            std::fill_n(&m_prompts[place * stereo], count * stereo, 0.0);
+            m_silentFrames = 0;
+            narrow(prompts + done * stereo, &m_prompts[place * stereo], count * stereo);
+        } else if (m_silentFrames < length) {
+            m_silentFrames += count;
+            std::fill_n(&m_prompts[place * stereo], count * stereo, 0.0F);
         }
         m_position = (m_position + count) % length;
         done += count;

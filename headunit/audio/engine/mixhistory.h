@@ -19,9 +19,10 @@ public:
     void read(double *program, double *prompts, size_t age, size_t frames) const;
 
 private:
-    std::array<double, length * stereo> m_program{};
-    std::array<double, length * stereo> m_prompts{};
-    size_t m_position = 0;  ///< of the next write
+    std::array<float, length * stereo> m_program{};
+    std::array<float, length * stereo> m_prompts{};
+    size_t m_position = 0;           ///< of the next write
+    size_t m_silentFrames = length;  ///< of the prompts; from length on there is nothing but silence
 };
 
 }  // namespace headunit::engine

@@ -11,7 +11,8 @@ constexpr size_t pointsBetween = 3;
 constexpr size_t highPassRow = 3;
 constexpr double notTooMuch = 0.9986;  ///< the ripple of the interpolator
 constexpr float worthAParabola = 0.9F;
-constexpr double mostOfAParabola = 1.25;  ///< above the highest of its three points: (3/2)^2 / 2 - 1 + 1
+constexpr float leastMiddle = 0.8F;       ///< of the highest one: its inverse is the most
+constexpr double mostOfAParabola = 1.25;  ///< above the highest of its three points, at worst
 
 /// Bessel function of the first kind, modified, of order 0.
 double besselI0(double x) {
@@ -79,24 +80,22 @@ TruePeak::TruePeak(const Kernel &kernel)
       m_harmlessSample(1 / (largestGain(m_interpolator) * mostOfAParabola)) {}
 
 TruePeak::Reading TruePeak::read(const std::array<float, window> &samples) const {
-    std::array<std::array<float, frames>, interpolatorRows> rows;
-    m_kernel->interpolate(m_interpolator, samples.data() + 1, rows[0].data());
-    float highest = 0;
-    float unread = 0;
-    for (size_t i = 0; i < frames; ++i) {
-        highest = std::max(
-            {highest, std::abs(samples[before + i]), std::abs(rows[0][i]), std::abs(rows[1][i]), std::abs(rows[2][i])});
-        unread = std::max(unread, std::abs(rows[highPassRow][i]));
+    Rows rows;
+    std::array<float, interpolatorRows> highestOfRow;
+    m_kernel->interpolate(m_interpolator, samples.data() + 1, rows[0].data(), highestOfRow.data());
+    float highest = *std::max_element(highestOfRow.begin(), highestOfRow.begin() + pointsBetween);
+    for (size_t i = before; i < before + frames; ++i) {
+        highest = std::max(highest, std::abs(samples[i]));
     }
     if (highest >= worthAParabola) {
-        highest = std::max(highest, highestParabola(samples, rows));
+        highest = std::max(highest, highestParabola(samples, rows, highest * leastMiddle));
     }
-    return {static_cast<double>(highest), static_cast<double>(unread)};
+    return {static_cast<double>(highest), static_cast<double>(highestOfRow[highPassRow])};
 }
 
-/// All points in a row, with the one before and the one behind them; samples as much too low as what is between.
-float TruePeak::highestParabola(const std::array<float, window> &samples,
-                                const std::array<std::array<float, frames>, interpolatorRows> &rows) const {
+/// All points in a row, with the one before and the one behind them; samples as much too low as what is between. Only
+/// points beyond \a least can be the middle of the highest one.
+float TruePeak::highestParabola(const std::array<float, window> &samples, const Rows &rows, float least) const {
     constexpr float scale = static_cast<float>(notTooMuch);
     constexpr size_t step = pointsBetween + 1;
     std::array<float, frames * step + 2> line;
@@ -114,7 +113,9 @@ float TruePeak::highestParabola(const std::array<float, window> &samples,
     }
     float highest = 0;
     for (size_t i = 1; i + 1 < line.size(); ++i) {
-        highest = std::max(highest, topOfParabola(line[i - 1], line[i], line[i + 1]));
+        if (std::abs(line[i]) > least) {
+            highest = std::max(highest, topOfParabola(line[i - 1], line[i], line[i + 1]));
+        }
     }
     return highest;
 }

@@ -28,8 +28,9 @@ public:
     Reading read(const std::array<float, window> &samples) const;
 
 private:
-    float highestParabola(const std::array<float, window> &samples,
-                          const std::array<std::array<float, frames>, interpolatorRows> &rows) const;
+    using Rows = std::array<std::array<float, frames>, interpolatorRows>;
+
+    float highestParabola(const std::array<float, window> &samples, const Rows &rows, float least) const;
 
     const Kernel *m_kernel;
     Interpolator m_interpolator;

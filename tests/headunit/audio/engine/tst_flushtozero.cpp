@@ -7,6 +7,7 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace headunit;
@@ -23,9 +24,9 @@ bool isDenormal(double value) {
 int denormalsInAPause() {
     ToneGroup group{};
     for (auto &section : group.coefficients) {
-        section[0] = 1;
-        section[3] = -1.5;
-        section[4] = 0.7;
+        std::fill_n(section[0], groupLanes, 1.0);
+        std::fill_n(section[3], groupLanes, -1.5);
+        std::fill_n(section[4], groupLanes, 0.7);
     }
     group.states[0][0][0] = 1;
     int count = 0;

@@ -5,6 +5,7 @@
 
 #include <QTest>
 
+#include <algorithm>
 #include <cstring>
 
 using namespace headunit;
@@ -64,18 +65,22 @@ void TestKernel::bestOneRuns() {
 }
 
 void TestKernel::statesCarryOver() {
-    // A section that adds the sample before, and one that adds the one before that, to what comes in.
-    ToneGroup group{};
-    for (auto &section : group.coefficients) {
-        section[0] = 1;
+    // A section that adds the sample before, and one of the other half that adds the one before that, to what comes in.
+    for (const Kernel *kernel : {&plainKernel, &bestKernel()}) {
+        for (size_t cut = 0; cut <= 8; ++cut) {
+            ToneGroup group{};
+            for (auto &section : group.coefficients) {
+                std::fill_n(section[0], groupLanes, 1.0);
+            }
+            std::fill_n(group.coefficients[0][1], stereo, 1.0);
+            std::fill_n(&group.coefficients[4][2][stereo], stereo, 1.0);
+            double samples[16] = {1, 10};
+            kernel->tone(&group, samples, cut);
+            kernel->tone(&group, samples + cut * stereo, 8 - cut);
+            const double expected[16] = {1, 10, 1, 10, 1, 10, 1, 10};
+            QVERIFY(std::equal(std::begin(samples), std::end(samples), expected));
+        }
     }
-    group.coefficients[0][1] = 1;
-    group.coefficients[4][2] = 1;
-    double samples[] = {1, 10, 0, 0, 0, 0, 0, 0, 0, 0};
-    plainKernel.tone(&group, samples, 1);
-    plainKernel.tone(&group, samples + 2, 4);
-    const double expected[] = {1, 10, 1, 10, 1, 10, 1, 10, 0, 0};
-    QVERIFY(std::equal(std::begin(samples), std::end(samples), expected));
 }
 
 QTEST_APPLESS_MAIN(TestKernel)
