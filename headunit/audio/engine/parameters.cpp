@@ -13,6 +13,7 @@ namespace headunit::engine {
 namespace {
 
 constexpr double decibelsPerSide = 2;
+constexpr double decibelsPerTrim = 0.1;
 constexpr double duckedDecibels = -12;
 constexpr double delayStepsPerSecond = 10000;
 
@@ -93,7 +94,7 @@ void designPair(size_t left, double fader, const CrossoverSections &sections, do
         const bool atLeft = output == left;
         chain->placement[output] = state.defeat ? 1 : fader * sideGain(state.balance, atLeft);
         chain->crossover[output] = sections;
-        chain->gain[output] = gain;
+        chain->gain[output] = gain * fromDecibels(within(state.trim, ranges::trim) * decibelsPerTrim);
         chain->delay[output] = state.defeat ? 0 : delaySamples(state.delay[output]);
     }
 }

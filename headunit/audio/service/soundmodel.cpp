@@ -65,6 +65,15 @@ void SoundModel::keep(const QString &key, int value) {
     m_store.set(key, value);
 }
 
+void SoundModel::adopt(const SoundState &state) {
+    SoundState next = state;
+    next.activeSource = m_state.activeSource;
+    next.muted = m_state.muted;
+    next.activePrompts = m_state.activePrompts;
+    next.trim = m_state.trim;
+    apply(next);
+}
+
 void SoundModel::setEqType(int type) {
     keep(m_eqTypeKey, type);
     assign(m_state.eqType, type);
@@ -159,6 +168,10 @@ void SoundModel::setActiveSource(int source) {
     if (exists(source, SoundState::sources, "source")) {
         assign(m_state.activeSource, source);
     }
+}
+
+void SoundModel::setTrim(int tenths) {
+    assign(m_state.trim, clamped(tenths, ranges::trim, "trim"));
 }
 
 void SoundModel::setMuted(bool muted) {

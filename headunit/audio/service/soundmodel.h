@@ -39,6 +39,9 @@ public:
     /// mute and prompts are not kept there and stay.
     void restore(SoundPart part = SoundPart::All);
 
+    /// Takes over \a state whole, but for what plays: active source, mute, prompts and trim stay.
+    void adopt(const SoundState &state);
+
     void setEqType(int type);               ///< any integer
     void setCustomEq(int band, int value);  ///< 0 to 12; -12 to 24
     int customEq(int band) const;           ///< 0 for a band that does not exist
@@ -53,6 +56,7 @@ public:
     void setDelays(const std::array<int, SoundState::outputs> &delays);
     void setActiveSource(int source);
     /// Muted, the source that plays is silent; prompts are not.
+    void setTrim(int tenths);  ///< -600 to 0
     void setMuted(bool muted);
     /// A prompt begins or ends; what plays steps back for it as long as it sounds.
     void setPromptActive(Prompt prompt, bool active);

@@ -84,6 +84,7 @@ SoundState SoundModel::restored() const {
     next.activeSource = m_state.activeSource;
     next.muted = m_state.muted;
     next.activePrompts = m_state.activePrompts;
+    next.trim = m_state.trim;
     next.eqType = stored(m_store, keys::eqType);
     next.customEq = storedRow<SoundState::bands>(m_store, keys::customEq, ranges::bandValue, OutOfRange::Default);
     next.balance = clamped(stored(m_store, keys::balance), ranges::balanceFader, keys::balance.name);

@@ -46,11 +46,12 @@ struct SoundState {
     CrossoverFilter rear;
     CrossoverFilter subwoofer;
     std::array<int, outputs> delay{};  ///< 0 to 99, in 0.1 ms
+    int trim = 0;                      ///< of all outputs, -600 to 0 in 0.1 dB: for comparing at one level; not kept
 
     /// Every member above, for comparison.
     auto members() const {
         return std::tie(eqType, customEq, balance, fader, channelLevel, sourceGain, activeSource, muted, activePrompts,
-                        loudness, defeat, subwooferLevel, subwooferPhase, front, rear, subwoofer, delay);
+                        loudness, defeat, subwooferLevel, subwooferPhase, front, rear, subwoofer, delay, trim);
     }
     bool operator==(const SoundState &o) const { return members() == o.members(); }
     bool operator!=(const SoundState &o) const { return !(*this == o); }

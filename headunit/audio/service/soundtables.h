@@ -28,6 +28,7 @@ constexpr Range sourceGain = {0, 20};
 constexpr Range subwooferLevel = {0, 15};
 constexpr Range slope = {1, 3};
 constexpr Range filterLevel = {0, 12};
+constexpr Range trim = {-600, 0};
 constexpr Range delay = {0, 99};
 constexpr Range flag = {0, 1};
 

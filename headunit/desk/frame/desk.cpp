@@ -7,9 +7,12 @@
 
 #include <QApplication>
 #include <QDockWidget>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSettings>
+#include <QStatusBar>
+#include <QToolButton>
 
 namespace headunit {
 
@@ -29,18 +32,25 @@ QString placesFile() {
 Desk::Desk(DeskHost &host)
     : m_context(host),
       m_deskMenu(menuBar()->addMenu(QString())),
+      m_editMenu(menuBar()->addMenu(QString())),
       m_windowMenu(menuBar()->addMenu(QString())),
-      m_close(m_deskMenu->addAction(QString(), this, &QWidget::close)) {
+      m_close(m_deskMenu->addAction(QString(), this, &QWidget::close)),
+      m_undo(m_editMenu->addAction(QString())),
+      m_redo(m_editMenu->addAction(QString())),
+      m_step(new QLabel(this)),
+      m_undoKey(new QToolButton(this)) {
     setObjectName(QStringLiteral("desk"));
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);  // the unit is over when its own window is closed
     setDockNestingEnabled(true);
     dressForDesk(this);
     m_deskMenu->setObjectName(QStringLiteral("menu_desk"));
+    m_editMenu->setObjectName(QStringLiteral("menu_edit"));
     m_windowMenu->setObjectName(QStringLiteral("menu_windows"));
     m_close->setObjectName(QStringLiteral("action_close"));
     m_close->setShortcut(Qt::CTRL + Qt::Key_W);
     qApp->installEventFilter(this);  // for whatever this window will hold, see eventFilter()
+    addUndo();
     addPanels();
     retranslate();
     restorePlaces();
@@ -73,6 +83,46 @@ void Desk::addPanels() {
             }
         });
     }
+}
+
+void Desk::addUndo() {
+    const struct {
+        QAction *action;
+        const char *name;
+        QKeySequence shortcut;
+        void (QUndoStack::*slot)();
+    } rows[] = {
+        {m_undo, "action_undo", Qt::CTRL + Qt::Key_Z, &QUndoStack::undo},
+        {m_redo, "action_redo", Qt::CTRL + Qt::SHIFT + Qt::Key_Z, &QUndoStack::redo},
+    };
+    ChangeHistory &history = m_context.history;
+    for (const auto &row : rows) {
+        row.action->setObjectName(QLatin1String(row.name));
+        row.action->setShortcut(row.shortcut);
+        row.action->setShortcutContext(Qt::ApplicationShortcut);
+        connect(row.action, &QAction::triggered, this, [&history, slot = row.slot] {
+            history.commit();  // what a touch has just changed is a step, too
+            (history.stack().*slot)();
+        });
+    }
+    m_step->setObjectName(QStringLiteral("last_step"));
+    m_undoKey->setObjectName(QStringLiteral("key_undo"));
+    m_undoKey->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    connect(m_undoKey, &QToolButton::clicked, m_undo, &QAction::trigger);
+    statusBar()->addWidget(m_step);
+    statusBar()->addWidget(m_undoKey);
+    connect(&history, &ChangeHistory::stepped, this, &Desk::showStep);
+    connect(&history.stack(), &QUndoStack::indexChanged, this, &Desk::showStep);
+}
+
+void Desk::showStep() {
+    const QUndoStack &stack = m_context.history.stack();
+    m_undo->setText(stack.canUndo() ? deskText("&Undo %1").arg(stack.undoText()) : deskText("&Undo"));
+    m_redo->setText(stack.canRedo() ? deskText("&Redo %1").arg(stack.redoText()) : deskText("&Redo"));
+    m_undo->setEnabled(stack.canUndo());
+    m_redo->setEnabled(stack.canRedo());
+    m_step->setText(stack.undoText());
+    m_undoKey->setVisible(stack.canUndo());
 }
 
 void Desk::fill(Place &place) {
@@ -109,8 +159,13 @@ Panel *Desk::panel(const QString &name) {
 void Desk::retranslate() {
     setWindowTitle(deskText("Tuner's desk"));
     m_deskMenu->setTitle(deskText("&Desk"));
+    m_editMenu->setTitle(deskText("&Edit"));
     m_windowMenu->setTitle(deskText("&Windows"));
     m_close->setText(deskText("&Close the desk"));
+    m_undoKey->setText(deskText("Undo"));
+    m_undoKey->setToolTip(deskText("Takes the last change back (%1)").arg(m_undo->shortcut().toString()));
+    m_context.history.retranslate();
+    showStep();
     for (const Place &place : m_places) {
         const QString title = deskText(place.row->title);
         place.dock->setWindowTitle(title);

@@ -7,7 +7,9 @@
 #include <vector>
 
 class QDockWidget;
+class QLabel;
 class QMenu;
+class QToolButton;
 
 namespace headunit {
 
@@ -40,6 +42,8 @@ private:
     };
 
     void addPanels();
+    void addUndo();
+    void showStep();
     void fill(Place &place);
     bool owns(const QWidget *widget) const;
     void retranslate();
@@ -49,8 +53,13 @@ private:
     DeskContext m_context;
     std::vector<Place> m_places;
     QMenu *const m_deskMenu;
+    QMenu *const m_editMenu;
     QMenu *const m_windowMenu;
     QAction *const m_close;
+    QAction *const m_undo;
+    QAction *const m_redo;
+    QLabel *const m_step;
+    QToolButton *const m_undoKey;
 };
 
 }  // namespace headunit

@@ -2,16 +2,18 @@
 
 #include "headunit/desk/frame/deskhost.h"
 #include "headunit/desk/frame/touchlog.h"
+#include "headunit/desk/setups/changehistory.h"
 
 namespace headunit {
 
-/// What the panels share: the unit that they work on, and what is touched there.
+/// What the panels share: the unit that they work on, and what is touched there, and what was changed.
 class DeskContext {
 public:
-    explicit DeskContext(DeskHost &theHost) : host(theHost), touches(theHost.window()) {}
+    explicit DeskContext(DeskHost &theHost) : host(theHost), touches(theHost.window()), history(theHost, touches) {}
 
     DeskHost &host;
     TouchLog touches;
+    ChangeHistory history;
 };
 
 }  // namespace headunit

@@ -27,4 +27,9 @@ public:
 using DeskEntry = QObject *(*)(DeskHost *host, const QString *panel);
 constexpr char deskEntryName[] = "headunitOpenDesk";
 
+/// Puts the set-up of one file in force, writes the present one into another; either may be empty. Returns the
+/// process's exit code. Exported by the same library under the name setupEntryName.
+using SetupEntry = int (*)(const QString *exportTo, const QString *importFrom);
+constexpr char setupEntryName[] = "headunitSetupJob";
+
 }  // namespace headunit

@@ -33,8 +33,8 @@ QString suffixOf(const QString &kind) {
 }  // namespace
 
 void askWhereToSave(QWidget *parent, const QString &title, const QStringList &kinds,
-                    const std::function<void(const QString &path)> &take) {
-    auto *const dialog = new QFileDialog(parent, title);
+                    const std::function<void(const QString &path)> &take, const QString &folder) {
+    auto *const dialog = new QFileDialog(parent, title, folder);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setDefaultSuffix(suffixOf(kinds.first()));

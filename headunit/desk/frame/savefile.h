@@ -11,9 +11,9 @@ class QWidget;
 namespace headunit {
 
 /// Asks where to save, without stopping the unit, and hands \a take the file's path. \a kinds are such as
-/// "Text (*.txt)"; the first one's suffix is given to a name without one.
+/// "Text (*.txt)"; the first one's suffix is given to a name without one. \a folder is where it looks at first.
 void askWhereToSave(QWidget *parent, const QString &title, const QStringList &kinds,
-                    const std::function<void(const QString &path)> &take);
+                    const std::function<void(const QString &path)> &take, const QString &folder = QString());
 /// Asks which file to open, likewise.
 void askWhatToOpen(QWidget *parent, const QString &title, const QStringList &kinds,
                    const std::function<void(const QString &path)> &take);

@@ -231,5 +231,209 @@
         <source>stopped</source>
         <translation>abgebrochen</translation>
     </message>
+    <message>
+        <source>Set-ups</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Keep, compare, undo: what is set, and what was</source>
+        <translation>Merken, vergleichen, rückgängig machen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Wiederherstellen: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Takes the last change back (%1)</source>
+        <translation>Nimmt die letzte Änderung zurück (%1)</translation>
+    </message>
+    <message>
+        <source>Reset: %1 settings</source>
+        <translation>Zurückgesetzt: %1 Werte</translation>
+    </message>
+    <message>
+        <source>Crossover flat: %1 settings</source>
+        <translation>Frequenzweiche linear: %1 Werte</translation>
+    </message>
+    <message>
+        <source>Delays flat: %1 settings</source>
+        <translation>Laufzeiten auf null: %1 Werte</translation>
+    </message>
+    <message>
+        <source>%1: %2 settings</source>
+        <translation>%1: %2 Werte</translation>
+    </message>
+    <message>
+        <source>Changed while the desk was closed</source>
+        <translation>Geändert, als der Abstimmplatz geschlossen war</translation>
+    </message>
+    <message>
+        <source>A/B</source>
+        <translation>A/B</translation>
+    </message>
+    <message>
+        <source>A is in force</source>
+        <translation>A ist in Kraft</translation>
+    </message>
+    <message>
+        <source>B is in force</source>
+        <translation>B ist in Kraft</translation>
+    </message>
+    <message>
+        <source>A is now a copy of B</source>
+        <translation>A ist jetzt eine Kopie von B</translation>
+    </message>
+    <message>
+        <source>B is now a copy of A</source>
+        <translation>B ist jetzt eine Kopie von A</translation>
+    </message>
+    <message>
+        <source>Choose or import a set-up to see what it would change</source>
+        <translation>Wählen oder importieren Sie eine Einstellung, um zu sehen, was sie ändern würde</translation>
+    </message>
+    <message>
+        <source>"%1" changes %2 values</source>
+        <translation>„%1“ ändert %2 Werte</translation>
+    </message>
+    <message>
+        <source>"%1" is in force</source>
+        <translation>„%1“ ist in Kraft</translation>
+    </message>
+    <message>
+        <source>"%1" is deleted</source>
+        <translation>„%1“ ist gelöscht</translation>
+    </message>
+    <message>
+        <source>Keep the present set-up under a name</source>
+        <translation>Jetzige Einstellung unter einem Namen merken</translation>
+    </message>
+    <message>
+        <source>Export the present set-up</source>
+        <translation>Jetzige Einstellung exportieren</translation>
+    </message>
+    <message>
+        <source>Import a set-up</source>
+        <translation>Einstellung importieren</translation>
+    </message>
+    <message>
+        <source>Set-up (*.txt)</source>
+        <translation>Einstellung (*.txt)</translation>
+    </message>
+    <message>
+        <source>Keep as…</source>
+        <translation>Merken als …</translation>
+    </message>
+    <message>
+        <source>Keeps the present set-up under a name</source>
+        <translation>Merkt die jetzige Einstellung unter einem Namen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>Puts the set-up that is shown in force</source>
+        <translation>Setzt die gezeigte Einstellung in Kraft</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen set-up</source>
+        <translation>Löscht die gewählte Einstellung</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren …</translation>
+    </message>
+    <message>
+        <source>Shows what a set-up file would change; Apply puts it in force</source>
+        <translation>Zeigt, was eine Datei ändern würde; Anwenden setzt sie in Kraft</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Writes the present set-up into a file, for another unit</source>
+        <translation>Schreibt die jetzige Einstellung in eine Datei, für ein anderes Gerät</translation>
+    </message>
+    <message>
+        <source>Changes between two set-ups; what you change goes to the one in force</source>
+        <translation>Wechselt zwischen zwei Einstellungen; was Sie ändern, gilt für die in Kraft</translation>
+    </message>
+    <message>
+        <source>Copy to the other</source>
+        <translation>Auf die andere kopieren</translation>
+    </message>
+    <message>
+        <source>Makes the other one of A and B a copy of the one in force</source>
+        <translation>Macht die andere von A und B zur Kopie der in Kraft</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Änderungen</translation>
+    </message>
+    <message>
+        <source>Every change; touch one to go back or forth to it</source>
+        <translation>Jede Änderung; wählen Sie eine, um zu ihr zu gehen</translation>
+    </message>
+    <message>
+        <source>Before all changes</source>
+        <translation>Vor allen Änderungen</translation>
+    </message>
+    <message>
+        <source>What the set-up changes</source>
+        <translation>Was die Einstellung ändert</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>In the set-up</source>
+        <translation>In der Einstellung</translation>
+    </message>
+    <message>
+        <source>%1 dB to match</source>
+        <translation>%1 dB zum Angleichen</translation>
+    </message>
+    <message>
+        <source>Match levels</source>
+        <translation>Pegel angleichen</translation>
+    </message>
+    <message>
+        <source>Makes the louder of A and B as quiet as the other, so that the ear compares the sound</source>
+        <translation>Macht die lautere von A und B so leise wie die andere, damit das Ohr den Klang vergleicht</translation>
+    </message>
+    <message>
+        <source>What came of it</source>
+        <translation>Ergebnis</translation>
+    </message>
 </context>
 </TS>

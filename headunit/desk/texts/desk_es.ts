@@ -231,5 +231,209 @@
         <source>stopped</source>
         <translation>detenido</translation>
     </message>
+    <message>
+        <source>Set-ups</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Ajuste</translation>
+    </message>
+    <message>
+        <source>Keep, compare, undo: what is set, and what was</source>
+        <translation>Guardar, comparar, deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Deshacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Rehacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Takes the last change back (%1)</source>
+        <translation>Deshace el último cambio (%1)</translation>
+    </message>
+    <message>
+        <source>Reset: %1 settings</source>
+        <translation>Restablecido: %1 valores</translation>
+    </message>
+    <message>
+        <source>Crossover flat: %1 settings</source>
+        <translation>Filtros planos: %1 valores</translation>
+    </message>
+    <message>
+        <source>Delays flat: %1 settings</source>
+        <translation>Retardos a cero: %1 valores</translation>
+    </message>
+    <message>
+        <source>%1: %2 settings</source>
+        <translation>%1: %2 valores</translation>
+    </message>
+    <message>
+        <source>Changed while the desk was closed</source>
+        <translation>Cambiado con la mesa cerrada</translation>
+    </message>
+    <message>
+        <source>A/B</source>
+        <translation>A/B</translation>
+    </message>
+    <message>
+        <source>A is in force</source>
+        <translation>A está activo</translation>
+    </message>
+    <message>
+        <source>B is in force</source>
+        <translation>B está activo</translation>
+    </message>
+    <message>
+        <source>A is now a copy of B</source>
+        <translation>A es ahora una copia de B</translation>
+    </message>
+    <message>
+        <source>B is now a copy of A</source>
+        <translation>B es ahora una copia de A</translation>
+    </message>
+    <message>
+        <source>Choose or import a set-up to see what it would change</source>
+        <translation>Elija o importe un ajuste para ver qué cambiaría</translation>
+    </message>
+    <message>
+        <source>"%1" changes %2 values</source>
+        <translation>«%1» cambia %2 valores</translation>
+    </message>
+    <message>
+        <source>"%1" is in force</source>
+        <translation>«%1» está activo</translation>
+    </message>
+    <message>
+        <source>"%1" is deleted</source>
+        <translation>«%1» se ha eliminado</translation>
+    </message>
+    <message>
+        <source>Keep the present set-up under a name</source>
+        <translation>Guardar el ajuste actual con un nombre</translation>
+    </message>
+    <message>
+        <source>Export the present set-up</source>
+        <translation>Exportar el ajuste actual</translation>
+    </message>
+    <message>
+        <source>Import a set-up</source>
+        <translation>Importar un ajuste</translation>
+    </message>
+    <message>
+        <source>Set-up (*.txt)</source>
+        <translation>Ajuste (*.txt)</translation>
+    </message>
+    <message>
+        <source>Keep as…</source>
+        <translation>Guardar como…</translation>
+    </message>
+    <message>
+        <source>Keeps the present set-up under a name</source>
+        <translation>Guarda el ajuste actual con un nombre</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Puts the set-up that is shown in force</source>
+        <translation>Activa el ajuste mostrado</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen set-up</source>
+        <translation>Elimina el ajuste elegido</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Shows what a set-up file would change; Apply puts it in force</source>
+        <translation>Muestra qué cambiaría un archivo; Aplicar lo activa</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Writes the present set-up into a file, for another unit</source>
+        <translation>Escribe el ajuste actual en un archivo, para otra unidad</translation>
+    </message>
+    <message>
+        <source>Changes between two set-ups; what you change goes to the one in force</source>
+        <translation>Cambia entre dos ajustes; lo que cambie va al activo</translation>
+    </message>
+    <message>
+        <source>Copy to the other</source>
+        <translation>Copiar al otro</translation>
+    </message>
+    <message>
+        <source>Makes the other one of A and B a copy of the one in force</source>
+        <translation>Hace del otro de A y B una copia del activo</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Cambios</translation>
+    </message>
+    <message>
+        <source>Every change; touch one to go back or forth to it</source>
+        <translation>Cada cambio; elija uno para ir a él</translation>
+    </message>
+    <message>
+        <source>Before all changes</source>
+        <translation>Antes de todos los cambios</translation>
+    </message>
+    <message>
+        <source>What the set-up changes</source>
+        <translation>Lo que cambia el ajuste</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>In the set-up</source>
+        <translation>En el ajuste</translation>
+    </message>
+    <message>
+        <source>%1 dB to match</source>
+        <translation>%1 dB para igualar</translation>
+    </message>
+    <message>
+        <source>Match levels</source>
+        <translation>Igualar niveles</translation>
+    </message>
+    <message>
+        <source>Makes the louder of A and B as quiet as the other, so that the ear compares the sound</source>
+        <translation>Baja el más fuerte de A y B al nivel del otro, para comparar el sonido</translation>
+    </message>
+    <message>
+        <source>What came of it</source>
+        <translation>Resultado</translation>
+    </message>
 </context>
 </TS>

@@ -231,5 +231,209 @@
         <source>stopped</source>
         <translation>arrêté</translation>
     </message>
+    <message>
+        <source>Set-ups</source>
+        <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Keep, compare, undo: what is set, and what was</source>
+        <translation>Garder, comparer, annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>&amp;Annuler : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>&amp;Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Takes the last change back (%1)</source>
+        <translation>Annule le dernier changement (%1)</translation>
+    </message>
+    <message>
+        <source>Reset: %1 settings</source>
+        <translation>Réinitialisation : %1 valeurs</translation>
+    </message>
+    <message>
+        <source>Crossover flat: %1 settings</source>
+        <translation>Filtres à plat : %1 valeurs</translation>
+    </message>
+    <message>
+        <source>Delays flat: %1 settings</source>
+        <translation>Retards à zéro : %1 valeurs</translation>
+    </message>
+    <message>
+        <source>%1: %2 settings</source>
+        <translation>%1 : %2 valeurs</translation>
+    </message>
+    <message>
+        <source>Changed while the desk was closed</source>
+        <translation>Changé pendant que le poste était fermé</translation>
+    </message>
+    <message>
+        <source>A/B</source>
+        <translation>A/B</translation>
+    </message>
+    <message>
+        <source>A is in force</source>
+        <translation>A est en vigueur</translation>
+    </message>
+    <message>
+        <source>B is in force</source>
+        <translation>B est en vigueur</translation>
+    </message>
+    <message>
+        <source>A is now a copy of B</source>
+        <translation>A est maintenant une copie de B</translation>
+    </message>
+    <message>
+        <source>B is now a copy of A</source>
+        <translation>B est maintenant une copie de A</translation>
+    </message>
+    <message>
+        <source>Choose or import a set-up to see what it would change</source>
+        <translation>Choisissez ou importez un réglage pour voir ce qu’il changerait</translation>
+    </message>
+    <message>
+        <source>"%1" changes %2 values</source>
+        <translation>« %1 » change %2 valeurs</translation>
+    </message>
+    <message>
+        <source>"%1" is in force</source>
+        <translation>« %1 » est en vigueur</translation>
+    </message>
+    <message>
+        <source>"%1" is deleted</source>
+        <translation>« %1 » est supprimé</translation>
+    </message>
+    <message>
+        <source>Keep the present set-up under a name</source>
+        <translation>Garder le réglage actuel sous un nom</translation>
+    </message>
+    <message>
+        <source>Export the present set-up</source>
+        <translation>Exporter le réglage actuel</translation>
+    </message>
+    <message>
+        <source>Import a set-up</source>
+        <translation>Importer un réglage</translation>
+    </message>
+    <message>
+        <source>Set-up (*.txt)</source>
+        <translation>Réglage (*.txt)</translation>
+    </message>
+    <message>
+        <source>Keep as…</source>
+        <translation>Garder sous…</translation>
+    </message>
+    <message>
+        <source>Keeps the present set-up under a name</source>
+        <translation>Garde le réglage actuel sous un nom</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
+    <message>
+        <source>Puts the set-up that is shown in force</source>
+        <translation>Met en vigueur le réglage affiché</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen set-up</source>
+        <translation>Supprime le réglage choisi</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Shows what a set-up file would change; Apply puts it in force</source>
+        <translation>Montre ce qu’un fichier changerait ; Appliquer le met en vigueur</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Writes the present set-up into a file, for another unit</source>
+        <translation>Écrit le réglage actuel dans un fichier, pour un autre appareil</translation>
+    </message>
+    <message>
+        <source>Changes between two set-ups; what you change goes to the one in force</source>
+        <translation>Passe d’un réglage à l’autre ; vos changements vont à celui en vigueur</translation>
+    </message>
+    <message>
+        <source>Copy to the other</source>
+        <translation>Copier sur l’autre</translation>
+    </message>
+    <message>
+        <source>Makes the other one of A and B a copy of the one in force</source>
+        <translation>Fait de l’autre de A et B une copie de celui en vigueur</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>Changements</translation>
+    </message>
+    <message>
+        <source>Every change; touch one to go back or forth to it</source>
+        <translation>Chaque changement ; choisissez-en un pour y aller</translation>
+    </message>
+    <message>
+        <source>Before all changes</source>
+        <translation>Avant tout changement</translation>
+    </message>
+    <message>
+        <source>What the set-up changes</source>
+        <translation>Ce que le réglage change</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>In the set-up</source>
+        <translation>Dans le réglage</translation>
+    </message>
+    <message>
+        <source>%1 dB to match</source>
+        <translation>%1 dB pour égaliser</translation>
+    </message>
+    <message>
+        <source>Match levels</source>
+        <translation>Égaliser les niveaux</translation>
+    </message>
+    <message>
+        <source>Makes the louder of A and B as quiet as the other, so that the ear compares the sound</source>
+        <translation>Baisse le plus fort de A et B au niveau de l’autre, pour comparer le son</translation>
+    </message>
+    <message>
+        <source>What came of it</source>
+        <translation>Résultat</translation>
+    </message>
 </context>
 </TS>

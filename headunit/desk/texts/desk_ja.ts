@@ -231,5 +231,209 @@
         <source>stopped</source>
         <translation>中止しました</translation>
     </message>
+    <message>
+        <source>Set-ups</source>
+        <translation>セットアップ</translation>
+    </message>
+    <message>
+        <source>Set-up</source>
+        <translation>セットアップ</translation>
+    </message>
+    <message>
+        <source>Keep, compare, undo: what is set, and what was</source>
+        <translation>保存・比較・取り消し</translation>
+    </message>
+    <message>
+        <source>&amp;Undo %1</source>
+        <translation>元に戻す(&amp;U)：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo %1</source>
+        <translation>やり直す(&amp;R)：%1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Takes the last change back (%1)</source>
+        <translation>最後の変更を元に戻す (%1)</translation>
+    </message>
+    <message>
+        <source>Reset: %1 settings</source>
+        <translation>リセット：%1 項目</translation>
+    </message>
+    <message>
+        <source>Crossover flat: %1 settings</source>
+        <translation>クロスオーバーをフラット：%1 項目</translation>
+    </message>
+    <message>
+        <source>Delays flat: %1 settings</source>
+        <translation>ディレイをゼロ：%1 項目</translation>
+    </message>
+    <message>
+        <source>%1: %2 settings</source>
+        <translation>%1：%2 項目</translation>
+    </message>
+    <message>
+        <source>Changed while the desk was closed</source>
+        <translation>デスクを閉じている間の変更</translation>
+    </message>
+    <message>
+        <source>A/B</source>
+        <translation>A/B</translation>
+    </message>
+    <message>
+        <source>A is in force</source>
+        <translation>A を使用中</translation>
+    </message>
+    <message>
+        <source>B is in force</source>
+        <translation>B を使用中</translation>
+    </message>
+    <message>
+        <source>A is now a copy of B</source>
+        <translation>A は B のコピーになりました</translation>
+    </message>
+    <message>
+        <source>B is now a copy of A</source>
+        <translation>B は A のコピーになりました</translation>
+    </message>
+    <message>
+        <source>Choose or import a set-up to see what it would change</source>
+        <translation>セットアップを選ぶか読み込むと、変更点が表示されます</translation>
+    </message>
+    <message>
+        <source>"%1" changes %2 values</source>
+        <translation>「%1」は %2 項目を変更します</translation>
+    </message>
+    <message>
+        <source>"%1" is in force</source>
+        <translation>「%1」を使用中</translation>
+    </message>
+    <message>
+        <source>"%1" is deleted</source>
+        <translation>「%1」を削除しました</translation>
+    </message>
+    <message>
+        <source>Keep the present set-up under a name</source>
+        <translation>現在のセットアップに名前を付けて保存</translation>
+    </message>
+    <message>
+        <source>Export the present set-up</source>
+        <translation>現在のセットアップを書き出す</translation>
+    </message>
+    <message>
+        <source>Import a set-up</source>
+        <translation>セットアップを読み込む</translation>
+    </message>
+    <message>
+        <source>Set-up (*.txt)</source>
+        <translation>セットアップ (*.txt)</translation>
+    </message>
+    <message>
+        <source>Keep as…</source>
+        <translation>名前を付けて保存…</translation>
+    </message>
+    <message>
+        <source>Keeps the present set-up under a name</source>
+        <translation>現在のセットアップに名前を付けて保存します</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>適用</translation>
+    </message>
+    <message>
+        <source>Puts the set-up that is shown in force</source>
+        <translation>表示中のセットアップを適用します</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen set-up</source>
+        <translation>選択したセットアップを削除します</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>読み込み…</translation>
+    </message>
+    <message>
+        <source>Shows what a set-up file would change; Apply puts it in force</source>
+        <translation>ファイルによる変更点を表示します。適用で反映します</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>書き出し…</translation>
+    </message>
+    <message>
+        <source>Writes the present set-up into a file, for another unit</source>
+        <translation>別の本体用に現在のセットアップをファイルに書き出します</translation>
+    </message>
+    <message>
+        <source>Changes between two set-ups; what you change goes to the one in force</source>
+        <translation>二つのセットアップを切り替えます。変更は使用中の方に入ります</translation>
+    </message>
+    <message>
+        <source>Copy to the other</source>
+        <translation>もう一方へコピー</translation>
+    </message>
+    <message>
+        <source>Makes the other one of A and B a copy of the one in force</source>
+        <translation>A と B のもう一方を使用中のもののコピーにします</translation>
+    </message>
+    <message>
+        <source>Changes</source>
+        <translation>変更</translation>
+    </message>
+    <message>
+        <source>Every change; touch one to go back or forth to it</source>
+        <translation>すべての変更。選ぶとその時点へ移動します</translation>
+    </message>
+    <message>
+        <source>Before all changes</source>
+        <translation>すべての変更の前</translation>
+    </message>
+    <message>
+        <source>What the set-up changes</source>
+        <translation>セットアップによる変更点</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>現在</translation>
+    </message>
+    <message>
+        <source>In the set-up</source>
+        <translation>セットアップ</translation>
+    </message>
+    <message>
+        <source>%1 dB to match</source>
+        <translation>音量合わせ %1 dB</translation>
+    </message>
+    <message>
+        <source>Match levels</source>
+        <translation>音量を合わせる</translation>
+    </message>
+    <message>
+        <source>Makes the louder of A and B as quiet as the other, so that the ear compares the sound</source>
+        <translation>A と B の大きい方を下げ、音質を聴き比べられるようにします</translation>
+    </message>
+    <message>
+        <source>What came of it</source>
+        <translation>結果</translation>
+    </message>
 </context>
 </TS>

@@ -218,7 +218,7 @@ int main(int argc, char **argv) {
     if (options.help || options.version) {
         return printHelpOrVersion(options, argc, argv);
     }
-    if (options.soundJob.isEmpty()) {
+    if (options.soundJob.isEmpty() && !options.setupJob()) {
         fallBackToTour(&options);
     } else {
         qputenv("QT_QPA_PLATFORM", offscreen);
@@ -267,8 +267,9 @@ int main(int argc, char **argv) {
     if (options.trace) {
         tracePrinter = std::make_unique<TraceListener>(printTrace, TraceListener::WithReads);
     }
-    const int result =
-        options.soundJob.isEmpty() ? runUnit(options, application, moveTime) : runSoundJob(options.soundJob);
+    const int result = options.setupJob()           ? doSetupJob(options.exportTo, options.importFrom)
+                       : options.soundJob.isEmpty() ? runUnit(options, application, moveTime)
+                                                    : runSoundJob(options.soundJob);
     tracePrinter.reset();
     closeSettings();
     return result;

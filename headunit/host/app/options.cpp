@@ -35,6 +35,8 @@ constexpr OptionRow optionRows[] = {
     {"meters", nullptr, "Print what the loudspeakers and the limiter do, once a second, while the unit plays."},
     {"render", "IN", "Play a sound file under the current settings into another, --render IN.wav OUT.wav, and end."},
     {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
+    {"export", "FILE", "Write the present set-up into a text file, and end."},
+    {"import", "FILE", "Put the set-up of a text file in force, print what it changes, and end."},
     {"desk", nullptr, "Open the tuner's desk at once: what each touch does, set-ups, undo. Later: F12."},
     {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
     {"verbose", nullptr, "Print debug lines."},
@@ -87,7 +89,7 @@ QString problem(const QCommandLineParser &parser) {
         return QStringLiteral("--map %1: %2").arg(mapText, QString::fromStdString(reason));
     }
     QStringList given;
-    for (const char *name : {"script", "tour", "render", "measure"}) {
+    for (const char *name : {"script", "tour", "render", "measure", "export", "import"}) {
         if (parser.isSet(QString::fromLatin1(name))) {
             given << QStringLiteral("--") + QString::fromLatin1(name);
         }
@@ -139,6 +141,8 @@ ParsedOptions parseOptions(const QStringList &arguments) {
         options.soundJob.renderTo = options.plugins.takeFirst();
     }
     options.soundJob.measureTo = parser.value(QStringLiteral("measure"));
+    options.exportTo = parser.value(QStringLiteral("export"));
+    options.importFrom = parser.value(QStringLiteral("import"));
     options.desk = parser.isSet(QStringLiteral("desk"));
     options.trace = parser.isSet(QStringLiteral("trace"));
     options.verbose = parser.isSet(QStringLiteral("verbose"));

@@ -18,6 +18,8 @@ struct Options {
     QString tour;                ///< folder that the tour's pictures go to; empty: no tour
     PlayJob playJob;             ///< what sounds while the unit is shown
     SoundJob soundJob;           ///< what to do with the sound instead of showing the unit
+    QString exportTo;            ///< file that the set-up goes to
+    QString importFrom;          ///< file that a set-up is taken from
     bool desk = false;           ///< open the tuner's desk at once
     bool trace = false;          ///< print each call across the contract
     bool verbose = false;        ///< print debug lines
@@ -25,6 +27,7 @@ struct Options {
     bool help = false;
     bool version = false;
 
+    bool setupJob() const { return !exportTo.isEmpty() || !importFrom.isEmpty(); }
     bool scripted() const { return !script.isEmpty() || !tour.isEmpty(); }
 };
 

@@ -8,6 +8,20 @@
 
 namespace headunit {
 
+namespace {
+
+/// A function of the desk's library; null, with a line on standard error, if it is not there.
+template <typename Entry> Entry resolve(const char *name) {
+    QString problem;
+    const auto entry = reinterpret_cast<Entry>(hostFunction("desk", name, &problem));
+    if (!entry) {
+        std::fprintf(stderr, "headunit: no tuner's desk here: %s\n", qUtf8Printable(problem));
+    }
+    return entry;
+}
+
+}  // namespace
+
 TunersDesk::TunersDesk(DeskWindow &window, Unit &unit) : m_window(window), m_unit(unit) {
     connect(&window, &DeskWindow::deskWanted, this, [this] { open(); });
 }
@@ -17,12 +31,15 @@ TunersDesk::~TunersDesk() {
 }
 
 void TunersDesk::open(const QString &panel) {
-    QString problem;
-    if (const auto entry = reinterpret_cast<DeskEntry>(hostFunction("desk", deskEntryName, &problem))) {
+    if (const auto entry = resolve<DeskEntry>(deskEntryName)) {
         m_desk = entry(this, &panel);
-    } else {
-        std::fprintf(stderr, "headunit: no tuner's desk here: %s\n", qUtf8Printable(problem));
     }
+}
+
+int doSetupJob(const QString &exportTo, const QString &importFrom) {
+    constexpr int exitUnusable = 2;
+    const auto entry = resolve<SetupEntry>(setupEntryName);
+    return entry ? entry(&exportTo, &importFrom) : exitUnusable;
 }
 
 QWidget *TunersDesk::window() {

@@ -32,4 +32,7 @@ private:
     QPointer<QObject> m_desk;
 };
 
+/// Set-ups without a screen, see SetupEntry.
+int doSetupJob(const QString &exportTo, const QString &importFrom);
+
 }  // namespace headunit

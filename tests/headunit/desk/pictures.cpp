@@ -3,8 +3,10 @@
 #include "desktest.h"
 
 #include "headunit/desk/frame/panel.h"
+#include "headunit/desk/setups/setupfile.h"
 
 #include <QDir>
+#include <QListWidget>
 
 namespace {
 
@@ -40,6 +42,13 @@ int main(int argc, char **argv) {
     unit.unit->setLanguage(QString::fromLocal8Bit(argv[2]));
     const QDir folder(QString::fromLocal8Bit(argv[1]));
     bool saved = shoot(unit, folder, QStringLiteral("rest"));
+    const QString setups = unit.root.filePath(QStringLiteral("desk/setups"));
+    QDir().mkpath(setups);
+    headunit::writeSetup(setups + QStringLiteral("/flat.txt"), headunit::SettingsMap());
+    unit.closeDesk();
+    auto *const names = unit.openDesk()->panel(QStringLiteral("setups"))->findChild<QListWidget *>();
+    names->setCurrentRow(0);
+    unit.desk->panel(QStringLiteral("console"));
     for (const char *name : {"key_Subwoofer", "key_subvol_next", "key_subvol_next", "key_crossover", "key_freq_plus",
                              "key_freq_plus", "key_slope_plus", "key_level_minus", "key_timing", "key_general"}) {
         unit.tap(name);

@@ -80,6 +80,13 @@ void TestOptions::soundJobs() {
     QCOMPARE(parsed.error, QString());
     QVERIFY(!parsed.options.soundJob.isEmpty());
     QCOMPARE(parsed.options.soundJob.measureTo, QStringLiteral("a.csv"));
+    QVERIFY(!parsed.options.setupJob() && !parsed.options.desk);
+    parsed = parseOptions({QStringLiteral("headunit"), QStringLiteral("--export=a.txt")});
+    QVERIFY(parsed.options.setupJob());
+    QCOMPARE(parsed.options.exportTo, QStringLiteral("a.txt"));
+    parsed = parseOptions({QStringLiteral("headunit"), QStringLiteral("--import=b.txt"), QStringLiteral("--desk")});
+    QVERIFY(parsed.options.setupJob() && parsed.options.desk);
+    QCOMPARE(parsed.options.importFrom, QStringLiteral("b.txt"));
 }
 
 void TestOptions::refuses_data() {
@@ -102,6 +109,9 @@ void TestOptions::refuses_data() {
     row("scale too large", "--scale 9", "--scale 9");
     row("scale nan", "--scale nan", "--scale nan");
     row("script and tour", "--script a --tour b", "--tour");
+    row("export and import", "--export a --import b", "--export and --import");
+    row("import and script", "--import a --script b", "--script and --import");
+    row("export without a file", "--export", "--export");
     row("render and measure", "--render a --measure b c", "--render and --measure");
     row("render without a second file", "--render a", "--render");
     row("render with a third file", "--render a b c", "--render");
@@ -120,10 +130,26 @@ void TestOptions::refuses() {
 
 void TestOptions::helpNamesEveryOption() {
     const QString help = headunit::optionsHelp();
-    for (const char *name :
-         {"--help", "--version", "--root <DIR>", "--scale <N>", "--language <xx>", "--open <NAME>",
-          "--script <FILE.js>", "--tour <DIR>", "--play <WHAT>", "--device <NAME>", "--map <FL=CHANNEL,...>",
-          "--meters", "--render <IN>", "--measure <OUT>", "--trace", "--verbose", "--exit-when-shown"}) {
+    for (const char *name : {"--help",
+                             "--version",
+                             "--root <DIR>",
+                             "--scale <N>",
+                             "--language <xx>",
+                             "--open <NAME>",
+                             "--script <FILE.js>",
+                             "--tour <DIR>",
+                             "--play <WHAT>",
+                             "--device <NAME>",
+                             "--map <FL=CHANNEL,...>",
+                             "--meters",
+                             "--render <IN>",
+                             "--measure <OUT>",
+                             "--export <FILE>",
+                             "--import <FILE>",
+                             "--desk",
+                             "--trace",
+                             "--verbose",
+                             "--exit-when-shown"}) {
         QVERIFY2(help.contains(QLatin1String(name)), name);
     }
 }

@@ -1,0 +1,55 @@
+// Set-ups without a screen: --export and --import.
+
+#include "headunit/desk/frame/deskhost.h"
+#include "headunit/desk/setups/setupfile.h"
+#include "headunit/desk/setups/unitstate.h"
+#include "headunit/settings/unitsettings.h"
+
+#include <cstdio>
+
+namespace headunit {
+
+namespace {
+
+constexpr int exitGood = 0;
+constexpr int exitUnusable = 2;
+
+int refuse(const QString &reason) {
+    std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(reason));
+    return exitUnusable;
+}
+
+int exportSetup(const QString &path) {
+    const QString problem = writeSetup(path, audioStore().values());
+    return problem.isEmpty() ? exitGood : refuse(QStringLiteral("--export ") + problem);
+}
+
+int importSetup(const QString &path) {
+    const SetupFile file = readSetup(path);
+    if (!file.problem.isEmpty()) {
+        return refuse(QStringLiteral("--import ") + file.problem);
+    }
+    if (!flushSettings()) {
+        return refuse(
+            QStringLiteral("--import %1: the unit's settings cannot be written, nothing is changed").arg(path));
+    }
+    for (const QString &remark : file.remarks) {
+        std::fprintf(stderr, "headunit: %s: %s\n", qUtf8Printable(path), qUtf8Printable(remark));
+    }
+    const QVector<SetupChange> changes = setupChanges(audioStore().values(), file.values);
+    for (const SetupChange &change : changes) {
+        std::printf("%s\n", qUtf8Printable(setupChangeText(change)));
+    }
+    std::printf("%d values changed\n", int(changes.size()));
+    putInForce(file.values, nullptr, nullptr);
+    return flushSettings() ? exitGood : refuse(QStringLiteral("--import %1: the settings cannot be saved").arg(path));
+}
+
+}  // namespace
+
+}  // namespace headunit
+
+extern "C" Q_DECL_EXPORT int headunitSetupJob(const QString *exportTo, const QString *importFrom) {
+    const int result = importFrom->isEmpty() ? 0 : headunit::importSetup(*importFrom);
+    return result != 0 || exportTo->isEmpty() ? result : headunit::exportSetup(*exportTo);
+}

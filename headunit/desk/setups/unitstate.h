@@ -1,0 +1,24 @@
+#pragma once
+
+#include "headunit/audio/service/soundstate.h"
+#include "headunit/settings/settingsmap.h"
+
+namespace headunit {
+
+class DeskHost;
+
+/// Everything that a set-up is: what is stored, and what sounds. The two may differ, as after a reset, which sends
+/// other values than it stores.
+struct UnitState {
+    SettingsMap keys;
+    SoundState sound;
+};
+
+UnitState currentState();
+
+/// Puts settings in force as the unit would at power-up: the keys, the sound, the page in front, the announcement.
+/// \a keys are the ones to change; an invalid value removes one. \a sound is what is to sound, or null for what the
+/// keys say; the source that plays stays, as does the mute. \a host is null where there is no screen.
+void putInForce(const SettingsMap &keys, const SoundState *sound, DeskHost *host);
+
+}  // namespace headunit
