@@ -82,7 +82,7 @@ bool Plugin::open() {
     m_window->onCreate();
     QWidget *const widget = m_window->mainWidget();
     if (!widget) {
-        fail(QStringLiteral("mainWidget() is null after onCreate()"));
+        fail(QStringLiteral("mainWidget() after onCreate(): expected a widget, got null"));
         return false;
     }
     widget->setParent(&m_screen);

@@ -150,8 +150,9 @@ CHECK(fontWidth, "font.fits", "The unit's family is narrow enough for the forms.
         int points, room;
     } places[] = {{"-12", 16, 36}, {"6.3k", 16, 64}, {"Reset audio settings", 24, 420}};
     for (const auto &place : places) {
-        const int width =
-            QFontMetrics(QFont(QApplication::font().family(), place.points)).width(QLatin1String(place.text));
+        QFont font = QApplication::font();
+        font.setPointSize(place.points);
+        const int width = QFontMetrics(font).width(QLatin1String(place.text));
         expectTrue(QStringLiteral("\"%1\" of %2 pt fits into %3 px (it takes %4)")
                        .arg(QLatin1String(place.text))
                        .arg(place.points)

@@ -249,7 +249,7 @@ WRAP(void, language, "_ZN7carunit11setLanguageERK7QString", const QString &code)
     }
 }
 
-WRAP(void, setUp, "_ZN7carunit19setUpApplicationEv", void) {
+WRAP(void, setUp, "_ZN7carunit16setUpApplicationEv", void) {
     REAL(setUp);
     real();
     if (faulty("wide-font")) {

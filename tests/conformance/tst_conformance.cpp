@@ -123,7 +123,6 @@ const struct {
     {"label-without-id", "label.click"},
     {"group-is-0", "label.click"},
     {"label-clicks-outside", "label.leave-is-no-click"},
-    {"label-clicks-outside", "label.disabled"},
     {"label-without-pressed", "label.pictures"},
     {"label-without-disabled", "label.pictures"},
     {"label-takes-qrc-only", "label.paths"},
@@ -250,7 +249,7 @@ void TestConformance::aBadEndIsAResult() {
     QVERIFY2(found.output.contains(QRegularExpression("\nnot ok \\d+ - " + QRegularExpression::escape(check) + ":")),
              qPrintable(found.output));
     QVERIFY2(found.output.contains(said), qPrintable(found.output));
-    QVERIFY2(found.output.count("\nok ") > 3, qPrintable(found.output));
+    QVERIFY2(found.output.count("\nok ") > 2, qPrintable(found.output));
     QCOMPARE(found.output.count("not ok"), 2);  // the line and the summary
 }
 
