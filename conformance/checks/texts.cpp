@@ -102,7 +102,7 @@ CHECK(textForms, "text.forms", "The texts of the forms are translated, too, thro
     unit.setLanguage(unit.otherLanguage);
     pass(0);
     const char *const forms[][2] = {{"Audiosetting_right_general_widget", "Advanced"},
-                                    {"AudiosettingsTop", "Audio Settings"}};
+                                    {"Audiosetting_right_timing_widget", "Front Left 1"}};
     for (const auto &form : forms) {
         const QString translated = QCoreApplication::translate(form[0], form[1]);
         expectTrue(QStringLiteral("\"%1\" of %2 has a translation").arg(QLatin1String(form[1]), QLatin1String(form[0])),
