@@ -104,7 +104,7 @@ QStringList TestPorting::useEverything() {
     finger::tap(visible(&root, "key_defeat"));
 
     Audiosettingsreset reset(nullptr);
-    reset.makeVolumeDefaultEffect();
+    QMetaObject::invokeMethod(&reset, "makeVolumeDefaultEffect");
 
     audiosetting::EQWidget panel;
     show(&panel);
