@@ -27,13 +27,14 @@ public:
 
     /// The curve in force.
     AudioEQType getCurrEQType();
-    /// Selects a curve. \a apply is always true.
+    /// Selects a curve, and keeps it over a restart; the live custom curve stays as it is. \a apply is always true.
     void setEQType(AudioEQType type, bool apply);
 
     /// The value of one band (0 to 12) of the live custom curve, as it was last set.
     int getCustomEq(int band);
-    /// Sets one band (0 to 12) of the live custom curve and keeps it. The value is kept as sent, -12 to 24;
-    /// it sounds as a gain of (value - 12) dB, values below 0 as -12 dB. \a apply is always true.
+    /// Sets one band (0 to 12) of the live custom curve and keeps it, at once, under "eq%1" of the band in the audio
+    /// settings store: the EQ page reads the curve there. The value is kept as sent, -12 to 24; it sounds as a gain of
+    /// (value - 12) dB, values below 0 as -12 dB. The curve in force stays. \a apply is always true.
     void setCustomEq(int value, int band, bool apply);
 
     /// Sets the level (0 to 40) of a volume channel: 0 main, 1 ringtone, 2 phone, 3 navigation, 4 voice,
@@ -43,7 +44,8 @@ public:
     int getSourceVolByType(int type);
 
 Q_SIGNALS:
-    /// The level of channel \a type became \a vol, whoever asked. \a mute is 1 while the unit is muted, else 0.
+    /// The level of channel \a type became \a vol, whoever asked: once for a change, and never when it stays. \a mute
+    /// is 1 while the unit is muted, else 0.
     void audioVolumeChanged(int mute, int vol, int type);
 
 private:

@@ -24,15 +24,19 @@ public:
     /// The new value is read back at once; it is on the disk a moment later, without waiting for it here.
     void setValue(const QString &key, const QVariant &defaultValue, const QVariant &value, bool save);
 
-    /// Restores the factory state of all audio settings from the file at \a path, a path of the unit.
+    /// Restores the factory state of all audio settings from the file at \a path, a path of the unit: keys that the
+    /// file does not name, and all where it is missing, read as their defaults. "eq0" to "eq12" hold 12 (flat)
+    /// afterwards, as on a new unit. Announces no setting: the caller does.
     void clear(const QString &path);
 
-    /// Resets the crossover keys to flat, updates the sound, then emits signal_flatCrossover().
+    /// Sets the fifteen keys of the current filters ("crossover/frontfreq" to "crossover/subwooferslope") to flat,
+    /// updates the sound, then emits signal_flatCrossover(), once. "crossover/type" and the presets stay.
     void flatCrossover();
-    /// Resets the six delays to zero, updates the sound, then emits signal_flatTimeDelay().
+    /// Sets the six delays ("timing/DATA_TYPE%1") to 0, updates the sound, then emits signal_flatTimeDelay(), once.
+    /// "timing/type" and the presets stay.
     void flatTimeDelay();
 
-    /// Applies the stored Defeat state ("ADV_AUDIO_SETTINGS") to the sound.
+    /// Applies the stored Defeat state ("ADV_AUDIO_SETTINGS") to the sound; changes no key.
     void updateDefeatSetup();
 
 Q_SIGNALS:

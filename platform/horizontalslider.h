@@ -5,6 +5,8 @@
 #include <QWidget>
 
 /// The toolkit's horizontal level slider: the knob jumps to the finger anywhere on the widget, in whole steps.
+/// Half a knob is kept free at either end. The pictures of the track lie over the whole width, the filled one left of
+/// the knob.
 class PLATFORM_API HorizontalSlider : public QWidget {
     Q_OBJECT
 public:

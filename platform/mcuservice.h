@@ -7,7 +7,7 @@ namespace mcu {
 /// The unit's microcontroller, which runs the sound processor.
 ///
 /// One object per process, used from the GUI thread. Every operation is fire and forget: a value outside the
-/// range given below is clamped or ignored by the service, which writes one debug line.
+/// range given below is clamped or ignored by the service, which writes one debug line. It writes no key of the pages.
 class PLATFORM_API McuService {
 public:
     static McuService *instance();

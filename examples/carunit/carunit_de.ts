@@ -194,39 +194,12 @@
 <context>
     <name>AudiosettingsTop</name>
     <message>
-        <source>Audio Settings</source>
-        <translation>Audioeinstellungen</translation>
-    </message>
-    <message>
         <source>Flat</source>
         <translation>Linear</translation>
-    </message>
-</context>
-<context>
-    <name>AudiosettingsRoot</name>
-    <message>
-        <source>Loudness</source>
-        <translation>Loudness</translation>
-    </message>
-    <message>
-        <source>Source Gain</source>
-        <translation>Quellenpegel</translation>
-    </message>
-    <message>
-        <source>Volume Settings</source>
-        <translation>Lautstärken</translation>
-    </message>
-    <message>
-        <source>Reset Audio Settings</source>
-        <translation>Audio zurücksetzen</translation>
     </message>
 </context>
 <context>
     <name>Audiosetting_right_eq_widget</name>
-    <message>
-        <source>Flat</source>
-        <translation>Linear</translation>
-    </message>
     <message>
         <source>Preset1</source>
         <translation>Preset 1</translation>
@@ -349,91 +322,10 @@
     </message>
 </context>
 <context>
-    <name>Audiosourcegainsettings</name>
-    <message>
-        <source>Radio</source>
-        <translation>Radio</translation>
-    </message>
-    <message>
-        <source>Android Auto</source>
-        <translation>Android Auto</translation>
-    </message>
-    <message>
-        <source>Apple CarPlay</source>
-        <translation>Apple CarPlay</translation>
-    </message>
-    <message>
-        <source>SiriusXM</source>
-        <translation>SiriusXM</translation>
-    </message>
-    <message>
-        <source>Bluetooth Music</source>
-        <translation>Bluetooth-Musik</translation>
-    </message>
-    <message>
-        <source>USB</source>
-        <translation>USB</translation>
-    </message>
-</context>
-<context>
-    <name>Audiosourcegainsettings_b</name>
-    <message>
-        <source>Radio</source>
-        <translation>Radio</translation>
-    </message>
-    <message>
-        <source>Android Auto</source>
-        <translation>Android Auto</translation>
-    </message>
-    <message>
-        <source>Apple CarPlay</source>
-        <translation>Apple CarPlay</translation>
-    </message>
-    <message>
-        <source>DAB</source>
-        <translation>DAB</translation>
-    </message>
-    <message>
-        <source>Bluetooth Music</source>
-        <translation>Bluetooth-Musik</translation>
-    </message>
-    <message>
-        <source>USB</source>
-        <translation>USB</translation>
-    </message>
-</context>
-<context>
-    <name>Audiosettingsreset</name>
-    <message>
-        <source>Yes, Reset my Audio Settings</source>
-        <translation>Ja, Einstellungen zurücksetzen</translation>
-    </message>
-    <message>
-        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;This will reset all of your audio settings.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
-        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;Alle Audioeinstellungen gehen verloren.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
-    </message>
-    <message>
-        <source>Do you want to proceed?</source>
-        <translation>Möchten Sie fortfahren?</translation>
-    </message>
-    <message>
-        <source>Reset Successful</source>
-        <translation>Erfolgreich zurückgesetzt</translation>
-    </message>
-    <message>
-        <source>Alert</source>
-        <translation>Achtung</translation>
-    </message>
-</context>
-<context>
     <name>eq_adjust_fragment</name>
     <message>
         <source>EQ</source>
         <translation>EQ</translation>
-    </message>
-    <message>
-        <source>Custom</source>
-        <translation>Individuell</translation>
     </message>
     <message>
         <source>32Hz</source>

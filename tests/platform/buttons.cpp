@@ -108,9 +108,9 @@ void LabelButton::setGroupId(int id) {
 
 void LabelButton::paintEvent(QPaintEvent *event) {
     const QUrl &own = d->icons[!isEnabled() ? Disabled : d->down ? NormalOn : NormalOff];
-    QString path = (own.isEmpty() ? d->icons[NormalOff] : own).toString();
-    if (path.startsWith(QLatin1String("qrc:"))) {
-        path.remove(0, 3);
+    QString path = (own.isEmpty() ? d->icons[NormalOff] : own).path();
+    if (!path.startsWith(QLatin1Char(':'))) {
+        path.prepend(QLatin1Char(':'));
     }
     QPainter(this).drawPixmap(rect(), QPixmap(path));
     QLabel::paintEvent(event);
