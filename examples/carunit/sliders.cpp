@@ -146,6 +146,10 @@ ScrollManage::ScrollManage(QScrollArea *area, bool, bool horizontal) : QObject(a
 ScrollManage::~ScrollManage() { delete d; }
 
 bool ScrollManage::eventFilter(QObject *watched, QEvent *event) {
+    // Children come and go as well, and have no position.
+    const bool touch = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove ||
+                       event->type() == QEvent::MouseButtonRelease;
+    if (!touch || !d->area) { return false; }
     QMouseEvent *const mouse = static_cast<QMouseEvent *>(event);
     switch (event->type()) {
         case QEvent::MouseButtonPress:

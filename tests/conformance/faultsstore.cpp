@@ -59,7 +59,7 @@ WRAP(int, storeGetInt, "_ZN18AudioSettingsUtils8getValueERK7QStringi", AudioSett
         return number ? s_written[key].toInt() : defaultValue;
     }
     const int value = real(self, faultyKey(key), defaultValue);
-    return faulty("no-sign") ? qAbs(value) : value;
+    return faulty("no-sign") && value < 0 ? ~value : value;
 }
 
 WRAP(bool, storeGetBool, "_ZN18AudioSettingsUtils8getValueERK7QStringb", AudioSettingsUtils *self, const QString &key,
