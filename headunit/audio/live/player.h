@@ -1,5 +1,6 @@
 #pragma once
 
+#include "deskinput.h"
 #include "fileloop.h"
 #include "generators.h"
 
@@ -18,13 +19,19 @@ namespace headunit {
 /// one other at a time, the rest to one other.
 class Player {
 public:
-    /// \a what is "music", "noise", "sweep", "loudspeakers", "silence", or the name of a sound file. False, with a
-    /// reason in \a error, if it cannot be played. Before the first fill().
+    /// \a what is "music", "noise", "sweep", "loudspeakers", "silence", "desk" (what comes by deskInput()), or the name
+    /// of a sound file. False, with a reason in \a error, if it cannot be played. Before the first fill().
     bool choose(const std::string &what, std::string *error);
 
     void setState(const SoundState &state);
     /// Plays an input's own short sound; the main one has none. Prompts that are active play theirs again and again.
     void chime(engine::Input input) { m_wanted[input] = true; }
+
+    /// Where programs of the desk come in; null for an input that has none.
+    DeskInput *deskInput(engine::Input input) { return m_desk[input].get(); }
+
+    /// How often programs of the desk had too little for the loudspeakers since the last call.
+    unsigned takeDeskDropouts();
 
     /// What was played since the last call, or null if nothing was. The reading stays as it is until the next call.
     const engine::Meters *takeMeters() { return m_meters.take(); }
@@ -40,12 +47,18 @@ private:
     struct Silence {
         void fill(float *, size_t) {}
     };
+    struct Desk {
+        DeskInput *input;
+        void fill(float *stereo, size_t frames);
+    };
 
     void fillBlock(float *out, size_t frames);
+    bool fillPrompt(engine::Input input, size_t frames);
     void publishMeters(engine::Meters reading);
 
     engine::Engine m_engine;
-    std::variant<Silence, Music, PinkNoise, Sweep, LoudspeakerTone, FileLoop> m_source;
+    std::array<std::unique_ptr<DeskInput>, engine::inputCount> m_desk;
+    std::variant<Silence, Desk, Music, PinkNoise, Sweep, LoudspeakerTone, FileLoop> m_source;
     std::array<std::atomic<bool>, engine::inputCount> m_wanted{};
     std::array<std::atomic<bool>, engine::inputCount> m_active{};
     std::array<Chime, engine::inputCount> m_chimes = {Chime(engine::MainInput),  Chime(engine::RingtoneInput),
@@ -53,6 +66,7 @@ private:
                                                       Chime(engine::VoiceInput), Chime(engine::AnnouncementInput),
                                                       Chime(engine::BeepInput)};
     std::array<std::array<float, blockFrames * 2>, engine::inputCount> m_blocks{};
+    std::array<float, blockFrames * 2> m_deskBlock{};
     engine::Meters m_untaken;  ///< what has been played since the readings that were taken
     engine::TripleBuffer<engine::Meters> m_meters;
 };

@@ -1,5 +1,6 @@
 #include "pulseoutput.h"
 
+#include "desksinks.h"
 #include "pulsestream.h"
 
 #include "player.h"
@@ -14,7 +15,7 @@ namespace headunit {
 
 namespace {
 
-constexpr pa_usec_t bufferedTime = 60 * PA_USEC_PER_MSEC;
+constexpr pa_usec_t longestRemoval = 500 * PA_USEC_PER_MSEC;
 constexpr pa_usec_t stallCheck = PA_USEC_PER_SEC;
 
 constexpr char noServer[] = "no sound server answers, so the unit is silent until one does";
@@ -39,6 +40,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
     pa_context *context = nullptr;
     std::atomic<unsigned> dropouts{0};
     std::string defaultDevice;
+    std::string another;                 ///< device than the default one
     std::optional<DevicePlan> plan;      ///< of the stream
     std::optional<DevicePlan> nextPlan;  ///< once the stream has ended
     std::unique_ptr<PulseStream> stream;
@@ -47,6 +49,9 @@ struct PulseOutput::Private final : PulseStream::Listener {
     bool saidStalled = false;
     std::string said;
     LoopTimer retry{[this] { context &&isReady() ? look() : connect(); }};
+    const std::string mark = settings.desk ? DeskSinks::newMark() : std::string();
+    std::optional<DeskSinks> desk;
+    LoopTimer removal{[this] { dropDesk(); }};
     LoopTimer watch{[this] { watchStream(); }};
 
     static Private &self(void *data) { return *static_cast<Private *>(data); }
@@ -64,8 +69,11 @@ struct PulseOutput::Private final : PulseStream::Listener {
         disconnect();
         pa_proplist *const properties = pa_proplist_new();
         pa_proplist_sets(properties, PA_PROP_APPLICATION_NAME, "Head unit");
-        pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, "headunit");
-        pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, "headunit");
+        pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, "com.norvale.headunit");
+        pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, "com.norvale.headunit");
+        if (settings.desk) {
+            pa_proplist_sets(properties, DeskSinks::markProperty, mark.c_str());
+        }
         context = pa_context_new_with_proplist(api(), nullptr, properties);
         pa_proplist_free(properties);
         pa_context_set_state_callback(
@@ -84,6 +92,8 @@ struct PulseOutput::Private final : PulseStream::Listener {
     void disconnect() {
         retry.stop();
         watch.stop();
+        removal.stop();
+        desk.reset();
         stream.reset();
         nextPlan.reset();
         if (context) {
@@ -103,6 +113,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
 
     void serverMissing() {
         say(noServer);
+        dropDesk();
         dropStream();
         tryLater();
     }
@@ -113,8 +124,19 @@ struct PulseOutput::Private final : PulseStream::Listener {
         } else if (isReady()) {
             const int events = PA_SUBSCRIPTION_MASK_SERVER | PA_SUBSCRIPTION_MASK_SINK;
             release(pa_context_subscribe(context, static_cast<pa_subscription_mask_t>(events), nullptr, nullptr));
+            if (settings.desk && !paused) {
+                offerDesk();
+            }
             look();
         }
+    }
+
+    void offerDesk() {
+        DeskInputs inputs{};
+        for (size_t input = 0; input < engine::inputCount; ++input) {
+            inputs[input] = player.deskInput(static_cast<engine::Input>(input));
+        }
+        desk.emplace(context, mark, inputs);
     }
 
     void serverChanged(pa_subscription_event_type_t event, uint32_t index) {
@@ -179,11 +201,38 @@ struct PulseOutput::Private final : PulseStream::Listener {
         }
     }
 
+    /// The default device may be one that a unit offers, so that all programs are heard through it; the unit itself
+    /// plays on another one.
+    void lookForAnother() {
+        another.clear();
+        release(pa_context_get_sink_info_list(
+            context,
+            [](pa_context *, const pa_sink_info *device, int end, void *data) {
+                std::string &name = self(data).another;
+                if (end == 0) {
+                    if (name.empty() && !DeskSinks::isUnits(*device)) {
+                        name = device->name;
+                    }
+                } else if (!name.empty()) {
+                    self(data).lookAt(name);
+                } else {
+                    self(data).deviceMissing();
+                }
+            },
+            this));
+    }
+
     void deviceFound(const pa_sink_info &device) {
-        const DevicePlan found(device, settings.map);
         if (paused) {
             return;
         }
+        if (settings.desk && DeskSinks::isUnits(device)) {
+            if (!stream) {
+                lookForAnother();
+            }
+            return;
+        }
+        const DevicePlan found(device, settings.map);
         if (!stream) {
             open(found);
         } else if (stream->isEnding() || !(found == *plan)) {
@@ -192,13 +241,19 @@ struct PulseOutput::Private final : PulseStream::Listener {
         }
     }
 
+    /// With programs of the desk the stream is never taken anywhere by the server: it could be to a device of the
+    /// unit's own, where the unit would hear itself.
+    PulseStream::Manner manner() const {
+        constexpr pa_usec_t ms = PA_USEC_PER_MSEC;
+        return settings.desk ? PulseStream::Manner{24 * ms, 6 * ms, true}
+                             : PulseStream::Manner{60 * ms, 0, !settings.device.empty()};
+    }
+
     void open(const DevicePlan &found) {
         say(found.remark());
         plan = found;
         moved = moved && found.device != defaultDevice;
-        stream = std::make_unique<PulseStream>(api(), context, found,
-                                               PulseStream::Manner{bufferedTime, !settings.device.empty()}, player,
-                                               dropouts, *this);
+        stream = std::make_unique<PulseStream>(api(), context, found, manner(), player, dropouts, *this);
         if (stream->isGood()) {
             watch.start(api(), context, stallCheck);
         } else {
@@ -212,6 +267,11 @@ struct PulseOutput::Private final : PulseStream::Listener {
             moved = plan->device != defaultDevice;
             lookAt(plan->device);
         }
+    }
+
+    void dropDesk() {
+        desk.reset();
+        pa_threaded_mainloop_signal(loop, 0);
     }
 
     void dropStream() {
@@ -256,6 +316,17 @@ struct PulseOutput::Private final : PulseStream::Listener {
             pa_threaded_mainloop_wait(loop);
         }
     }
+
+    /// Likewise: the programs find no devices any more.
+    void removeDesk() {
+        if (desk) {
+            removal.start(api(), context, longestRemoval);
+            desk->remove([this] { removal.start(api(), context, 0); });
+        }
+        while (desk) {
+            pa_threaded_mainloop_wait(loop);
+        }
+    }
 };
 
 PulseOutput::PulseOutput(Player &player, const Settings &settings) : d(new Private(player, settings)) {
@@ -266,6 +337,9 @@ PulseOutput::PulseOutput(Player &player, const Settings &settings) : d(new Priva
 
 PulseOutput::~PulseOutput() {
     pause();
+    pa_threaded_mainloop_lock(d->loop);
+    d->removeDesk();
+    pa_threaded_mainloop_unlock(d->loop);
     pa_threaded_mainloop_stop(d->loop);
     d->disconnect();
     pa_threaded_mainloop_free(d->loop);
@@ -286,8 +360,8 @@ void PulseOutput::resume() {
     pa_threaded_mainloop_unlock(d->loop);
 }
 
-unsigned PulseOutput::dropouts() const {
-    return d->dropouts;
+unsigned PulseOutput::takeDropouts() {
+    return d->dropouts.exchange(0);
 }
 
 }  // namespace headunit

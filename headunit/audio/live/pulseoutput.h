@@ -20,6 +20,7 @@ public:
     struct Settings {
         std::string device;  ///< the only one to play on, by the server's name of it; empty: the default device
         OutputMap map;       ///< empty: as usual for the device
+        bool desk = false;   ///< offers devices that programs play on, and comes less late for it
         std::chrono::milliseconds retryAfter = std::chrono::seconds(2);  ///< between looks for what is missing
     };
 
@@ -32,8 +33,8 @@ public:
     void pause();
     void resume();
 
-    /// How often the server has had nothing left to play.
-    unsigned dropouts() const;
+    /// How often the server has had nothing left to play since the last call.
+    unsigned takeDropouts();
 
 private:
     struct Private;

@@ -68,6 +68,9 @@ void PulseStream::connect(const DevicePlan &plan, const Manner &manner) {
     pa_buffer_attr buffer;
     buffer.maxlength = buffer.prebuf = buffer.minreq = buffer.fragsize = static_cast<uint32_t>(-1);
     buffer.tlength = static_cast<uint32_t>(pa_usec_to_bytes(manner.bufferedTime, &plan.spec));
+    if (manner.requestTime > 0) {
+        buffer.minreq = static_cast<uint32_t>(pa_usec_to_bytes(manner.requestTime, &plan.spec));
+    }
     // Each loudspeaker is to sound from its own channel, and none from another one that the device may have.
     const int flags = PA_STREAM_ADJUST_LATENCY | PA_STREAM_NO_REMIX_CHANNELS | (manner.stays ? PA_STREAM_DONT_MOVE : 0);
     pa_stream_connect_playback(m_stream, plan.device.c_str(), &buffer, static_cast<pa_stream_flags_t>(flags), nullptr,

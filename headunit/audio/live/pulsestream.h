@@ -28,7 +28,8 @@ public:
     /// What is asked of the server beyond the plan.
     struct Manner {
         pa_usec_t bufferedTime;
-        bool stays;  ///< on its device: rather no sound than on another one
+        pa_usec_t requestTime;  ///< how much the server asks for at a time; 0: as it likes
+        bool stays;             ///< on its device: rather no sound than on another one
     };
 
     /// Begins to play. \a dropouts counts the times when the server had nothing left to play.

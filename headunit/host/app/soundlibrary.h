@@ -18,7 +18,7 @@ struct SoundJob {
 
 /// What sounds on the desk while the unit is shown.
 struct PlayJob {
-    QString what{};    ///< music, noise, sweep, loudspeakers, silence, or a file
+    QString what{};    ///< music, noise, sweep, loudspeakers, silence, desk, or a file
     QString device{};  ///< of the sound server; empty: its default
     QString map{};     ///< the device's channels, "FL=aux0,…" (see parseOutputMap()); empty: as usual for the device
     bool meters = false;  ///< a line a second on standard output says how loud it is

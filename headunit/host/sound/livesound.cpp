@@ -41,6 +41,10 @@ LiveSound::LiveSound(const PlayJob &job, QString *problem) {
     connect(&model, &SoundModel::beeped, this, [this] { m_player.chime(engine::BeepInput); });
     m_player.setState(model.state());  // before the first sample
     PulseOutput::Settings settings;
+    settings.desk = job.what == QLatin1String("desk");
+    if (settings.desk) {
+        followPrograms();
+    }
     settings.device = job.device.toStdString();
     if (!job.map.isEmpty() && !parseOutputMap(job.map.toStdString(), &settings.map, &error)) {
         *problem = QString::fromStdString(error);
@@ -56,6 +60,15 @@ void LiveSound::takeState() {
     m_control.setState(SoundModel::instance().state());
 }
 
+/// Programs change what the state means: what plays steps back for them.
+void LiveSound::followPrograms() {
+    for (size_t input = 0; input < engine::inputCount; ++input) {
+        if (DeskInput *const programs = m_player.deskInput(static_cast<engine::Input>(input))) {
+            programs->setListener([this](bool) { QMetaObject::invokeMethod(this, "takeState", Qt::QueuedConnection); });
+        }
+    }
+}
+
 /// A touch may change many values one after the other.
 void LiveSound::takeStateSoon() {
     if (!m_statePending) {
@@ -68,7 +81,9 @@ void LiveSound::printMeters() {
     constexpr int period = 1000;  // ms
     connect(&m_meterTimer, &QTimer::timeout, this, [this] {
         if (const engine::Meters *const meters = m_player.takeMeters()) {
-            std::printf("%s\n", meterText(*meters).constData());
+            const unsigned dropouts = m_output->takeDropouts() + m_player.takeDeskDropouts();
+            const QByteArray holes = dropouts > 0 ? ", dropouts " + QByteArray::number(dropouts) : QByteArray();
+            std::printf("%s%s\n", meterText(*meters).constData(), holes.constData());
         }
     });
     m_meterTimer.start(period);

@@ -24,6 +24,8 @@ private:
     void takeStateSoon();
     void printMeters();
 
+    void followPrograms();
+
     bool m_statePending = false;
     Player m_player;
     ControlThread m_control{[this](const SoundState &state) { m_player.setState(state); }};

@@ -104,6 +104,15 @@ void SoundServer::hangUp() {
     control(QStringList("load-module") + m_programs.split(' '));
 }
 
+QStringList SoundServer::devices() const {
+    QStringList names;
+    const QStringList devices = control({"list", "short", "sinks"}).split('\n', Qt::SkipEmptyParts);
+    for (const QString &device : devices) {
+        names << column(device, 1);
+    }
+    return names;
+}
+
 QString SoundServer::streams() const {
     QHash<QString, QString> names;
     const QStringList devices = control({"list", "short", "sinks"}).split('\n');

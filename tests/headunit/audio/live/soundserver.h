@@ -29,6 +29,9 @@ public:
     void move(const QString &device);
     /// Ends the connections of programs that came by address(), and takes new ones. For a named socket.
     void hangUp();
+    /// All devices, in the order in which they came.
+    QStringList devices() const;
+
     /// What plays, as "6ch on NAME" or, if its samples are other than floats at 48 kHz, as "s16le 2ch 44100Hz on NAME",
     /// where NAME is the device; joined by commas.
     QString streams() const;
