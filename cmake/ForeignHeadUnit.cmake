@@ -2,7 +2,10 @@
 # headers in include/ (the file names of platform/) and its libraries in lib/: shared ones, under their plain or versioned
 # names, or static ones.
 
-file(GLOB contract RELATIVE ${CMAKE_SOURCE_DIR}/platform ${CMAKE_SOURCE_DIR}/platform/*.h)
+if(NOT audiosetting_contract)
+    set(audiosetting_contract ${CMAKE_SOURCE_DIR}/platform)
+endif()
+file(GLOB contract RELATIVE ${audiosetting_contract} ${audiosetting_contract}/*.h)
 set(missing "")
 foreach(header IN LISTS contract)
     if(NOT EXISTS ${AUDIOSETTING_SDK}/include/${header})

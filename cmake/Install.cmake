@@ -16,17 +16,24 @@ install(FILES ${CMAKE_BINARY_DIR}/lib/plugins/audiosetting@2x.rcc
     DESTINATION ${AUDIOSETTING_PLUGIN_DIR} COMPONENT plugin)
 
 set(dev_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/audiosettings)
+set(dev_kit_dir ${CMAKE_INSTALL_DATADIR}/audiosettings)
 set(dev_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/AudioSettings)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/platform/ DESTINATION ${dev_include_dir}/platform COMPONENT dev
     FILES_MATCHING PATTERN "*.h")
 install(FILES ${CMAKE_SOURCE_DIR}/audiosetting/eq/eqwidget.h DESTINATION ${dev_include_dir} COMPONENT dev)
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/AudioSettingsConfig.cmake.in
     ${CMAKE_BINARY_DIR}/AudioSettingsConfig.cmake
-    INSTALL_DESTINATION ${dev_cmake_dir} PATH_VARS dev_include_dir AUDIOSETTING_PLUGIN_DIR
+    INSTALL_DESTINATION ${dev_cmake_dir} PATH_VARS dev_include_dir dev_kit_dir AUDIOSETTING_PLUGIN_DIR
     NO_CHECK_REQUIRED_COMPONENTS_MACRO)
 write_basic_package_version_file(${CMAKE_BINARY_DIR}/AudioSettingsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_BINARY_DIR}/AudioSettingsConfig.cmake ${CMAKE_BINARY_DIR}/AudioSettingsConfigVersion.cmake
     DESTINATION ${dev_cmake_dir} COMPONENT dev)
+
+# The kit and a sample unit, as sources that build by themselves beside the contract.
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/conformance ${CMAKE_SOURCE_DIR}/platform DESTINATION ${dev_kit_dir} COMPONENT dev)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/examples/carunit DESTINATION ${dev_kit_dir}/examples COMPONENT dev)
+install(FILES ${CMAKE_SOURCE_DIR}/docs/porting.md DESTINATION ${dev_kit_dir} COMPONENT dev)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/ForeignHeadUnit.cmake DESTINATION ${dev_kit_dir}/cmake COMPONENT dev)
 
 file(GLOB documents CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/*)
 install(FILES ${documents} DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/audiosettings/docs COMPONENT doc)

@@ -87,8 +87,20 @@ if(NOT EXISTS ${WORK}/used/response.csv)
     message(FATAL_ERROR "the installed unit left no response")
 endif()
 
-# The dev component serves who has no source tree.
+# The dev component serves who has no source tree: the panel is found, the sample unit builds, and the kit built against
+# that unit finds that it keeps the contract and runs the installed plug-in's pages.
 if(NOT SANITIZE)
+    set(kit ${prefix}/share/audiosettings)
     run(out ${CMAKE_COMMAND} -S ${CONSUMER} -B ${WORK}/used/consumer -G ${GENERATOR} -D CMAKE_PREFIX_PATH=${prefix})
     run(out ${CMAKE_COMMAND} --build ${WORK}/used/consumer)
+    run(out ${CMAKE_COMMAND} -S ${kit}/examples/carunit -B ${WORK}/used/carunit -G ${GENERATOR})
+    run(out ${CMAKE_COMMAND} --build ${WORK}/used/carunit)
+    run(out ${CMAKE_COMMAND} -S ${kit}/conformance -B ${WORK}/used/conformance -G ${GENERATOR}
+        -D AUDIOSETTING_SDK=${WORK}/used/carunit/carunit-sdk)
+    run(out ${CMAKE_COMMAND} --build ${WORK}/used/conformance)
+    run(out ${WORK}/used/conformance/audiosetting-conformance --list)
+    if(NOT out MATCHES "eq.band-in-store")
+        message(FATAL_ERROR "the installed kit lists: ${out}")
+    endif()
+    run(out ${WORK}/used/conformance/audiosetting-conformance --only eq.band-in-store)
 endif()
