@@ -59,7 +59,7 @@ QPixmap backgroundBehind(const QWidget *widget) {
         return QPixmap();
     }
     const QRect place(widget->mapTo(ancestor, QPoint()), widget->size());
-    const qreal ratio = widget->devicePixelRatio();
+    const qreal ratio = displayDensity();
     QImage background(place.size() * ratio, QImage::Format_RGB32);
     background.setDevicePixelRatio(ratio);
     QPainter painter(&background);

@@ -63,6 +63,10 @@ void Audiosetting_right_crossover_widget::initUi() {
     m_ui->label_bg->setAttribute(Qt::WA_OpaquePaintEvent);
     m_ui->frame_3->setGround(picture("crossover_graph"));
 
+    showPicture({m_ui->label_bg}, "crossover_graph");
+    showPicture({m_ui->label_keybg}, "crossover_channels_bg");
+    showPicture({m_ui->label_slope_bg, m_ui->label_freq_bg, m_ui->label_level_bg}, "value_bg");
+
     // They lie over the channel keys.
     QLabel *const captions[] = {m_ui->txt_front1, m_ui->txt_rear, m_ui->txt_sub};
     for (QLabel *caption : captions) {

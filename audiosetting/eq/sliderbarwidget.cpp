@@ -1,6 +1,7 @@
 #include "sliderbarwidget.h"
 
 #include "base/colours.h"
+#include "base/picture.h"
 
 #include <QEvent>
 #include <QImage>
@@ -30,7 +31,7 @@ template <class Draw> QPixmap sharedPicture(const QString &key, const QSize &siz
         picture.setDevicePixelRatio(ratio);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         draw(painter);
         painter.end();
         QPixmapCache::insert(key, picture);
@@ -171,7 +172,7 @@ void SliderBarWidget::paintBar(QPainter &painter) {
         drawBar(painter, QRect(x, m_currentPoint, m_barWidth, barHeight));
         return;
     }
-    const qreal ratio = devicePixelRatio();
+    const qreal ratio = audiosetting::displayDensity();
     const QSize size(m_barWidth, height());
     if (m_bar.size() != size * ratio) {
         const QString key =
@@ -195,7 +196,7 @@ const QPixmap &SliderBarWidget::knob() {
     }
     QPixmap &picture = m_knobs[index];
     const QSize size = knobSize();
-    const qreal ratio = devicePixelRatio();
+    const qreal ratio = audiosetting::displayDensity();
     if (picture.size() != size * ratio && !size.isEmpty()) {
         QFont numberFont = font();
         numberFont.setPointSize(numberPointSize);

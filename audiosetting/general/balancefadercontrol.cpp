@@ -126,7 +126,7 @@ QRect balanceFaderControl::markerRect() const {
 }
 
 const QPixmap &balanceFaderControl::still() {
-    const qreal ratio = devicePixelRatio();
+    const qreal ratio = audiosetting::displayDensity();
     if (m_still.size() != size() * ratio) {
         m_still = audiosetting::backgroundBehind(this);
         if (m_still.isNull()) {

@@ -3,6 +3,7 @@
 #include "audioservice.h"
 #include "base/buttongroup.h"
 #include "base/debuglog.h"
+#include "base/picture.h"
 #include "base/presetkey.h"
 #include "delayunits.h"
 #include "mcuservice.h"
@@ -65,6 +66,16 @@ void Audiosetting_right_timing_widget::initUi() {
     // They lie over the unit keys.
     m_ui->txt_msec->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_ui->txt_inches->setAttribute(Qt::WA_TransparentForMouseEvents);
+
+    showPicture({m_ui->label_bg}, "timing_cabin");
+    showPicture({m_ui->label_fl_horn, m_ui->label_rl_horn}, "timing_horn_left");
+    showPicture({m_ui->label_fr_horn, m_ui->label_rr_horn}, "timing_horn_right");
+    showPicture({m_ui->label_sl_horn}, "timing_sub_left");
+    showPicture({m_ui->label_sr_horn}, "timing_sub_right");
+    showPicture({m_ui->label_slope_bg, m_ui->label_slope_bg_2, m_ui->label_slope_bg_3, m_ui->label_slope_bg_4,
+                 m_ui->label_slope_bg_5, m_ui->label_slope_bg_6},
+                "value_bg");
+    showPicture({m_ui->txt_bg}, "timing_unit_bg");
 
     m_unitGroup = new QButtonGroup(this);
     m_unitGroup->addButton(m_ui->key_msec, Milliseconds);

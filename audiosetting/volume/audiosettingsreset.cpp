@@ -2,6 +2,7 @@
 
 #include "audioservice.h"
 #include "audiosettingsutils.h"
+#include "base/picture.h"
 #include "base/texts.h"
 #include "crossover/crossoversettings.h"
 #include "eq/eqsettings.h"
@@ -134,6 +135,7 @@ void Audiosettingsreset::initUi() {
         font.setBold(text.bold || font.bold());
         text.label->setFont(font);
     }
+    showPicture({m_ui->reset_bg}, "audio_reset_bg");
     m_question << m_ui->reset_bg << m_ui->Key_Reject << m_ui->Txt_accept << m_ui->Key_accept << m_ui->txt_Title
                << m_ui->Txt_0012_item_01 << m_ui->Txt_0012_item_04;
 }

@@ -2,8 +2,28 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QPixmapCache>
 
 namespace headunit {
+
+namespace {
+
+constexpr qreal denseRatio = 2;
+
+/// The dense picture made for a display of another density, once: a painter would drop some of its lines.
+QPixmap fitted(const QString &path, qreal ratio) {
+    const QString key = QStringLiteral("headunit/fitted/%1/%2").arg(path).arg(ratio);
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        const QPixmap dense(path);
+        picture = dense.scaled(dense.size() * (ratio / denseRatio), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        picture.setDevicePixelRatio(ratio);
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
+}
+
+}  // namespace
 
 QString picturePath(const QUrl &url) {
     if (url.scheme() == QLatin1String("qrc")) {
@@ -16,12 +36,13 @@ QPixmap loadPicture(const QString &path) {
     if (path.isEmpty()) {
         return QPixmap();
     }
-    if (qApp->devicePixelRatio() > 1.0) {
+    const qreal ratio = qApp->devicePixelRatio();
+    if (ratio > 1) {
         QString dense = path;
         const int dot = dense.lastIndexOf(QLatin1Char('.'));
         dense.insert(dot < 0 ? dense.size() : dot, QStringLiteral("@2x"));
         if (QFile::exists(dense)) {
-            return QPixmap(dense);
+            return ratio == denseRatio ? QPixmap(dense) : fitted(dense, ratio);
         }
     }
     return QPixmap(path);

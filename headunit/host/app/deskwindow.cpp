@@ -8,13 +8,19 @@
 #include "translator.h"
 
 #include <QCoreApplication>
+#include <QIcon>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPaintEvent>
 #include <QWindow>
 
 namespace headunit {
 
 namespace {
 
+// Where the parts of the unit stand in it.
+constexpr QRect screenPlace(0, 0, look::screenWidth, look::screenHeight);
+constexpr QRect hardKeysPlace(look::screenWidth, 0, HardKeys::stripWidth, look::screenHeight);
 constexpr QRect deskKeyPlace(look::screenWidth, 566, HardKeys::stripWidth, 30);  // in the space below the last hard key
 
 /// The hard key that a key of the desk's keyboard stands for; 0: none.
@@ -42,17 +48,37 @@ int hardKeyOf(int key) {
 
 }  // namespace
 
-DeskWindow::DeskWindow()
-    : m_screen(new QWidget(this)),
-      m_hardKeys(new HardKeys(QRect(look::screenWidth, 0, HardKeys::stripWidth, look::screenHeight), this)),
-      m_deskKey(new DeskKey(this)) {
+DeskWindow::DeskWindow(Size size)
+    : m_screen(new QWidget(this)), m_hardKeys(new HardKeys(hardKeysPlace, this)), m_deskKey(new DeskKey(this)) {
     setWindowTitle(QStringLiteral("Head unit"));
-    setFixedSize(look::screenWidth + HardKeys::stripWidth, look::screenHeight);
+    setWindowIcon(QIcon(QStringLiteral(":/headunit/icon.png")));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    if (size == Size::Fixed) {
+        setFixedSize(unitSize());
+    } else {
+        resize(unitSize());
+    }
     m_screen->setObjectName(QStringLiteral("screen"));
-    m_screen->setGeometry(0, 0, look::screenWidth, look::screenHeight);
+    m_screen->setGeometry(screenPlace);
     m_deskKey->setGeometry(deskKeyPlace);
     m_deskKey->setAccessibleName(Translator::translate(texts::tunersDesk));
     connect(m_deskKey, &QAbstractButton::clicked, this, &DeskWindow::deskWanted);
+}
+
+QSize DeskWindow::unitSize() {
+    return {look::screenWidth + HardKeys::stripWidth, look::screenHeight};
+}
+
+void DeskWindow::resizeEvent(QResizeEvent *) {
+    const QSize room = (size() - unitSize()).expandedTo(QSize(0, 0));
+    const QPoint origin(room.width() / 2, room.height() / 2);
+    m_screen->move(origin + screenPlace.topLeft());
+    m_hardKeys->move(origin + hardKeysPlace.topLeft());
+    m_deskKey->move(origin + deskKeyPlace.topLeft());
+}
+
+void DeskWindow::paintEvent(QPaintEvent *event) {
+    QPainter(this).fillRect(event->rect(), look::bezel);
 }
 
 void DeskWindow::showEvent(QShowEvent *) {

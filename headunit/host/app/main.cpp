@@ -1,6 +1,7 @@
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/host/app/deskscripttarget.h"
 #include "headunit/host/app/deskwindow.h"
+#include "headunit/host/app/displayscale.h"
 #include "headunit/host/app/endsignals.h"
 #include "headunit/host/app/hostapplication.h"
 #include "headunit/host/app/hostlibrary.h"
@@ -20,12 +21,14 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTime>
 #include <QTimer>
 
 #include <cstdio>
 #include <memory>
+#include <vector>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -37,6 +40,7 @@ namespace {
 constexpr int exitGood = 0;
 constexpr int exitUnusable = 2;
 constexpr int exitSignal = 128;  // plus the number of the signal that cut a script short
+constexpr double unitDotsPerInch = 96;
 
 // The time that the status bar shows wherever pictures must be the same at every run.
 const char fixedTime[] = "10:08";
@@ -91,6 +95,26 @@ void fallBackToTour(Options *options) {
 /// Whether the display that the environment names did not answer and Qt took the second choice.
 bool displayFailed() {
     return QGuiApplication::platformName() == QLatin1String(offscreen) && qgetenv("QT_QPA_PLATFORM") != offscreen;
+}
+
+/// The scale that this display needs, where the command line names none.
+double neededScale(const Options &options) {
+    const QScreen *const display = QGuiApplication::primaryScreen();
+    if (!display) {
+        return 1;
+    }
+    return options.fullscreen ? fittingScale(display->size(), DeskWindow::unitSize())
+                              : deskScale(display->logicalDotsPerInch());
+}
+
+/// Starts this program anew at that scale: Qt asks for it once, before the display is known.
+int restartScaled(double scale, int argc, char **argv) {
+    QByteArray option = "--scale=" + QByteArray::number(scale);
+    std::vector<char *> arguments(argv, argv + argc);
+    arguments.insert(arguments.begin() + 1, option.data());
+    arguments.push_back(nullptr);
+    execv("/proc/self/exe", arguments.data());
+    return refuse(QStringLiteral("the program cannot be started again"));
 }
 
 /// Starts this program anew as on a machine without a display: virtual time must stand before the application object.
@@ -157,7 +181,7 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
         return refuse(QStringLiteral("--open %1: there is no application of that name").arg(options.open));
     }
 
-    DeskWindow window;
+    DeskWindow window(options.fullscreen ? DeskWindow::Size::Any : DeskWindow::Size::Fixed);
     const bool fixed = moveTime != nullptr;
     Unit unit(catalog, window.screen(), [fixed] {
         return fixed ? QString::fromLatin1(fixedTime) : QTime::currentTime().toString(QStringLiteral("HH:mm"));
@@ -177,7 +201,11 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
     if (options.exitWhenShown) {
         QObject::connect(&window, &DeskWindow::exposed, &application, &QCoreApplication::quit, Qt::QueuedConnection);
     }
-    window.show();
+    if (options.fullscreen) {
+        window.showFullScreen();
+    } else {
+        window.show();
+    }
     TunersDesk desk(window, unit);
     if (options.desk) {
         QTimer::singleShot(0, &desk, [&desk] { desk.open(); });  // after the first screen
@@ -231,13 +259,19 @@ int main(int argc, char **argv) {
     // Lines must not be lost, nor change their order, when the process is ended from outside.
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
     QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, options.verbose);
-    if (options.scale != 1) {
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
-    }
     const bool providedRuntimeFolder = provideRuntimeFolder();
     prepareUnitApplication();
+    const bool offscreenPlatform = qgetenv("QT_QPA_PLATFORM") == offscreen;
+    bool measuresDisplay = false;
+    if (options.scale != 0) {
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+    } else if (options.fullscreen || (!offscreenPlatform && qEnvironmentVariableIsEmpty("QT_SCALE_FACTOR"))) {
+        measuresDisplay = true;
+        qunsetenv("QT_SCALE_FACTOR");
+        qunsetenv("QT_FONT_DPI");  // it would be taken for the desk's
+    }
     MoveTime moveTime = nullptr;
-    if (options.scripted() && qgetenv("QT_QPA_PLATFORM") == offscreen) {
+    if (options.scripted() && offscreenPlatform && !measuresDisplay) {
         QString reason;
         const auto start =
             reinterpret_cast<StartVirtualTime>(hostFunction("virtualtime", startVirtualTimeName, &reason));
@@ -246,13 +280,22 @@ int main(int argc, char **argv) {
         }
         moveTime = start();
     }
-    HostApplication application(argc, argv);
+    auto application = std::make_unique<HostApplication>(argc, argv);
     if (providedRuntimeFolder) {
         qunsetenv(runtimeFolder);  // the sound server would be looked for in it, and in no other place
     }
     if (displayFailed()) {
         return restartWithoutDisplay(argv);
     }
+    if (measuresDisplay) {
+        const double scale = neededScale(options);
+        const QScreen *const display = QGuiApplication::primaryScreen();
+        if (scale != 1 || offscreenPlatform || (display && display->logicalDotsPerInch() != unitDotsPerInch)) {
+            application.reset();  // the display is free again
+            return restartScaled(scale, argc, argv);
+        }
+    }
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.norvale.headunit"));
     setUpUnitApplication();
 
     // The tour shows the unit as it leaves the factory, and leaves the user's settings alone.
@@ -268,7 +311,7 @@ int main(int argc, char **argv) {
         tracePrinter = std::make_unique<TraceListener>(printTrace, TraceListener::WithReads);
     }
     const int result = options.setupJob()           ? doSetupJob(options.exportTo, options.importFrom)
-                       : options.soundJob.isEmpty() ? runUnit(options, application, moveTime)
+                       : options.soundJob.isEmpty() ? runUnit(options, *application, moveTime)
                                                     : runSoundJob(options.soundJob);
     tracePrinter.reset();
     closeSettings();

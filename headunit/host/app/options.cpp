@@ -16,13 +16,15 @@ struct OptionRow {
     const char *name;
     const char *value;  ///< what the value is called in the help; null for a flag
     const char *description;
+    const char *letter = nullptr;  ///< a shorter name
 };
 
 constexpr OptionRow optionRows[] = {
-    {"help", nullptr, "Print this help."},
-    {"version", nullptr, "Print the version."},
+    {"help", nullptr, "Print this help.", "h"},
+    {"version", nullptr, "Print the version.", "v"},
     {"root", "DIR", "Folder that stands for the unit's file system. Default: a folder below your user data."},
-    {"scale", "N", "Size of the screen on dense displays. Default: 1."},
+    {"scale", "N", "Size of the screen on dense displays. Default: as the desk's own, full screen as large as fits."},
+    {"fullscreen", nullptr, "Fill the display."},
     {"language", "xx", "Language: en, de, fr, es or ja. Default: the one last chosen, at first English."},
     {"open", "NAME", "Open an application at once, for example audiosetting."},
     {"script", "FILE.js", "Run a script (JavaScript) and end with its result."},
@@ -49,8 +51,12 @@ void setUp(QCommandLineParser &parser) {
     parser.setApplicationDescription(
         QStringLiteral("A car's head unit on the desk: loads applications and shows them on a 1024 x 600 screen."));
     for (const OptionRow &row : optionRows) {
-        parser.addOption(QCommandLineOption(QString::fromLatin1(row.name), QString::fromLatin1(row.description),
-                                            QString::fromLatin1(row.value)));
+        QStringList names(QString::fromLatin1(row.name));
+        if (row.letter) {
+            names.prepend(QString::fromLatin1(row.letter));
+        }
+        parser.addOption(
+            QCommandLineOption(names, QString::fromLatin1(row.description), QString::fromLatin1(row.value)));
     }
     parser.addPositionalArgument(QStringLiteral("plugins"),
                                  QStringLiteral("Applications to load. Default: the one built beside this program."),
@@ -129,6 +135,7 @@ ParsedOptions parseOptions(const QStringList &arguments) {
     if (parser.isSet(QStringLiteral("scale"))) {
         options.scale = parser.value(QStringLiteral("scale")).toDouble();
     }
+    options.fullscreen = parser.isSet(QStringLiteral("fullscreen"));
     options.language = parser.value(QStringLiteral("language"));
     options.open = parser.value(QStringLiteral("open"));
     options.script = parser.value(QStringLiteral("script"));

@@ -11,7 +11,8 @@ namespace headunit {
 struct Options {
     QStringList plugins;         ///< files to load; empty: the one built beside the host
     QString root;                ///< folder that stands for the unit's file system; empty: below the user's data
-    double scale = 1;            ///< size of a screen pixel on the desk
+    double scale = 0;            ///< size of a screen pixel on the desk; 0: the desk's own, or as large as fits
+    bool fullscreen = false;     ///< fill the display
     QString language;            ///< language code; empty: the one last chosen
     QString open;                ///< application to open at once; empty: the home screen
     QString script;              ///< script to run

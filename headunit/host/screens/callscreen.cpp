@@ -7,7 +7,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QPixmap>
 
 namespace headunit {
 
@@ -32,10 +31,7 @@ CallScreen::CallScreen(QWidget *parent) : QWidget(parent) {
 void CallScreen::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     look::paintGround(painter, rect());
-    const QPixmap picture(look::picture(QStringLiteral("call")));
-    QRect place(QPoint(), picture.size() / picture.devicePixelRatio());
-    place.moveCenter(pictureArea.center());
-    painter.drawPixmap(place.topLeft(), picture);
+    look::paintPicture(painter, pictureArea, QStringLiteral("call"));
     painter.setPen(colour::text);
     painter.drawText(captionArea, Qt::AlignCenter, Translator::translate(texts::callInProgress));
 }

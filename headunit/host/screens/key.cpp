@@ -6,7 +6,6 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPixmap>
 
 namespace headunit {
 
@@ -59,16 +58,13 @@ void Key::paintEvent(QPaintEvent *) {
     }
     QRect textArea = rect().adjusted(barInset, 0, -barInset, 0);
     if (!m_picture.isEmpty()) {
-        const QPixmap pixmap(look::picture(m_picture + (lit ? QLatin1String("_p") : QLatin1String("_n"))));
-        const QSize size = pixmap.size() / pixmap.devicePixelRatio();
         QRect area = rect();
         if (!caption().isEmpty()) {
             area.setHeight(height() - captionBelowPicture);
             textArea.setTop(area.bottom());
             textArea.setHeight(captionBelowPicture - barInset);
         }
-        painter.drawPixmap(area.x() + (area.width() - size.width()) / 2, area.y() + (area.height() - size.height()) / 2,
-                           pixmap);
+        look::paintPicture(painter, area, m_picture + (lit ? QLatin1String("_p") : QLatin1String("_n")));
     }
     painter.setPen(!isEnabled() ? colour::disabledText : lit ? look::litText : colour::text);
     painter.drawText(textArea, Qt::AlignCenter, caption());

@@ -5,7 +5,6 @@
 #include "translator.h"
 
 #include <QPainter>
-#include <QPixmap>
 
 namespace headunit {
 
@@ -15,6 +14,7 @@ constexpr QRect place(212, 24, 600, 96);
 constexpr QRect nameArea(28, 0, 190, 96);
 constexpr QRect trackArea(224, 42, 280, 12);
 constexpr QRect valueArea(516, 0, 60, 96);
+constexpr QRect muteArea(528, 0, 48, 96);
 
 }  // namespace
 
@@ -47,10 +47,7 @@ void LevelOverlay::paintEvent(QPaintEvent *) {
     painter.drawText(nameArea, Qt::AlignLeft | Qt::AlignVCenter, Translator::translate(m_nameTextId));
     painter.setFont(look::font(look::valuePixels));
     if (m_muted) {
-        const QPixmap crossedLoudspeaker(look::picture(QStringLiteral("mute_n")));
-        const QSize size = crossedLoudspeaker.size() / crossedLoudspeaker.devicePixelRatio();
-        painter.drawPixmap(valueArea.right() + 1 - size.width(), valueArea.center().y() - size.height() / 2,
-                           crossedLoudspeaker);
+        look::paintPicture(painter, muteArea, QStringLiteral("mute_n"));
     } else {
         painter.drawText(valueArea, Qt::AlignRight | Qt::AlignVCenter, QString::number(m_level));
     }

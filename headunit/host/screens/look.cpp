@@ -1,5 +1,7 @@
 #include "headunit/host/screens/look.h"
 
+#include "headunit/toolkit/picture.h"
+
 #include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
@@ -55,8 +57,11 @@ void paintKey(QPainter &painter, const QRect &rect, KeyState state) {
     painter.drawRoundedRect(QRectF(rect).adjusted(keyInset, keyInset, -keyInset, -keyInset), keyRadius, keyRadius);
 }
 
-QString picture(const QString &name) {
-    return QStringLiteral(":/headunit/") + name + QStringLiteral(".png");
+void paintPicture(QPainter &painter, const QRect &area, const QString &name) {
+    const QPixmap picture = loadPicture(QStringLiteral(":/headunit/") + name + QStringLiteral(".png"));
+    const QSize size = pictureSize(picture);
+    painter.drawPixmap(area.x() + (area.width() - size.width()) / 2, area.y() + (area.height() - size.height()) / 2,
+                       picture);
 }
 
 }  // namespace look

@@ -36,8 +36,8 @@ QFont font(int pixels);
 void paintGround(QPainter &painter, const QRect &rect);
 /// A raised key.
 void paintKey(QPainter &painter, const QRect &rect, KeyState state);
-/// Path of one of the host's pictures.
-QString picture(const QString &name);
+/// Paints one of the host's pictures in the middle of an area, as dense as the display.
+void paintPicture(QPainter &painter, const QRect &area, const QString &name);
 
 }  // namespace look
 

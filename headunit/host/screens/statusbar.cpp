@@ -5,7 +5,6 @@
 
 #include <QEvent>
 #include <QPainter>
-#include <QPixmap>
 
 #include <utility>
 
@@ -45,10 +44,8 @@ void StatusBar::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     look::paintGround(painter, rect());
     QRect area = rect().adjusted(look::margin, 0, -look::margin, 0);
-    const int pictureTop = (height() - pictureSize) / 2;
     if (m_silent) {
-        const QPixmap crossedLoudspeaker(look::picture(QStringLiteral("status_silent")));
-        painter.drawPixmap(area.left(), pictureTop, crossedLoudspeaker);
+        look::paintPicture(painter, QRect(area.left(), 0, pictureSize, height()), QStringLiteral("status_silent"));
         area.setLeft(area.left() + pictureSize + look::gap);
     }
     painter.setPen(look::softText);
@@ -56,8 +53,7 @@ void StatusBar::paintEvent(QPaintEvent *) {
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, Translator::translate(m_sourceTextId));
     }
     if (m_callActive) {
-        const QPixmap phone(look::picture(QStringLiteral("status_call")));
-        painter.drawPixmap((width() - pictureSize) / 2, pictureTop, phone);
+        look::paintPicture(painter, rect(), QStringLiteral("status_call"));
     }
     painter.setPen(colour::text);
     painter.drawText(area, Qt::AlignRight | Qt::AlignVCenter, m_time);

@@ -16,6 +16,8 @@ private Q_SLOTS:
     void init();
     void cleanup() { m_window.reset(); }
     void geometry();
+    void middleOfALargerWindow_data();
+    void middleOfALargerWindow();
     void exposedOnce();
     void keyboard_data();
     void keyboard();
@@ -39,6 +41,35 @@ void TestDeskWindow::geometry() {
     QCOMPARE(m_window->height(), 600);
     QVERIFY(!m_window->hardKeys()->geometry().intersects(m_window->screen()->geometry()));
     QVERIFY(m_window->rect().contains(m_window->hardKeys()->geometry()));
+}
+
+void TestDeskWindow::middleOfALargerWindow_data() {
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<QPoint>("origin");
+    QTest::newRow("larger") << QSize(1336, 800) << QPoint(100, 100);
+    QTest::newRow("higher") << QSize(1136, 639) << QPoint(0, 19);
+    // What does not fit is cut off on the right and below.
+    QTest::newRow("smaller") << QSize(1000, 500) << QPoint(0, 0);
+}
+
+void TestDeskWindow::middleOfALargerWindow() {
+    QFETCH(QSize, size);
+    QFETCH(QPoint, origin);
+    headunit::DeskWindow window(headunit::DeskWindow::Size::Any);
+    window.show();
+    QCOMPARE(window.size(), QSize(1136, 600));
+    window.resize(size);
+    headunit::VirtualTime::instance()->advance(0);
+    QCOMPARE(window.screen()->geometry(), QRect(origin, QSize(1024, 600)));
+    QCOMPARE(window.hardKeys()->geometry(), QRect(origin + QPoint(1024, 0), QSize(112, 600)));
+    QCOMPARE(window.findChild<QWidget *>("key_desk")->pos(), origin + QPoint(1024, 566));
+    const QImage seen = window.grab().toImage();
+    const QRgb bezel = qRgb(0x05, 0x06, 0x08);
+    for (const QPoint &corner : {QPoint(0, 0), QPoint(size.width() - 1, size.height() - 1)}) {
+        if (!QRect(origin, QSize(1136, 600)).contains(corner)) {
+            QCOMPARE(seen.pixel(corner), bezel);
+        }
+    }
 }
 
 void TestDeskWindow::exposedOnce() {

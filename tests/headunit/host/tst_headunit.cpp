@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <cmath>
 #include <csignal>
 
 #include <sys/resource.h>
@@ -34,6 +35,8 @@ private Q_SLOTS:
     void openWithAFailedPlugin();
     void exitWhenShown();
     void scale();
+    void densePictures();
+    void fullscreen();
     void scriptResults_data();
     void scriptResults();
     void scriptsImportOthers();
@@ -104,16 +107,20 @@ TestHeadunit::Result TestHeadunit::run(const QStringList &arguments, const QStri
 }
 
 void TestHeadunit::help() {
-    const Result result = run({"--help"});
-    QCOMPARE(result.code, 0);
-    QVERIFY(result.out.contains("--script"));
-    QCOMPARE(result.err, QString());
+    for (const char *option : {"--help", "-h"}) {
+        const Result result = run({option});
+        QCOMPARE(result.code, 0);
+        QVERIFY(result.out.contains("--script"));
+        QCOMPARE(result.err, QString());
+    }
 }
 
 void TestHeadunit::version() {
-    const Result result = run({"--version"});
-    QCOMPARE(result.code, 0);
-    QCOMPARE(result.out, QStringLiteral("headunit " HEADUNIT_VERSION "\n"));
+    for (const char *option : {"--version", "-v"}) {
+        const Result result = run({option});
+        QCOMPARE(result.code, 0);
+        QCOMPARE(result.out, QStringLiteral("headunit " HEADUNIT_VERSION "\n"));
+    }
 }
 
 void TestHeadunit::wrongCommandLine_data() {
@@ -243,6 +250,72 @@ void TestHeadunit::scale() {
         QVERIFY2(result.code == 0, qPrintable(result.err));
         QCOMPARE(QImage(m_folder->filePath("car.png")).size(), QSize(1024, 600) * QByteArray(scale).toDouble());
     }
+}
+
+namespace {
+
+// Every screen with pictures that no icon shows.
+const char visitPictures[] =
+    "function use(place) { tap(place); wait(400); }\n"
+    "shot('home.png'); use('hardkey_mute'); shot('muted.png'); use('hardkey_mute'); use('tile_car');"
+    "use('car_call'); shot('call.png'); use('call_end'); open('audiosetting'); wait(400);"
+    "use('key_timing'); shot('timing.png'); use('key_crossover'); shot('crossover.png');";
+
+struct PicturePlace {
+    const char *what;
+    const char *screen;
+    QRect place;
+};
+const PicturePlace picturePlaces[] = {
+    {"tile", "home.png", {136, 208, 144, 144}},
+    {"crossed loudspeaker", "muted.png", {32, 8, 32, 32}},
+    {"mute beside the level", "muted.png", {740, 40, 48, 64}},
+    {"telephone", "call.png", {452, 148, 120, 120}},
+    {"call sign", "call.png", {496, 8, 32, 32}},
+    {"cabin", "timing.png", {500, 236, 152, 180}},
+    {"horn", "timing.png", {418, 234, 38, 34}},
+    {"subwoofer", "timing.png", {696, 524, 38, 32}},
+    {"plate of a value", "timing.png", {164, 212, 14, 14}},
+    {"plate of the units", "timing.png", {434, 140, 14, 14}},
+    {"sweep", "crossover.png", {330, 402, 530, 26}},
+    {"plate of the channels", "crossover.png", {136, 136, 14, 14}},
+    {"plate of the slope", "crossover.png", {156, 496, 14, 14}},
+};
+
+/// Whether each pixel of a picture became two equal ones side by side, but for the grain of the ground.
+bool isPixelDoubled(const QImage &image) {
+    constexpr int grain = 8;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x + 1 < image.width(); x += 2) {
+            if (std::abs(qGray(image.pixel(x, y)) - qGray(image.pixel(x + 1, y))) > grain) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+}  // namespace
+
+void TestHeadunit::densePictures() {
+    const Result result = run({"--scale", "2", "--script", write("s.js", visitPictures)});
+    QVERIFY2(result.code == 0, qPrintable(result.err));
+    for (const PicturePlace &row : picturePlaces) {
+        const QImage screen(m_folder->filePath(QString::fromLatin1(row.screen)));
+        QVERIFY2(!isPixelDoubled(screen.copy(QRect(row.place.topLeft() * 2, row.place.size() * 2))), row.what);
+    }
+}
+
+void TestHeadunit::fullscreen() {
+    // The display of this platform has 800 x 800 pixels: 0.704 of the unit's width.
+    const QString script = write("s.js", "tap('tile_car'); expect('car', 'visible', true); shot('car.png');");
+    Result result = run({"--fullscreen", "--script", script});
+    QVERIFY2(result.code == 0, qPrintable(result.err));
+    QCOMPARE(QImage(m_folder->filePath("car.png")).size(), QSize(721, 422));
+    // A scale that was asked for holds.
+    result = run({"--fullscreen", "--scale", "0.5", "--script", script});
+    QVERIFY2(result.code == 0, qPrintable(result.err));
+    QCOMPARE(QImage(m_folder->filePath("car.png")).size(), QSize(512, 300));
 }
 
 void TestHeadunit::scriptResults_data() {

@@ -10,6 +10,8 @@ private Q_SLOTS:
     void defaults();
     void values();
     void sound();
+    void letters();
+    void fullscreen();
     void soundJobs();
     void refuses_data();
     void refuses();
@@ -21,7 +23,7 @@ void TestOptions::defaults() {
     QCOMPARE(parsed.error, QString());
     QCOMPARE(parsed.options.plugins, QStringList());
     QCOMPARE(parsed.options.root, QString());
-    QCOMPARE(parsed.options.scale, 1.0);
+    QCOMPARE(parsed.options.scale, 0.0);  // as the display asks
     QCOMPARE(parsed.options.language, QString());
     QCOMPARE(parsed.options.open, QString());
     QVERIFY(!parsed.options.scripted());
@@ -65,6 +67,19 @@ void TestOptions::sound() {
     QCOMPARE(job.device, QStringLiteral("car"));
     QCOMPARE(job.map, QStringLiteral("FL=aux0,SR=lfe"));
     QVERIFY(job.meters);
+}
+
+void TestOptions::letters() {
+    QVERIFY(parseOptions({QStringLiteral("headunit"), QStringLiteral("-h")}).options.help);
+    QVERIFY(parseOptions({QStringLiteral("headunit"), QStringLiteral("-v")}).options.version);
+}
+
+void TestOptions::fullscreen() {
+    const headunit::Options options =
+        parseOptions({QStringLiteral("headunit"), QStringLiteral("--fullscreen")}).options;
+    QVERIFY(options.fullscreen);
+    QCOMPARE(options.scale, 0.0);  // as large as fits
+    QVERIFY(!parseOptions({QStringLiteral("headunit")}).options.fullscreen);
 }
 
 void TestOptions::soundJobs() {
@@ -130,25 +145,11 @@ void TestOptions::refuses() {
 
 void TestOptions::helpNamesEveryOption() {
     const QString help = headunit::optionsHelp();
-    for (const char *name : {"--help",
-                             "--version",
-                             "--root <DIR>",
-                             "--scale <N>",
-                             "--language <xx>",
-                             "--open <NAME>",
-                             "--script <FILE.js>",
-                             "--tour <DIR>",
-                             "--play <WHAT>",
-                             "--device <NAME>",
-                             "--map <FL=CHANNEL,...>",
-                             "--meters",
-                             "--render <IN>",
-                             "--measure <OUT>",
-                             "--export <FILE>",
-                             "--import <FILE>",
-                             "--desk",
-                             "--trace",
-                             "--verbose",
+    for (const char *name : {"--help",           "--version",       "--root <DIR>",    "--scale <N>",
+                             "--fullscreen",     "--language <xx>", "--open <NAME>",   "--script <FILE.js>",
+                             "--tour <DIR>",     "--play <WHAT>",   "--device <NAME>", "--map <FL=CHANNEL,...>",
+                             "--meters",         "--render <IN>",   "--measure <OUT>", "--export <FILE>",
+                             "--import <FILE>",  "--desk",          "--trace",         "--verbose",
                              "--exit-when-shown"}) {
         QVERIFY2(help.contains(QLatin1String(name)), name);
     }
