@@ -84,7 +84,7 @@ bool perform(Plugin &plugin, const QStringList &words) {
     if (verb == QLatin1String("request")) {
         const QString key = QStringLiteral("SettingTouchPageType");
         mem::SettingsFunc::instance()->setValue(key, 0, 3, true);
-        QMetaObject::invokeMethod(mem::SettingsCache::instance(), "SettingsCacheSig", Q_ARG(QString, key));
+        emit mem::SettingsCache::instance()->SettingsCacheSig(key);
         return true;
     }
     QWidget *const widget = plugin.find(words.value(1));

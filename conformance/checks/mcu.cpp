@@ -73,8 +73,8 @@ CHECK(mcuDelays, "mcu.delays-only-read", "setAudioTimerDelay() reads six delays,
         after << delay;
     }
     expect("the array", before, after);
-    int wild[6] = {-1, 100, 2147483647, -2147483647 - 1, 1000000, 0};
-    mcuService()->setAudioTimerDelay(1, wild);
+    int wild[8] = {0, -1, 100, 2147483647, -2147483647 - 1, 1000000, 0, 0};
+    mcuService()->setAudioTimerDelay(1, wild + 1);
 }
 
 CHECK(mcuNotStored, "mcu.stores-nothing", "The microcontroller writes no key of the pages: they write their own.",
