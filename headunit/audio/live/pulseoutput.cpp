@@ -2,6 +2,7 @@
 
 #include "desksinks.h"
 #include "pulsestream.h"
+#include "realtime.h"
 
 #include "player.h"
 
@@ -39,6 +40,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
     pa_threaded_mainloop *loop = nullptr;
     pa_context *context = nullptr;
     std::atomic<unsigned> dropouts{0};
+    std::string scheduling;
     std::string defaultDevice;
     std::string another;                 ///< device than the default one
     std::optional<DevicePlan> plan;      ///< of the stream
@@ -122,6 +124,9 @@ struct PulseOutput::Private final : PulseStream::Listener {
         if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(context))) {
             serverMissing();
         } else if (isReady()) {
+            if (scheduling.empty()) {
+                scheduling = askForRealTime();
+            }
             const int events = PA_SUBSCRIPTION_MASK_SERVER | PA_SUBSCRIPTION_MASK_SINK;
             release(pa_context_subscribe(context, static_cast<pa_subscription_mask_t>(events), nullptr, nullptr));
             if (settings.desk && !paused) {
@@ -358,6 +363,13 @@ void PulseOutput::resume() {
         d->look();
     }
     pa_threaded_mainloop_unlock(d->loop);
+}
+
+std::string PulseOutput::scheduling() const {
+    pa_threaded_mainloop_lock(d->loop);
+    const std::string words = d->scheduling;
+    pa_threaded_mainloop_unlock(d->loop);
+    return words;
 }
 
 unsigned PulseOutput::takeDropouts() {

@@ -33,6 +33,8 @@ public:
     void pause();
     void resume();
 
+    /// What the audio thread got when it asked for real-time scheduling, in a few words; empty before it runs.
+    std::string scheduling() const;
     /// How often the server has had nothing left to play since the last call.
     unsigned takeDropouts();
 

@@ -81,6 +81,10 @@ void LiveSound::printMeters() {
     constexpr int period = 1000;  // ms
     connect(&m_meterTimer, &QTimer::timeout, this, [this] {
         if (const engine::Meters *const meters = m_player.takeMeters()) {
+            if (!m_saidScheduling) {
+                m_saidScheduling = true;
+                std::printf("audio thread: %s\n", m_output->scheduling().c_str());
+            }
             const unsigned dropouts = m_output->takeDropouts() + m_player.takeDeskDropouts();
             const QByteArray holes = dropouts > 0 ? ", dropouts " + QByteArray::number(dropouts) : QByteArray();
             std::printf("%s%s\n", meterText(*meters).constData(), holes.constData());

@@ -27,6 +27,7 @@ private:
     void followPrograms();
 
     bool m_statePending = false;
+    bool m_saidScheduling = false;
     Player m_player;
     ControlThread m_control{[this](const SoundState &state) { m_player.setState(state); }};
     QTimer m_meterTimer;
