@@ -51,6 +51,7 @@ void levelRows() {
         "another source", any, [](S s) { s.activeSource = 4; },
         [](S s) { s.sourceGain = {0, 10, 10, 10, 20, 10, 10}; });
     row("mute", any, [](S s) { s.muted = true; });
+    row("trim, 6 dB", any, [](S s) { s.trim = -60; });
     constexpr std::pair<size_t, Input> channels[] = {{0, MainInput},       {1, RingtoneInput}, {2, PhoneInput},
                                                      {3, NavigationInput}, {4, VoiceInput},    {6, AnnouncementInput},
                                                      {0, BeepInput}};

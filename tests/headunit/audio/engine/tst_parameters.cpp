@@ -33,6 +33,7 @@ private Q_SLOTS:
     void beepFollowsTheMainLevel();
     void sourceGains();
     void mute();
+    void trim();
     void ducking_data();
     void ducking();
     void balance();
@@ -93,6 +94,21 @@ void TestParameters::sourceGains() {
                 state.activeSource = active;
                 QVERIFY(isGain(designParameters(state).inputGain[MainInput], active == source ? value - 10 : 0));
             }
+        }
+    }
+}
+
+void TestParameters::trim() {
+    for (const bool defeat : {false, true}) {
+        SoundState state = neutral();
+        state.defeat = defeat;
+        state.subwooferPhase = 1;
+        const auto before = designParameters(state).chain.gain;
+        state.trim = -60;
+        const auto gains = designParameters(state).chain.gain;
+        for (size_t output = 0; output < outputCount; ++output) {
+            QVERIFY(before[output] != 0.0);
+            QVERIFY(std::abs(toDecibels(gains[output] / before[output]) + 6.0) < 1e-9);
         }
     }
 }

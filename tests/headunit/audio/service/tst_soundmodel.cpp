@@ -226,6 +226,30 @@ void tst_SoundModel::setters_data() {
     row(
         "mute", 0, [](M m) { m.setMuted(true); }, [](S s) { s.muted = true; });
     row(
+        "trim", 0, [](M m) { m.setTrim(-35); }, [](S s) { s.trim = -35; });
+    row(
+        "trim louder", 1, [](M m) { m.setTrim(1); }, [](S) {});
+    row(
+        "trim too far", 1, [](M m) { m.setTrim(-601); }, [](S s) { s.trim = -600; });
+    row(
+        "a whole state", 0,
+        [](M m) {
+            SoundState state = m.state();
+            state.balance = 5;
+            state.delay[2] = 7;
+            state.channelLevel[1] = 3;
+            state.activeSource = 3;  // what plays is no part of it
+            state.muted = true;
+            state.activePrompts[1] = true;
+            state.trim = -20;
+            m.adopt(state);
+        },
+        [](S s) {
+            s.balance = 5;
+            s.delay[2] = 7;
+            s.channelLevel[1] = 3;
+        });
+    row(
         "prompt", 0, [](M m) { m.setPromptActive(Prompt::Voice, true); }, [](S s) { s.activePrompts[3] = true; });
 }
 
@@ -422,10 +446,12 @@ void tst_SoundModel::restoresEveryKey() {
     expected.activeSource = 4;
     expected.muted = true;
     expected.activePrompts[2] = true;
+    expected.trim = -20;
     SoundModel model(store);
     model.setActiveSource(4);
     model.setMuted(true);
     model.setPromptActive(Prompt::Navigation, true);
+    model.setTrim(-20);
     store.replaceAll(values);
     QSignalSpy changed(&model, SIGNAL(changed()));
     model.restore();
