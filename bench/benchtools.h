@@ -44,6 +44,14 @@ inline void sendMouse(QWidget *widget, QEvent::Type type, const QPoint &pos) {
     QCoreApplication::sendEvent(widget, &event);
 }
 
+/// A finger down and up again in the middle, each painted.
+inline void tap(QWidget *widget) {
+    sendMouse(widget, QEvent::MouseButtonPress, widget->rect().center());
+    settle();
+    sendMouse(widget, QEvent::MouseButtonRelease, widget->rect().center());
+    settle();
+}
+
 /// Drags a finger over \a area of \a widget in \a steps moves, to and fro along the given axes; \a afterStep runs
 /// after each. Every move paints.
 template <class AfterStep>

@@ -6,8 +6,9 @@
 //   floor switch STEPS LABELS LABELS  two pages of that many labels, shown in turn
 //   floor drag STEPS                  one cached pixmap, moved by mouse events
 //   floor text STEPS                  one label with another number at each step
-//   floor scroll STEPS                one ready pixmap of a page's height, moved by mouse events in a window of 980 x
-//   440
+//   floor graph STEPS                 a key tapped, and with it another number and another ready pixmap of a graph's
+//   size floor scroll STEPS                one ready pixmap of a page's height, moved by mouse events in a window of
+//   980 x 440
 
 #include "benchtools.h"
 
@@ -118,6 +119,42 @@ void text(int steps) {
     }
 }
 
+/// A key that shows one of two ready pixmaps, as it is pressed or not.
+class KeyFloor : public QLabel {
+public:
+    explicit KeyFloor(QWidget *parent) : QLabel(parent) { setPixmap(m_normal); }
+
+protected:
+    void mousePressEvent(QMouseEvent *) override { setPixmap(m_pressed); }
+    void mouseReleaseEvent(QMouseEvent *) override { setPixmap(m_normal); }
+
+private:
+    const QPixmap m_normal = readyKey();
+    const QPixmap m_pressed = readyKey();
+};
+
+void graph(int steps) {
+    QWidget window;
+    window.setFixedSize(bench::screen);
+    KeyFloor key(&window);
+    key.setGeometry(10, 400, 72, 72);
+    QLabel number(&window);
+    number.setGeometry(100, 400, 96, 56);
+    QFont font = number.font();
+    font.setPointSize(15);
+    number.setFont(font);
+    QLabel graph(&window);
+    graph.setGeometry(170, 0, 688, 257);
+    const QPixmap pixmaps[] = {readyPixmap(688, 257), readyPixmap(688, 257)};
+    bench::showAndPaint(&window);
+    for (int i = 1; i <= steps; ++i) {
+        bench::tap(&key);
+        number.setText(QString::number(i % 12));
+        graph.setPixmap(pixmaps[i % 2]);
+        bench::settle();
+    }
+}
+
 /// Moves its one label up and down with the finger.
 class ScrollFloor : public QWidget {
 public:
@@ -163,12 +200,14 @@ int main(int argc, char **argv) {
         drag(number(1));
     } else if (what == QLatin1String("text")) {
         text(number(1));
+    } else if (what == QLatin1String("graph")) {
+        graph(number(1));
     } else if (what == QLatin1String("scroll")) {
         scroll(number(1));
     } else {
         qCritical(
             "floor start | floor first LABELS | floor switch STEPS LABELS LABELS | floor drag STEPS | "
-            "floor text STEPS | floor scroll STEPS");
+            "floor text STEPS | floor graph STEPS | floor scroll STEPS");
         return 2;
     }
     return 0;

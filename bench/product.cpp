@@ -6,6 +6,7 @@
 //   product drag STEPS eq            a finger on a slider of the EQ page
 //   product drag STEPS slider        a finger on a slider of Volume Settings
 //   product drag STEPS scroll        a finger that scrolls Volume Settings
+//   product step STEPS slope|freq|level   its plus key on the Crossover page, tapped
 //   product repeat STEPS             the plus keys of the Timing page, each held for a while
 //   product reset STEPS              whole resets: the dialog, the reset, the settings root again
 //
@@ -142,6 +143,14 @@ public:
         bench::drag(viewport, QRect(40, 20, 200, 400), steps, Qt::Vertical);
     }
 
+    void step(int steps, const QString &what) {
+        show(QStringLiteral("crossover"));
+        auto *key = m_widget->findChild<QWidget *>(QStringLiteral("key_%1_plus").arg(what));
+        for (int i = 0; i < steps; ++i) {
+            bench::tap(key);
+        }
+    }
+
     /// A key is left before it reaches the end of its range.
     void repeat(int steps) {
         show(QStringLiteral("timing"));
@@ -212,15 +221,16 @@ int main(int argc, char **argv) {
         product.dragSlider(args.value(1).toInt());
     } else if (args.value(0) == QLatin1String("drag") && args.value(2) == QLatin1String("scroll")) {
         product.scroll(args.value(1).toInt());
+    } else if (args.value(0) == QLatin1String("step")) {
+        product.step(args.value(1).toInt(), args.value(2));
     } else if (args.value(0) == QLatin1String("repeat")) {
         product.repeat(args.value(1).toInt());
     } else if (args.value(0) == QLatin1String("reset")) {
         product.reset(args.value(1).toInt());
     } else {
         qCritical(
-            "product count PAGE | product switch STEPS PAGE PAGE | product drag STEPS pad|eq|slider|scroll | product "
-            "repeat STEPS | "
-            "product reset STEPS");
+            "product count PAGE | product switch STEPS PAGE PAGE | product drag STEPS pad|eq|slider|scroll | "
+            "product step STEPS slope|freq|level | product repeat STEPS | product reset STEPS");
         return 2;
     }
     headunit::closeSettings();

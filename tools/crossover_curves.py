@@ -6,7 +6,7 @@ k octaves inside the pass band of the -3 dB point the attenuation is, by the def
 
     10 * log10(1 + 2 ** (-2 * n * k)) dB.
 
-The pages show a picture shifted (high-pass) or with another width (low-pass) and stretched to another height. The
+The page draws the same line itself (audiosetting/crossover/curveline.cpp), so that it can stretch it evenly. It shows a picture shifted (high-pass) or with another width (low-pass) and stretched to another height. The
 graph is 688 px wide: a high-pass at x = -360 and a low-pass of 1050 px must show their pass band only, a high-pass at
 x = -330 begins at the left edge and one at x = 295 ends near the right one.
 """
@@ -54,12 +54,9 @@ def path(points):
 
 def drawing(order, corner, pixels_per_octave):
     points = curve(order, corner, pixels_per_octave)
-    line = path(points)
-    floor = HEIGHT + MARGIN
     return f"""<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {WIDTH} {HEIGHT}">
   <!-- Written by tools/crossover_curves.py. -->
-  <path class="curve-fill" d="{line}V{floor}H{points[0][0]:g}Z"/>
-  <path class="curve" d="{line}"/>
+  <path class="curve" d="{path(points)}"/>
 </svg>
 """
 

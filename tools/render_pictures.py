@@ -2,8 +2,8 @@
 """Renders one picture family: an SVG source in several states and sizes, at 1:1 and at 2:1.
 
 The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: unfiltered, stored but for those
-that shrink to almost nothing, without colour chunks, RGB where nothing is transparent. The same sources give the same
-bytes on every run.
+that shrink to almost nothing, without colour chunks, with a palette where 256 colours do, RGB where nothing is
+transparent. The same sources give the same bytes on every run.
 """
 
 import argparse
@@ -112,24 +112,44 @@ def channels(bgra):
     return planes
 
 
+def palette_of(planes):
+    """The picture's colours, the transparent ones first, and the index of each pixel; None if they are too many."""
+    pixels = list(zip(planes[3], *planes[:3]))
+    colours = sorted(set(pixels))
+    if len(colours) > 256:
+        return None
+    index = {colour: i for i, colour in enumerate(colours)}
+    return colours, bytes(index[pixel] for pixel in pixels)
+
+
 def png(bgra, width, height):
     planes = channels(bgra)
     opaque = planes[3].count(255) == width * height
-    depth = 3 if opaque else 4
-    pixels = bytearray(width * height * depth)
-    for offset in range(depth):
-        pixels[offset::depth] = planes[offset]
+    palette = palette_of(planes)
+    chunks = []
+    if palette:
+        colours, pixels = palette
+        kind, depth = 3, 1
+        chunks.append((b"PLTE", bytes(value for colour in colours for value in colour[1:])))
+        if not opaque:
+            chunks.append((b"tRNS", bytes(colour[0] for colour in colours if colour[0] < 255)))
+    else:
+        kind, depth = (2, 3) if opaque else (6, 4)
+        pixels = bytearray(width * height * depth)
+        for offset in range(depth):
+            pixels[offset::depth] = planes[offset]
     line = width * depth
     raw = b"".join(b"\0" + pixels[y * line:(y + 1) * line] for y in range(height))
 
-    def chunk(kind, data):
-        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+    def chunk(name, data):
+        return struct.pack(">I", len(data)) + name + data + struct.pack(">I", zlib.crc32(name + data))
 
-    header = struct.pack(">IIBBBBB", width, height, 8, 2 if opaque else 6, 0, 0, 0)
+    header = struct.pack(">IIBBBBB", width, height, 8, kind, 0, 0, 0)
     data = zlib.compress(raw, 1)
     if len(data) * WORTH_DEFLATING > len(raw):
         data = zlib.compress(raw, 0)
-    return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", data) + chunk(b"IEND", b"")
+    chunks = [(b"IHDR", header), *chunks, (b"IDAT", data), (b"IEND", b"")]
+    return b"\x89PNG\r\n\x1a\n" + b"".join(chunk(*each) for each in chunks)
 
 
 def read_source(path, parts):

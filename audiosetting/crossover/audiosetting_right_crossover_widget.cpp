@@ -61,7 +61,7 @@ void Audiosetting_right_crossover_widget::initUi() {
 
     // Its picture is opaque: nothing behind it needs painting.
     m_ui->label_bg->setAttribute(Qt::WA_OpaquePaintEvent);
-    m_ui->frame_3->setGround(picture("crossover_graph"));
+    m_ui->frame_3->setFigures(picture("crossover_figures"));
 
     showPicture({m_ui->label_bg}, "crossover_graph");
     showPicture({m_ui->label_keybg}, "crossover_channels_bg");

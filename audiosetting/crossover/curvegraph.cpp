@@ -1,44 +1,187 @@
 #include "curvegraph.h"
 
 #include "curvelabel.h"
+#include "curveline.h"
 
+#include <QLinearGradient>
 #include <QPainter>
+#include <QPainterPath>
+
+using audiosetting::crossover::CurveLine;
+
+namespace {
+
+// The ground: the page's own behind rounded corners, a frame and lines 3 dB and an octave's worth apart. 21 px are 1
+// dB, as far as a step of the level moves a curve; 0 dB is where the pass band of an unmoved one lies.
+const QRgb behindCorners = qRgb(0x13, 0x19, 0x22);
+const QRgb groundColour = qRgb(0x0c, 0x10, 0x16);
+const QRgb gridColour = qRgb(0x23, 0x2c, 0x37);
+const QRgb frameColour = qRgb(0x36, 0x41, 0x4f);
+const int edgeWidth = 2;
+const int cornerRadius = 6;
+const int gridWidth = 2;
+const int firstLevelLine = 8;
+const int levelLineStep = 63;
+const int columnStep = 86;
+
+// px
+const double dimWidth = 3;
+const double brightWidth = 4;
+const double dotRadius = 7;
+const double dotHole = 3;
+
+// Of the fill: from this to nothing, over this share of the label's height.
+const double fillOpacity = 0.26;
+const double fillShare = 0.3;
+
+void drawLine(QPainter &painter, const QPolygonF &line, QRgb colour, double width) {
+    if (line.isEmpty()) {
+        return;
+    }
+    // The pass band is level, and most of the line: a rectangle is much cheaper than a stroke.
+    int first = 0;
+    int last = line.size() - 1;
+    const auto drawLevel = [&](int from, int to) {
+        if (from < 0 || to >= line.size() || line[from].y() != line[to].y()) {
+            return false;
+        }
+        // A pixel longer at either end, so that no seam is seen where the stroke begins.
+        painter.fillRect(
+            QRectF(line[from].x() - 1, line[from].y() - width / 2, line[to].x() - line[from].x() + 2, width),
+            QColor::fromRgb(colour));
+        return true;
+    };
+    while (drawLevel(first, first + 1)) {
+        ++first;
+    }
+    while (last > first && drawLevel(last - 1, last)) {
+        --last;
+    }
+    painter.setPen(QPen(QColor::fromRgb(colour), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.drawPolyline(line.constData() + first, last - first + 1);
+}
+
+/// Makes \a pixmap one of that size and density, if it is not yet.
+void prepare(QPixmap &pixmap, const QSize &size, qreal density) {
+    if (pixmap.size() != size * density || pixmap.devicePixelRatio() != density) {
+        pixmap = QPixmap(size * density);
+        pixmap.setDevicePixelRatio(density);
+    }
+}
+
+}  // namespace
 
 CurveGraph::CurveGraph(QWidget *parent) : QFrame(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void CurveGraph::setGround(const QPixmap &ground) {
-    m_ground = ground;
-    m_composed = QPixmap();
+void CurveGraph::setFigures(const QPixmap &figures) {
+    m_figures = figures;
+    m_dimOf.clear();
+    m_composedOf.clear();
     update();
 }
 
 void CurveGraph::paintEvent(QPaintEvent *) {
-    const std::vector<Shown> now = shown();
-    if (m_composed.isNull() || m_composedOf != now) {
-        m_composedOf = now;
-        compose();
-    }
+    compose();
     QPainter(this).drawPixmap(0, 0, m_composed);
 }
 
-std::vector<CurveGraph::Shown> CurveGraph::shown() const {
-    std::vector<Shown> list;
+void CurveGraph::compose() {
+    std::vector<const CurveLabel *> labels;
+    std::vector<Shown> shown;
     for (QObject *child : children()) {
-        if (CurveLabel *label = qobject_cast<CurveLabel *>(child)) {
-            list.push_back(Shown{label->curveKey(), label->geometry()});
+        if (const CurveLabel *label = qobject_cast<CurveLabel *>(child)) {
+            labels.push_back(label);
+            shown.push_back(Shown{label->line(), label->geometry()});
         }
     }
-    return list;
+    if (!shown.empty() && m_composedOf == shown) {
+        return;
+    }
+    m_composedOf = shown;
+    const CurveLabel *const uppermost = labels.empty() ? nullptr : labels.back();
+    if (uppermost) {
+        labels.pop_back();
+        shown.pop_back();
+    }
+    const qreal density = m_figures.isNull() ? 1 : m_figures.devicePixelRatio();
+    if (shown.empty() || m_dimOf != shown) {
+        m_dimOf = shown;
+        prepare(m_dim, size(), density);
+        QPainter painter(&m_dim);
+        paintGround(painter);
+        painter.setRenderHint(QPainter::Antialiasing);
+        for (const CurveLabel *label : labels) {
+            if (label->line()) {
+                painter.setClipRect(label->geometry());
+                drawLine(painter, label->seenLine(), label->line()->dimColour, dimWidth);
+            }
+        }
+    }
+    // Painted, not copied: that takes the lines one by one into the pixels that are there already.
+    prepare(m_composed, size(), density);
+    QPainter painter(&m_composed);
+    painter.drawPixmap(0, 0, m_dim);
+    if (uppermost && uppermost->line()) {
+        painter.setClipRect(uppermost->geometry());
+        paintBright(painter, *uppermost);
+        painter.setClipping(false);
+    }
+    painter.drawPixmap(QPointF(width() - m_figures.width() / m_figures.devicePixelRatio(), 0), m_figures);
 }
 
-void CurveGraph::compose() {
-    m_composed = m_ground.copy(QRect(QPoint(0, 0), size() * m_ground.devicePixelRatio()));
-    QPainter painter(&m_composed);
-    for (QObject *child : children()) {
-        if (CurveLabel *label = qobject_cast<CurveLabel *>(child)) {
-            label->paintCurve(painter);
+void CurveGraph::paintGround(QPainter &painter) {
+    const QColor grid = QColor::fromRgb(gridColour);
+    painter.fillRect(rect(), QColor::fromRgb(groundColour));
+    for (int y = firstLevelLine; y < height(); y += levelLineStep) {
+        painter.fillRect(0, y - gridWidth / 2, width(), gridWidth, grid);
+    }
+    for (int x = columnStep; x < width(); x += columnStep) {
+        painter.fillRect(x - gridWidth / 2, 0, gridWidth, height(), grid);
+    }
+    // Its foot is the label's below.
+    QPainterPath outside;
+    outside.addRect(QRectF(rect()));
+    QPainterPath inside;
+    inside.addRoundedRect(QRectF(rect()).adjusted(0, 0, 0, 2 * cornerRadius), cornerRadius + 1, cornerRadius + 1);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(outside - inside, QColor::fromRgb(behindCorners));
+    const double half = edgeWidth / 2.0;
+    painter.setPen(QPen(QColor::fromRgb(frameColour), edgeWidth));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(half, half, -half, 2 * cornerRadius), cornerRadius, cornerRadius);
+}
+
+void CurveGraph::paintBright(QPainter &painter, const CurveLabel &label) {
+    const QColor colour = QColor::fromRgb(label.line()->colour);
+    const QPolygonF line = label.seenLine();
+    if (line.isEmpty()) {
+        return;
+    }
+    QColor from = colour;
+    from.setAlphaF(fillOpacity);
+    QColor to = colour;
+    to.setAlpha(0);
+    const double end = label.y() + fillShare * label.height();
+    QLinearGradient fill(0, label.y(), 0, end);
+    fill.setColorAt(0, from);
+    fill.setColorAt(1, to);
+    QPolygonF below;
+    for (const QPointF &point : line) {
+        if (point.y() < end) {
+            below << point;
         }
     }
+    below << QPointF(line.last().x(), end) << QPointF(line.first().x(), end);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawPolygon(below);  // its edge lies under the line: no need to smooth it
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    drawLine(painter, line, label.line()->colour, brightWidth);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(label.corner(), dotRadius, dotRadius);
+    painter.setBrush(QColor(0x0c, 0x10, 0x16));
+    painter.drawEllipse(label.corner(), dotHole, dotHole);
 }

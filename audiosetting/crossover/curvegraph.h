@@ -5,32 +5,45 @@
 
 #include <vector>
 
-/// Shows the curves of its CurveLabel children over an opaque ground, the uppermost last.
+class CurveLabel;
+class QPainter;
+
+namespace audiosetting {
+namespace crossover {
+struct CurveLine;
+}
+}  // namespace audiosetting
+
+/// Shows the curves of its CurveLabel children over a grid: the uppermost, which is the one that is set,
+/// bright, with what lies below it filled and a dot at its corner; the others dim behind it; the figures before all.
 ///
-/// It paints for them, from one picture that is composed anew when a curve changes: three layers of transparency
-/// would otherwise be blended over the whole graph whenever it is shown.
+/// The ground with the dim curves and the whole are kept: a step draws one curve anew, and a showing none.
 class CurveGraph : public QFrame {
     Q_OBJECT
 public:
     explicit CurveGraph(QWidget *parent);
 
-    /// Sets the picture behind the curves; opaque, at least as large as the graph.
-    void setGround(const QPixmap &ground);
+    /// Sets what lies before the curves, at the graph's right edge.
+    void setFigures(const QPixmap &figures);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
     struct Shown {
-        qint64 curve;
+        const audiosetting::crossover::CurveLine *line;
         QRect place;
-        bool operator==(const Shown &other) const { return curve == other.curve && place == other.place; }
+        bool operator==(const Shown &other) const { return line == other.line && place == other.place; }
     };
 
-    std::vector<Shown> shown() const;
     void compose();
+    void paintGround(QPainter &painter);
+    void paintBright(QPainter &painter, const CurveLabel &label);
 
-    QPixmap m_ground;
+    QPixmap m_figures;
+    QPixmap m_dim;  ///< the ground with every curve but the uppermost
     QPixmap m_composed;
-    std::vector<Shown> m_composedOf;  ///< the curves that m_composed shows, from the lowest to the uppermost
+    // The curves that they show, from the lowest to the uppermost.
+    std::vector<Shown> m_dimOf;
+    std::vector<Shown> m_composedOf;
 };

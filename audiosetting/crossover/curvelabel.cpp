@@ -1,58 +1,76 @@
 #include "curvelabel.h"
 
 #include "base/picture.h"
+#include "curveline.h"
 
-#include <QPainter>
+#include <QLineF>
+
+using namespace audiosetting::crossover;
+
+namespace {
+
+const double outside = 8;  // px beyond the graph that a line runs on: more than it is wide
+
+/// Cuts \a line to what lies between two places along one axis; false if nothing does. Coordinates may be beyond any
+/// pixel.
+bool cut(QLineF &line, double start, double way, double low, double high) {
+    if (way == 0) {
+        return start >= low && start <= high;
+    }
+    const double a = (low - start) / way;
+    const double b = (high - start) / way;
+    const double from = qMax(0.0, qMin(a, b));
+    const double to = qMin(1.0, qMax(a, b));
+    line = QLineF(line.pointAt(from), line.pointAt(to));
+    return from <= to;
+}
+
+}  // namespace
 
 CurveLabel::CurveLabel(QWidget *parent) : QLabel(parent) {}
 
 void CurveLabel::setCurve(const char *name) {
-    if (m_name == name) {
+    if (m_line && name == QByteArray(m_line->picture)) {
         return;
     }
-    m_name = name;
-    m_curve = audiosetting::picture(name);
-    m_stretched = QPixmap();
-    setPixmap(m_curve);
+    m_line = curveLine(name);
+    setPixmap(audiosetting::picture(name));
+}
+
+QPointF CurveLabel::inGraph(const QPointF &inPicture) const {
+    return QPointF(x() + inPicture.x() * width() / curvePictureWidth,
+                   y() + inPicture.y() * height() / curvePictureHeight);
+}
+
+QPolygonF CurveLabel::seenLine() const {
+    QPolygonF seen;
+    if (!m_line || size().isEmpty()) {
+        return seen;
+    }
+    const QRectF area = QRectF(parentWidget()->rect()).adjusted(-outside, -outside, outside, outside);
+    const auto along = [&area](const QPointF &point) {
+        return QPointF(point.x(), qBound(area.top(), point.y(), area.bottom()));
+    };
+    const QPolygonF points = m_line->points();
+    for (int i = 1; i < points.size(); ++i) {
+        QLineF part(inGraph(points[i - 1]), inGraph(points[i]));
+        if (!cut(part, part.x1(), part.dx(), area.left(), area.right())) {
+            continue;
+        }
+        seen << along(part.p1());
+        QLineF within = part;
+        if (cut(within, part.y1(), part.dy(), area.top(), area.bottom())) {
+            seen << within.p1() << within.p2();
+        }
+        seen << along(part.p2());
+    }
+    return seen;
+}
+
+QPointF CurveLabel::corner() const {
+    return m_line ? inGraph(m_line->corner()) : QPointF();
 }
 
 void CurveLabel::paintEvent(QPaintEvent *) {
     // The graph has painted it.
-}
-
-void CurveLabel::paintCurve(QPainter &painter) {
-    const QRect visible = rect() & parentWidget()->rect().translated(-pos());
-    if (m_curve.isNull() || visible.isEmpty()) {
-        return;
-    }
-    if (m_stretched.isNull() || m_stretchedSize != size() || !m_stretchedPart.contains(visible)) {
-        stretch(visible);
-    }
-    painter.drawPixmap(pos() + m_stretchedPart.topLeft(), m_stretched);
-}
-
-void CurveLabel::stretch(const QRect &visible) {
-    m_stretchedSize = size();
-    // Shrinking averages, so that a thin line stays a line; the result is never larger than the picture.
-    const int density = m_curve.devicePixelRatio();
-    const QSize wanted = size() * density;
-    const QSize shrunk = wanted.boundedTo(m_curve.size());
-    const QPixmap base =
-        shrunk == m_curve.size() ? m_curve : m_curve.scaled(shrunk, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (shrunk == wanted) {
-        m_stretched = base;
-        m_stretchedPart = rect();
-        return;
-    }
-    // Growing computes only what is seen.
-    m_stretchedPart = visible;
-    m_stretched = QPixmap(visible.size() * density);
-    m_stretched.setDevicePixelRatio(density);
-    m_stretched.fill(Qt::transparent);
-    const double x = double(shrunk.width()) / width();
-    const double y = double(shrunk.height()) / height();
-    QPainter painter(&m_stretched);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawPixmap(QRectF(QPointF(0, 0), QSizeF(visible.size())), base,
-                       QRectF(visible.x() * x, visible.y() * y, visible.width() * x, visible.height() * y));
 }

@@ -1,14 +1,18 @@
 #pragma once
 
 #include <QLabel>
-#include <QPixmap>
+#include <QPolygonF>
 
-class QPainter;
+namespace audiosetting {
+namespace crossover {
+struct CurveLine;
+}
+}  // namespace audiosetting
 
-/// A curve in a CurveGraph: a whole picture, stretched to the label's own size.
+/// A curve in a CurveGraph: it holds the whole picture, and its geometry says where and how stretched it is seen.
 ///
-/// The label may be of any size and lie anywhere, also far outside the graph: only what the graph lets see is ever
-/// scaled, and only when the picture or the geometry changes. The graph paints it.
+/// The label may be of any size and lie anywhere, also far outside the graph. The graph paints it, along the line that
+/// the picture shows.
 class CurveLabel : public QLabel {
     Q_OBJECT
 public:
@@ -16,20 +20,20 @@ public:
 
     /// Shows the picture of that name (audiosetting::picture()).
     void setCurve(const char *name);
-    /// Tells pictures apart; 0 for none.
-    qint64 curveKey() const { return m_curve.cacheKey(); }
-    /// Paints what is seen of it, in the graph's coordinates.
-    void paintCurve(QPainter &painter);
+    /// Null before setCurve().
+    const audiosetting::crossover::CurveLine *line() const { return m_line; }
+
+    /// The line in the graph's coordinates, over the graph's width and a little more; where it leaves the graph it runs
+    /// along just above or below. Empty if none of it is that far left or right.
+    QPolygonF seenLine() const;
+    /// The -3 dB point, in the graph's coordinates.
+    QPointF corner() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void stretch(const QRect &visible);
+    QPointF inGraph(const QPointF &inPicture) const;
 
-    QByteArray m_name;
-    QPixmap m_curve;
-    QPixmap m_stretched;  ///< what is seen of the curve, ready to paint
-    QSize m_stretchedSize;
-    QRect m_stretchedPart;  ///< the part of the label that m_stretched shows
+    const audiosetting::crossover::CurveLine *m_line = nullptr;
 };

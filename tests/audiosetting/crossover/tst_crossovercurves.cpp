@@ -1,3 +1,5 @@
+#include "crossover/curveline.h"
+
 #include "tests/platform/pagetest.h"
 #include "tests/platform/testmain.h"
 
@@ -7,6 +9,7 @@
 
 namespace {
 
+// What is drawn; the picture is half as large.
 constexpr int width = 1050;
 constexpr int height = 256;
 constexpr int graphWidth = 688;
@@ -18,6 +21,12 @@ double lineAt(int order, double x, double corner, double pixelsPerOctave) {
     const double ratio = std::exp2((corner - x) / pixelsPerOctave);
     const double power = 1 / (1 + std::pow(ratio, 2 * order));
     return passBand - 10 * std::log10(power) * (height - passBand) / range;
+}
+
+QImage drawing(const QString &name) {
+    const QImage picture(QStringLiteral(":/corvina_icon/%1.png").arg(name));
+    return picture.convertToFormat(QImage::Format_ARGB32)
+        .scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 /// The y of the line in a column: the middle of what is most opaque, -1 where there is none.
@@ -56,9 +65,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(int, order);
         QFETCH(bool, highPass);
-        const QImage image =
-            QImage(QStringLiteral(":/corvina_icon/%1.png").arg(name)).convertToFormat(QImage::Format_ARGB32);
-        QCOMPARE(image.size(), QSize(width, height));
+        const QImage image = drawing(name);
         const double corner = highPass ? 335 : 756;
         const double pixelsPerOctave = highPass ? 18 : -36;
         int compared = 0;
@@ -82,12 +89,47 @@ private slots:
     void offShowsThePassBandAcrossTheGraph() {
         QFETCH(QString, name);
         QFETCH(bool, highPass);
-        const QImage image(QStringLiteral(":/corvina_icon/%1.png").arg(name));
+        const QImage image = drawing(name);
         const int first = highPass ? 360 : 0;
         for (int x = first; x < first + graphWidth; ++x) {
             // Within 1 dB, also at the edge.
             QVERIFY(drawnAt(image, x) < passBand + (height - passBand) / range);
         }
+    }
+
+    // What the page draws instead of the picture is what the picture shows, in its colour.
+    void lineIsThePictures_data() { isTheFiltersResponse_data(); }
+    void lineIsThePictures() {
+        QFETCH(QString, name);
+        const auto *line = audiosetting::crossover::curveLine(name.toLatin1());
+        QVERIFY(line);
+        const QImage image = drawing(name);
+        const QPolygonF points = line->points();
+        QVERIFY(points.first().x() <= (line->highPass ? 335 : 0) &&
+                points.last().x() >= (line->highPass ? width : 756));
+        int compared = 0;
+        for (int i = 1; i < points.size(); ++i) {
+            const QLineF part(points[i - 1], points[i]);
+            QVERIFY(part.dx() > 0);
+            const QPointF middle = part.pointAt(0.5);
+            if (!QRectF(image.rect()).adjusted(1, 1, -1, -1).contains(middle)) {
+                continue;
+            }
+            const QRgb seen = image.pixel(int(middle.x()), int(middle.y()));
+            QVERIFY2(qAlpha(seen) > 140,
+                     qPrintable(QStringLiteral("no line at %1, %2").arg(middle.x()).arg(middle.y())));
+            const QColor colour(qRed(seen), qGreen(seen), qBlue(seen));
+            QVERIFY2(qAbs(colour.hsvHue() - QColor(line->colour).hsvHue()) <= 3, qPrintable(colour.name()));
+            ++compared;
+        }
+        QVERIFY2(compared > 30, qPrintable(QString::number(compared)));
+        const double corner = drawnAt(image, int(line->corner().x()));
+        QVERIFY2(std::abs(corner - line->corner().y()) < 3, qPrintable(QString::number(corner)));
+    }
+
+    void noOtherPictureIsALine() {
+        QVERIFY(!audiosetting::crossover::curveLine("crossover_graph"));
+        QVERIFY(!audiosetting::crossover::curveLine(""));
     }
 };
 

@@ -6,6 +6,7 @@ import subprocess
 import sys
 import tempfile
 import unittest
+import zlib
 
 SOURCE_DIR = pathlib.Path(__file__).resolve().parents[3]
 RENDERER = SOURCE_DIR / "tools/render_pictures.py"
@@ -51,23 +52,46 @@ class RendererTest(unittest.TestCase):
         for name in ("a/n.png", "a/n@2x.png"):
             self.assertEqual((first / name).read_bytes(), (second / name).read_bytes())
 
+    def many_colours(self, opacity):
+        """A drawing of 512 colours, a strip of pixels each."""
+        return self.source('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 512 4">' + "".join(
+            f'<rect x="{x}" width="1" height="4" fill="#{x // 2:02x}80{255 * (x % 2):02x}" fill-opacity="{opacity}"/>'
+            for x in range(512)) + "</svg>")
+
     def test_opaque_picture_has_no_alpha(self):
+        self.assertEqual(self.render(self.many_colours(1), "a,n,512,4").returncode, 0)
+        data = (self.out / "a.png").read_bytes()
+        self.assertEqual(data[25], 2)  # colour type: RGB
+        self.assertNotIn(b"tRNS", data)
+
+    def test_translucent_picture_has_straight_colours(self):
+        self.assertEqual(self.render(self.many_colours(0.5), "a,n,512,4").returncode, 0)
+        data = (self.out / "a.png").read_bytes()
+        self.assertEqual(data[25], 6)  # colour type: RGBA
+        pixels = zlib.decompress(data[data.index(b"IDAT") + 4:])[1:]
+        for value, expected in zip(pixels[4 * 401:], (200, 128, 255, 128)):
+            self.assertAlmostEqual(value, expected, delta=2)
+
+    def test_few_colours_make_a_palette(self):
         source = self.source('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 8 4">'
                              '<rect width="8" height="4" fill="#102030"/></svg>')
         self.assertEqual(self.render(source, "a,n,8,4").returncode, 0)
         data = (self.out / "a.png").read_bytes()
-        self.assertEqual(data[25], 2)  # colour type: RGB
-        self.assertIn(bytes((0x10, 0x20, 0x30)) * 8, data)
+        self.assertEqual(data[25], 3)  # colour type: palette
+        self.assertEqual(data[data.index(b"PLTE") + 4:][:3], bytes((0x10, 0x20, 0x30)))
+        self.assertNotIn(b"tRNS", data)
 
-    def test_translucent_picture_has_straight_colours(self):
+    def test_palette_holds_translucent_colours(self):
         source = self.source('<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 8 4">'
-                             '<rect width="8" height="4" fill="#ff8000" fill-opacity="0.5"/></svg>')
+                             '<rect width="4" height="4" fill="#ff8000" fill-opacity="0.5"/></svg>')
         self.assertEqual(self.render(source, "a,n,8,4").returncode, 0)
         data = (self.out / "a.png").read_bytes()
-        self.assertEqual(data[25], 6)  # colour type: RGBA
-        pixel = data[data.index(b"IDAT") + 12:][:4]
-        for value, expected in zip(pixel, (255, 128, 0, 128)):
+        self.assertEqual(data[25], 3)
+        self.assertEqual(data[data.index(b"tRNS") + 4:][:2], bytes((0, 128)))
+        for value, expected in zip(data[data.index(b"PLTE") + 7:], (255, 128, 0)):
             self.assertAlmostEqual(value, expected, delta=1)
+        lines = zlib.decompress(data[data.index(b"IDAT") + 4:])
+        self.assertEqual(lines[:9], bytes((0, 1, 1, 1, 1, 0, 0, 0, 0)))
 
     def test_other_shape_than_the_source(self):
         self.assert_fails(self.render(KEY, "a/n,n,72,60"), str(KEY), "a/n", "72 x 60", "72 x 72")
