@@ -10,7 +10,8 @@ namespace cm {
 
 /// Adds long press and auto-repeat to an existing button.
 ///
-/// The button works as before: it emits its own pressed(), released() and clicked() also after a long press.
+/// The button works as before: it emits its own pressed(), released() and clicked() also after a long press. While a
+/// button without repeats is held, the toolkit shows on it how far the hold is.
 class PLATFORM_API PushButton : public QObject {
     Q_OBJECT
 public:

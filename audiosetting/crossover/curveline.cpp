@@ -1,5 +1,6 @@
 #include "curveline.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace audiosetting {

@@ -1,10 +1,12 @@
 #include "audiosetting_right_eq_widget.h"
 
 #include "audioservice.h"
+#include "bandscale.h"
 #include "base/debuglog.h"
 #include "base/picture.h"
 #include "base/presetkey.h"
 #include "base/texts.h"
+#include "dragvalue.h"
 #include "eqsettings.h"
 #include "eqtable.h"
 #include "labelbutton.h"
@@ -23,6 +25,10 @@ namespace {
 const int commitDelay = 80;     // ms; a drag sends the curve at most once in this time
 const int selectionDelay = 20;  // ms from showing a factory curve to the selection of a preset
 const int resetBandCount = 10;
+
+const int scaleLines[] = {82, 149, 219};  // px: the knob's middle at +12, 0 and -12 dB
+const int dragValueY = 40;                // px: between the up key and the slider
+const int anywhere = 1000;                // px: further down than a knob goes
 
 qvaudio::AudioService *audio() {
     return qvaudio::AudioService::instance();
@@ -66,12 +72,16 @@ void Audiosetting_right_eq_widget::initUi() {
     // It lies over its key: touches go through.
     m_ui->Txt_flat->setAttribute(Qt::WA_TransparentForMouseEvents);
 
+    BandScale *scale = new BandScale(m_ui->widget, scaleLines);
+    scale->setGeometry(m_ui->widget->rect());
+    DragValue *dragValue = new DragValue(m_ui->widget, dragValueY, anywhere);
     for (int band = 0; band < eqBandCount; ++band) {
         m_levels.append(0);
         m_bands.append(EqBand(band, m_ui->widget, m_knobImage));
         connect(slider(band), SIGNAL(valueChanged(int, int)), this, SLOT(update_eq_section_drag(int, int)));
         connect(m_bands.at(band).upKey(), SIGNAL(clicked(int)), this, SLOT(onBarPrevClicked(int)));
         connect(m_bands.at(band).downKey(), SIGNAL(clicked(int)), this, SLOT(onBarNextClicked(int)));
+        dragValue->follow(slider(band));
     }
 }
 

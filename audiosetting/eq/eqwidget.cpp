@@ -6,6 +6,7 @@
 #include "base/picture.h"
 #include "base/posttouch.h"
 #include "base/texts.h"
+#include "dragvalue.h"
 #include "eqtable.h"
 #include "sliderbarwidget.h"
 #include "translator.h"
@@ -28,6 +29,8 @@ const int resetBandCount = 10;
 const int barWidth = 16;
 const QRect sliderRect(38, 60, 60, 371);  // px, of the first band
 const int bandStep = 94;                  // px
+const int dragValueY = 50;                // px, in the panel: above the band's own gain
+const int coveringPoint = 36;             // px: a finger on a knob that is no lower covers the band's own gain
 
 const int centerPoints[] = {0,   7,   20,  36,  54,  71,  85,  101, 116, 131, 146, 161, 176,
                             191, 206, 222, 237, 252, 267, 283, 298, 313, 328, 343, 353};
@@ -92,9 +95,11 @@ void EQWidget::init() {
     connect(m_ui->key_back, SIGNAL(clicked()), this, SLOT(onBackKeyClicked()));
 
     m_knob = new QImage(pictureAt(QStringLiteral(":/halverv2_icon/setup_bg_sliding_point")).toImage());
+    DragValue *dragValue = new DragValue(this, dragValueY, coveringPoint);
     for (int band = 0; band < eqBandCount; ++band) {
         m_gains.append(0);
         createSlider(band);
+        dragValue->follow(m_sliders.at(band));
     }
     retranslateUi();
     updateEqVal();

@@ -6,6 +6,7 @@
 #include "base/picture.h"
 #include "base/presetkey.h"
 #include "delayunits.h"
+#include "loudspeakerlight.h"
 #include "mcuservice.h"
 #include "pushbutton.h"
 #include "ui_Audiosetting_right_timing_widget.h"
@@ -21,6 +22,9 @@ namespace {
 const int repeatDelay = 1000;    // ms from the press of a minus or plus key to its first repeat
 const int repeatInterval = 200;  // ms
 const int delaysEnabled = 1;     // first argument of the microcontroller's operation, always the same
+
+// Where the cabin's picture shows each output's loudspeaker, px.
+const QPoint loudspeakers[outputCount] = {{25, 84}, {156, 84}, {25, 161}, {156, 161}, {66, 227}, {115, 227}};
 
 // A minus or plus key, and the page's slots for it.
 void connectStepKey(QPushButton *key, QWidget *page, const char *clicked, const char *repeated) {
@@ -104,6 +108,15 @@ void Audiosetting_right_timing_widget::initUi() {
     connectStepKey(m_ui->key_sl_plus, this, SLOT(onSubLeftPlus()), SLOT(onSLNextPressedRepeat()));
     connectStepKey(m_ui->key_sr_minus, this, SLOT(onSubRightMinus()), SLOT(onSRPrevPressedRepeat()));
     connectStepKey(m_ui->key_sr_plus, this, SLOT(onSubRightPlus()), SLOT(onSRNextPressedRepeat()));
+
+    LoudspeakerLight *light = new LoudspeakerLight(m_ui->label_bg->parentWidget());
+    for (const TimeDelayEntity &controls : s_entities) {
+        if (isAncestorOf(controls.value)) {
+            const QPoint place = m_ui->label_bg->pos() + loudspeakers[controls.index];
+            light->follow(controls.minus, place);
+            light->follow(controls.plus, place);
+        }
+    }
 }
 
 void Audiosetting_right_timing_widget::showEvent(QShowEvent *event) {

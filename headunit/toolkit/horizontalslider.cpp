@@ -4,7 +4,15 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QPointer>
+
+namespace {
+
+constexpr int numberPixelSize = 20;
+constexpr QRgb numberColour = qRgb(0x11, 0x11, 0x11);
+
+}  // namespace
 
 struct HorizontalSlider::Private : public QObject {
     explicit Private(HorizontalSlider *slider) : q(slider) { q->installEventFilter(this); }
@@ -19,9 +27,23 @@ struct HorizontalSlider::Private : public QObject {
     /// Where the knob's centre may go: half a knob is kept free at either end of the widget.
     int travel() const { return qMax(0, q->width() - knobWidth()); }
 
-    int centre() const {
+    int centreOf(int stepIndex) const {
         const int steps = lastIndex();
-        return knobWidth() / 2 + (steps > 0 ? qRound(double(index()) * travel() / steps) : 0);
+        return knobWidth() / 2 + (steps > 0 ? qRound(double(stepIndex) * travel() / steps) : 0);
+    }
+    int centre() const { return centreOf(index()); }
+
+    /// Negative and positive values: the number has a sign, and the track fills from 0.
+    bool spansZero() const { return min < 0 && min + lastIndex() > 0; }
+    int fillStart() const { return spansZero() ? centreOf(-min) : 0; }
+
+    /// As it is, also outside the range.
+    QString number() const {
+        const QString digits = QString::number(qAbs(qint64(value)));
+        if (value < 0) {
+            return QChar(0x2212) + digits;
+        }
+        return value > 0 && spansZero() ? QLatin1Char('+') + digits : digits;
     }
 
     int valueAt(int x) const {
@@ -46,10 +68,7 @@ struct HorizontalSlider::Private : public QObject {
         }
         const QRect before = stepRect();
         value = to;
-        const QRect after = stepRect();
-        if (before != after) {
-            q->update(before.united(after));
-        }
+        q->update(before.united(stepRect()));
         return true;
     }
 
@@ -65,6 +84,7 @@ struct HorizontalSlider::Private : public QObject {
         q->update();
     }
 
+    QPixmap numberedKnob() const;
     static QPixmap stretched(const QPixmap &picture, int width);
     void renderTracks();
 
@@ -112,6 +132,26 @@ QPixmap HorizontalSlider::Private::stretched(const QPixmap &picture, int width) 
     slice(cap, width - 2 * cap, cap, size.width() - 2 * cap);
     slice(width - cap, cap, size.width() - cap, cap);
     return result;
+}
+
+/// The knob with its number, once for all sliders that look alike.
+QPixmap HorizontalSlider::Private::numberedKnob() const {
+    const QString text = number();
+    QFont font = q->font();
+    font.setPixelSize(numberPixelSize);
+    font.setWeight(QFont::Medium);
+    const QString key = QStringLiteral("horizontalslider/%1/%2/%3").arg(knob.cacheKey()).arg(text, font.key());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = knob;
+        QPainter painter(&picture);
+        painter.setFont(font);
+        painter.setPen(QColor::fromRgb(numberColour));
+        painter.drawText(QRect(QPoint(0, 0), headunit::pictureSize(knob)), Qt::AlignCenter, text);
+        painter.end();
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
 }
 
 void HorizontalSlider::Private::renderTracks() {
@@ -185,10 +225,12 @@ void HorizontalSlider::paintEvent(QPaintEvent *) {
         painter.drawPixmap(QRectF(from, top, to - from, trackHeight), track,
                            QRectF(from * ratio, 0, (to - from) * ratio, trackHeight * ratio));
     };
-    drawTrack(d->filledTrack, 0, edge);
-    drawTrack(d->emptyTrack, edge, width());
+    // The filled track lies over the empty one, whose ticks are seen at every value.
+    const int start = d->fillStart();
+    drawTrack(d->emptyTrack, 0, width());
+    drawTrack(d->filledTrack, qMin(start, edge), qMax(start, edge));
     if (d->showKnob && !d->knob.isNull()) {
-        painter.drawPixmap(d->knobRect(), d->knob);
+        painter.drawPixmap(d->knobRect().topLeft(), d->numberedKnob());
     }
 }
 

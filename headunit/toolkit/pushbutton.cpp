@@ -1,6 +1,9 @@
 #include "pushbutton.h"
 
+#include "headunit/toolkit/holdbar.h"
+
 #include <QEvent>
+#include <QMetaMethod>
 #include <QPointer>
 #include <QPushButton>
 #include <QTimer>
@@ -20,7 +23,7 @@ struct PushButton::Private : public QObject {
         connect(&timer, &QTimer::timeout, this, [this] { held(); });
         if (button) {
             connect(button, &QPushButton::pressed, this, [this] { start(); });
-            connect(button, &QPushButton::released, this, [this] { timer.stop(); });
+            connect(button, &QPushButton::released, this, [this] { stop(); });
             connect(button, &QObject::destroyed, this, [this] { timer.stop(); });
             button->installEventFilter(this);
         }
@@ -29,6 +32,21 @@ struct PushButton::Private : public QObject {
     void start() {
         repeating = false;
         timer.start(longPressInterval);
+        // A key that repeats shows what it does by what it changes.
+        if (repeatInterval <= 0 && q->isSignalConnected(QMetaMethod::fromSignal(&PushButton::longPressed))) {
+            if (!bar) {
+                bar = new headunit::HoldBar(button);
+            }
+            bar->begin(longPressInterval);
+        }
+    }
+
+    /// The press has ended, or can't last any longer.
+    void stop() {
+        timer.stop();
+        if (bar && !repeating) {
+            bar->cancel();
+        }
     }
 
     /// The button may lose its press without a released(), for instance when setDown(false) takes it away.
@@ -39,12 +57,16 @@ struct PushButton::Private : public QObject {
 
     void held() {
         if (!isHeld()) {
+            stop();
             return;
         }
         // A slot may delete the wrapper or the button, or end the press.
         const QPointer<Private> self(this);
         if (!repeating) {
             repeating = true;
+            if (bar) {
+                bar->complete();
+            }
             emit q->longPressed();
             if (!self || !isHeld()) {
                 return;
@@ -64,16 +86,17 @@ struct PushButton::Private : public QObject {
         auto *target = qobject_cast<QPushButton *>(watched);
         if (target && event->type() == QEvent::Hide) {
             // The release of a hidden button goes to nobody; without this it would come back pressed.
-            timer.stop();
+            stop();
             target->setDown(false);
         } else if (target && !target->isEnabled()) {
-            timer.stop();
+            stop();
         }
         return false;
     }
 
     PushButton *const q;
     const QPointer<QPushButton> button;
+    QPointer<headunit::HoldBar> bar;  ///< the button's, made at its first press
     QTimer timer;
     int longPressInterval = defaultLongPressInterval;
     int repeatInterval = 0;

@@ -113,6 +113,7 @@ private Q_SLOTS:
     void textOnKeyIsLegible_data();
     void textOnKeyIsLegible();
     void groundHasNoBands();
+    void padsCarHoldsTheMarkersWay();
 
 private:
     void rows();
@@ -381,6 +382,31 @@ void PicturesTest::groundHasNoBands() {
         QVERIFY(contrast(image.pixel(x, 0), groundTop) < 1.05);
         QVERIFY(contrast(image.pixel(x, image.height() - 1), groundBottom) < 1.05);
     }
+}
+
+// The marker goes 100 px from the pad's zero point to each side.
+void PicturesTest::padsCarHoldsTheMarkersWay() {
+    const QImage pad = on(QStringLiteral(":/corvina_icon/balancefader_bg.png"), groundTop);
+    const QPoint zero(132, 130);
+    const int way = 100;
+    const QRgb line = qRgb(0x6d, 0x7a, 0x8a);
+    const auto isLine = [&](int x, int y) { return contrast(pad.pixel(x, y), line) < 1.15; };
+    const auto crosses = [&](QPoint from, QPoint step) {
+        for (; pad.rect().contains(from); from += step) {
+            if (isLine(from.x(), from.y())) {
+                return true;
+            }
+        }
+        return false;
+    };
+    for (int along = -way; along <= way; ++along) {
+        // The body's outline is met outwards of every place that the marker reaches.
+        QVERIFY2(crosses(zero + QPoint(along, -way), QPoint(0, -1)), qPrintable(QString::number(along)));
+        QVERIFY2(crosses(zero + QPoint(along, way), QPoint(0, 1)), qPrintable(QString::number(along)));
+        QVERIFY2(crosses(zero + QPoint(-way, along), QPoint(-1, 0)), qPrintable(QString::number(along)));
+        QVERIFY2(crosses(zero + QPoint(way, along), QPoint(1, 0)), qPrintable(QString::number(along)));
+    }
+    QVERIFY(contrast(line, pad.pixel(12, 60)) >= 3);
 }
 
 QTEST_MAIN(PicturesTest)

@@ -193,7 +193,7 @@ private slots:
                 }
             }
         }
-        QCOMPARE(QPixmap(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n_2.png")).size(), QSize(638, 52));
+        QCOMPARE(QPixmap(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n_2.png")).size(), QSize(638, 72));
     }
 
     void buildTheirPartsInOrder() {

@@ -12,6 +12,21 @@ class TestPushButton : public QObject {
     cm::PushButton *wrapper = nullptr;
     QStringList log;
 
+    /// Pixels of the bar that are filled; -1 without a bar.
+    int filled() const {
+        const QWidget *bar = button->findChild<QWidget *>();
+        if (!bar || !bar->isVisible()) {
+            return -1;
+        }
+        const QImage image = button->grab(bar->geometry()).toImage();
+        int count = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            count += qGray(image.pixel(x, image.height() / 2)) > 128;
+        }
+        // Its ends are a pixel inside the groove.
+        return count == image.width() - 2 ? image.width() : count;
+    }
+
 private slots:
     void init() {
         screen = new QWidget;
@@ -177,6 +192,92 @@ private slots:
         button->setDown(false);
         advance(5000);
         QCOMPARE(log, QStringList());
+    }
+
+    void holdShowsHowFarItIs() {
+        QCOMPARE(filled(), -1);
+        finger::press(button, QPoint(50, 50));
+        advance(249);
+        QCOMPARE(filled(), -1);
+        int last = 0;
+        for (int ms = 250; ms < 1500; ms += 50) {
+            advance(ms == 250 ? 1 : 50);
+            // Of the bar's 68 px.
+            QVERIFY2(qAbs(filled() - ms * 68 / 1500) <= 3, qPrintable(QString("%1 after %2").arg(filled()).arg(ms)));
+            QVERIFY(filled() > last);
+            last = filled();
+        }
+        advance(50);
+        QCOMPARE(log, QStringList("long"));
+        QCOMPARE(filled(), 68);
+        finger::release(button, QPoint(50, 50));
+        advance(399);
+        QCOMPARE(filled(), 68);
+        advance(1);
+        QCOMPARE(filled(), -1);
+    }
+
+    void fullBarGoesUnderTheFingerToo() {
+        finger::press(button, QPoint(50, 50));
+        advance(1500);
+        QCOMPARE(filled(), 68);
+        advance(400);
+        QCOMPARE(filled(), -1);
+        advance(5000);
+        QCOMPARE(filled(), -1);
+        finger::release(button, QPoint(50, 50));
+    }
+
+    void holdThatEndsEarlyShowsNothingMore() {
+        finger::press(button, QPoint(50, 50));
+        advance(1000);
+        QVERIFY(filled() > 0);
+        finger::release(button, QPoint(50, 50));
+        QCOMPARE(filled(), -1);
+        finger::press(button, QPoint(50, 50));
+        advance(1000);
+        button->setEnabled(false);
+        QCOMPARE(filled(), -1);
+        button->setEnabled(true);
+        finger::release(button, QPoint(50, 50));
+        finger::press(button, QPoint(50, 50));
+        advance(1000);
+        screen->hide();
+        screen->show();
+        QCOMPARE(filled(), -1);
+        advance(5000);
+        QCOMPARE(filled(), -1);
+        QVERIFY(!log.contains("long"));
+    }
+
+    void keyThatRepeatsShowsNothing() {
+        wrapper->setRepeatInterval(200);
+        finger::press(button, QPoint(50, 50));
+        for (int i = 0; i < 50; ++i) {
+            advance(50);
+            QCOMPARE(filled(), -1);
+        }
+        finger::release(button, QPoint(50, 50));
+    }
+
+    void keyWhoseHoldDoesNothingShowsNothing() {
+        QPushButton other(screen);
+        other.resize(100, 100);
+        other.show();
+        cm::PushButton unheard(&other, screen);
+        finger::press(&other, QPoint(50, 50));
+        advance(1000);
+        QVERIFY(other.children().isEmpty());
+        finger::release(&other, QPoint(50, 50));
+    }
+
+    void barTakesNoTouch() {
+        finger::press(button, QPoint(50, 90));
+        advance(1000);
+        const QWidget *bar = button->findChild<QWidget *>();
+        QVERIFY(bar->geometry().contains(50, 90));
+        QCOMPARE(screen->childAt(button->mapTo(screen, QPoint(50, 90))), button);
+        finger::release(button, QPoint(50, 90));
     }
 
     void worksWithoutAButton() {
