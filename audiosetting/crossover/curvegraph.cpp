@@ -168,9 +168,7 @@ void CurveGraph::paintBright(QPainter &painter, const CurveLabel &label) {
     fill.setColorAt(1, to);
     QPolygonF below;
     for (const QPointF &point : line) {
-        if (point.y() < end) {
-            below << point;
-        }
+        below << QPointF(point.x(), qMin(point.y(), end));  // nothing is seen of it further down
     }
     below << QPointF(line.last().x(), end) << QPointF(line.first().x(), end);
     painter.setPen(Qt::NoPen);

@@ -273,6 +273,30 @@ private slots:
         QVERIFY(bright(seen.pixel(300, 71)) > bright(seen.pixel(300, 80)) + 20);
     }
 
+    void nothingIsFilledBesideTheLine() {
+        Graph graph;
+        graph.label.setCurve("left_yellow_18db");
+        graph.label.setGeometry(-85, 0, 1050, 506);
+        const QImage high = graph.seen();
+        graph.label.setGeometry(700, 0, 1050, 506);
+        const QImage none = graph.seen();
+        // The skirt stands at 230 to 250.
+        for (int x = 2; x < 215; x += 3) {
+            for (int y : {20, 60, 100, 140, 180}) {
+                QCOMPARE(high.pixel(x, y), none.pixel(x, y));
+            }
+        }
+        QVERIFY(high.pixel(300, 60) != none.pixel(300, 60));
+        graph.label.setCurve("right_red_18db");
+        graph.label.setGeometry(0, 0, 630, 506);
+        const QImage low = graph.seen();
+        for (int x = 520; x < 680; x += 3) {
+            for (int y : {20, 60, 100, 140, 180}) {
+                QCOMPARE(low.pixel(x, y), none.pixel(x, y));
+            }
+        }
+    }
+
     void furthestPlaces() {
         Graph graph;
         const QImage empty = graph.seen();
