@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <cmath>
+
 using audiosetting::crossover::CurveLine;
 
 namespace {
@@ -34,28 +36,31 @@ const double dotHole = 3;
 const double fillOpacity = 0.26;
 const double fillShare = 0.3;
 
-void drawLine(QPainter &painter, const QPolygonF &line, QRgb colour, double width) {
+void drawLine(QPainter &painter, QPolygonF line, QRgb colour, double width) {
     if (line.isEmpty()) {
         return;
     }
-    // The pass band is level, and most of the line: a rectangle is much cheaper than a stroke.
+    // The pass band is level, and most of the line: a rectangle is much cheaper than a stroke. They meet between two
+    // pixels, so that no seam is seen.
     int first = 0;
     int last = line.size() - 1;
-    const auto drawLevel = [&](int from, int to) {
-        if (from < 0 || to >= line.size() || line[from].y() != line[to].y()) {
-            return false;
-        }
-        // A pixel longer at either end, so that no seam is seen where the stroke begins.
-        painter.fillRect(
-            QRectF(line[from].x() - 1, line[from].y() - width / 2, line[to].x() - line[from].x() + 2, width),
-            QColor::fromRgb(colour));
-        return true;
-    };
-    while (drawLevel(first, first + 1)) {
+    const auto isLevel = [&line](int from, int to) { return from < to && line[from].y() == line[to].y(); };
+    while (first < last && isLevel(first, first + 1)) {
         ++first;
     }
-    while (last > first && drawLevel(last - 1, last)) {
+    while (last > first && isLevel(last - 1, last)) {
         --last;
+    }
+    const auto drawLevel = [&](const QPointF &from, double to) {
+        painter.fillRect(QRectF(from.x(), from.y() - width / 2, to - from.x(), width), QColor::fromRgb(colour));
+    };
+    if (first > 0) {
+        line[first].setX(std::floor(line[first].x()));
+        drawLevel(line.first(), line[first].x());
+    }
+    if (last < line.size() - 1) {
+        line[last].setX(std::ceil(line[last].x()));
+        drawLevel(line[last], line.last().x());
     }
     painter.setPen(QPen(QColor::fromRgb(colour), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.drawPolyline(line.constData() + first, last - first + 1);
