@@ -48,8 +48,10 @@ constexpr SettingKey subwooferOn = {"Setup_Sub", 0};
 constexpr SettingKey subwooferLevel = {"subwooferLevel", 3};
 constexpr SettingKey subwooferPhase = {"subwooferphase", 0};
 constexpr SettingKey balance = {"SoundFieldBalance", 0};
-constexpr SettingKey fader = {"SoundFieldFader", 0};      ///< negative is the front
-constexpr SettingKey customEq = {"eq%1", 0};              ///< gain + 12; its readers' default is -12 dB
+constexpr SettingKey fader = {"SoundFieldFader", 0};  ///< negative is the front
+constexpr int bands = 13;
+constexpr SettingKey customEq = {"eq%1", 0};              ///< gain + 12; the pages' default, -12 dB, never comes up
+constexpr SettingKey flatBand = {customEq.name, 12};      ///< the same key, as the unit itself reads it
 constexpr SettingKey channelLevel = {"inputgain%1", 16};  ///< a volume, despite its name
 /// In the factory file alone: the highest main volume that a unit starts with. The default is no limit.
 constexpr SettingKey powerUpLimit = {"powerup/mainlimit", 40};

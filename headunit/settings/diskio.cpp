@@ -1,6 +1,7 @@
 #include "diskio.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -36,7 +37,7 @@ private:
 DiskResult lastError() {
     const int code = errno;
     DiskResult result;
-    result.missing = code == ENOENT;
+    result.missing = code == ENOENT || code == ENOTDIR;  // where a folder should be, there is a file
     result.error = qt_error_string(code);
     return result;
 }
@@ -101,6 +102,15 @@ DiskResult writeFileDurably(const QString &path, const QByteArray &bytes) {
         return result;
     }
     return DiskResult();
+}
+
+DiskResult replaceFileDurably(const QString &path, const QByteArray &bytes) {
+    const QString newPath = path + QStringLiteral(".new");
+    DiskResult result = writeFileDurably(newPath, bytes);
+    if (result.ok()) {
+        result = renameFile(newPath, path);
+    }
+    return result.ok() ? syncFolder(QFileInfo(path).path()) : result;
 }
 
 DiskResult overwriteFile(const QString &path, const QByteArray &bytes) {

@@ -16,6 +16,8 @@ struct DiskResult {
 DiskResult readFile(const QString &path, qint64 limit, QByteArray *bytes);
 /// Writes a file and returns once its bytes are on the medium. A failure leaves no file of that name.
 DiskResult writeFileDurably(const QString &path, const QByteArray &bytes);
+/// The same by way of NAME.new: at any moment, also after a power cut, the file is the one before or the new one.
+DiskResult replaceFileDurably(const QString &path, const QByteArray &bytes);
 /// Writes over a file in place, without waiting for the medium. A failure or an interruption leaves a mixture.
 DiskResult overwriteFile(const QString &path, const QByteArray &bytes);
 void removeFile(const QString &path);

@@ -56,6 +56,14 @@ QString takeLine(const QString &line, QString *group, SettingsMap *values) {
     return QString();
 }
 
+QByteArray shippedText() {
+    QFile shipped(QStringLiteral(":/headunit/factory/audiosettings.ini"));
+    if (!shipped.open(QIODevice::ReadOnly)) {
+        qFatal("the shipped factory file is missing in this library");
+    }
+    return shipped.readAll();
+}
+
 }  // namespace
 
 FactoryState parseFactoryText(const QByteArray &text) {
@@ -79,27 +87,30 @@ FactoryState readFactoryFile(const QString &path) {
     FactoryState state;
     QByteArray text;
     const DiskResult result = readFile(path, sizeLimit, &text);
-    if (result.ok()) {
-        state = parseFactoryText(text);
-    } else {
+    if (!result.ok()) {
         state.problem = result.error;
+    } else if (text.trimmed().isEmpty()) {
+        state.problem = QStringLiteral("it is empty");  // what a write that was cut short leaves
+    } else {
+        state = parseFactoryText(text);
     }
     if (!state.problem.isEmpty()) {
-        state.problem = QStringLiteral("factory file %1: %2; settings go to their defaults").arg(path, state.problem);
+        state.values = shippedFactoryValues();
+        state.missing = result.missing;
+        state.problem = QStringLiteral("factory file %1: %2; the factory state that the unit shipped with is used")
+                            .arg(path, state.problem);
     }
     return state;
 }
 
-void installFactoryFile(const QString &path) {
-    QFile shipped(QStringLiteral(":/headunit/factory/audiosettings.ini"));
-    if (!shipped.open(QIODevice::ReadOnly)) {
-        qFatal("the shipped factory file is missing in this library");
-    }
+SettingsMap shippedFactoryValues() {
+    return parseFactoryText(shippedText()).values;
+}
+
+QString installFactoryFile(const QString &path) {
     QDir().mkpath(QFileInfo(path).path());
-    const DiskResult result = writeFileDurably(path, shipped.readAll());
-    if (!result.ok()) {
-        qWarning("factory file %s cannot be written: %s", qUtf8Printable(path), qUtf8Printable(result.error));
-    }
+    const DiskResult result = replaceFileDurably(path, shippedText());
+    return result.ok() ? QString() : QStringLiteral("factory file %1 cannot be written: %2").arg(path, result.error);
 }
 
 }  // namespace headunit

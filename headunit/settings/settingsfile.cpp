@@ -1,5 +1,6 @@
 #include "settingsfile.h"
 
+#include "damagedfile.h"
 #include "diskio.h"
 
 #include <QFileInfo>
@@ -9,7 +10,6 @@ namespace headunit {
 namespace {
 
 constexpr qint64 sizeLimit = qint64(4) * 1024 * 1024;
-constexpr int asideLimit = 1000;
 
 }  // namespace
 
@@ -66,25 +66,12 @@ SettingsFile::Presence SettingsFile::readOrSetAside(const QString &path, Snapsho
     *problem +=
         (problem->isEmpty() ? QStringLiteral("settings file %1: %2") : QStringLiteral("; %1: %2")).arg(path, reason);
     QString newName;
-    if (!setAside(path, &newName, &reason)) {
+    if (!setDamagedFileAside(path, &newName, &reason)) {
         *problem += QStringLiteral("; cannot be set aside: %1").arg(reason);
         return Presence::Bad;
     }
     *problem += QStringLiteral("; set aside as %1").arg(newName);
     return Presence::Missing;
-}
-
-bool SettingsFile::setAside(const QString &path, QString *newName, QString *reason) {
-    for (int number = 1; number <= asideLimit; ++number) {
-        *newName = QStringLiteral("%1.damaged-%2").arg(path).arg(number);
-        if (!pathExists(*newName)) {
-            const DiskResult result = renameFile(path, *newName);
-            *reason = result.error;
-            return result.ok() || result.missing;
-        }
-    }
-    *reason = QStringLiteral("too many damaged files beside it");
-    return false;
 }
 
 bool SettingsFile::saveQuickly(const Snapshot &snapshot) {
@@ -108,7 +95,7 @@ bool SettingsFile::save(const Snapshot &snapshot, QString *problem) {
         QString newName;
         QString reason;
         if (*presence == Presence::Bad) {
-            if (!setAside(presence == &m_present ? m_path : backupPath(), &newName, &reason)) {
+            if (!setDamagedFileAside(presence == &m_present ? m_path : backupPath(), &newName, &reason)) {
                 return failed(reason);
             }
             *presence = Presence::Missing;

@@ -42,7 +42,6 @@ private:
     enum class Presence { Good, Missing, Bad };
     static Presence read(const QString &path, Snapshot *snapshot, QString *reason);
     static Presence readOrSetAside(const QString &path, Snapshot *snapshot, QString *problem);
-    static bool setAside(const QString &path, QString *newName, QString *reason);
 
     QString m_path;
     Presence m_present = Presence::Missing;      ///< what stands under path()

@@ -86,7 +86,7 @@ SoundState SoundModel::restored() const {
     next.activePrompts = m_state.activePrompts;
     next.trim = m_state.trim;
     next.eqType = stored(m_store, keys::eqType);
-    next.customEq = storedRow<SoundState::bands>(m_store, keys::customEq, ranges::bandValue, OutOfRange::Default);
+    next.customEq = storedRow<SoundState::bands>(m_store, keys::flatBand, ranges::bandValue, OutOfRange::Default);
     next.balance = clamped(stored(m_store, keys::balance), ranges::balanceFader, keys::balance.name);
     next.fader = clamped(stored(m_store, keys::fader), ranges::balanceFader, keys::fader.name);
     next.channelLevel =

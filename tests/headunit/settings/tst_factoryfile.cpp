@@ -2,7 +2,9 @@
 
 #include <QtTest>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
+#include <csignal>
 
 using namespace headunit;
 
@@ -15,6 +17,7 @@ private Q_SLOTS:
     void unreadable_data();
     void unreadable();
     void shipped();
+    void installedWholeOrNotAtAll();
 };
 
 void tst_FactoryFile::values() {
@@ -54,7 +57,7 @@ void tst_FactoryFile::faults() {
 
 void tst_FactoryFile::unreadable_data() {
     QTest::addColumn<QString>("kind");
-    for (const char *kind : {"missing", "folder", "pipe", "huge", "binary"}) {
+    for (const char *kind : {"missing", "folder", "pipe", "huge", "binary", "empty", "blank"}) {
         QTest::newRow(kind) << QString(kind);
     }
 }
@@ -72,17 +75,24 @@ void tst_FactoryFile::unreadable() {
         QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(Q_INT64_C(1) << 33));
     } else if (kind == "binary") {
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(QByteArray(1000, '\x02')) == 1000);
+    } else if (kind == "empty") {
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    } else if (kind == "blank") {
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("\n \n") == 3);
     }
     file.close();
     const FactoryState state = readFactoryFile(path);
-    QVERIFY(state.values.isEmpty());
+    QCOMPARE(state.values, shippedFactoryValues());
+    QCOMPARE(state.values.value("eq3").toInt(), 12);
+    QCOMPARE(state.missing, kind == "missing");
     QVERIFY2(state.problem.contains(path) && !state.problem.contains('\n'), qPrintable(state.problem));
 }
 
 void tst_FactoryFile::shipped() {
     QTemporaryDir folder;
     const QString path = folder.filePath("deep/factory.ini");
-    installFactoryFile(path);
+    QCOMPARE(installFactoryFile(path), QString());
+    QCOMPARE(QFileInfo(path).dir().entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"factory.ini"});
     const FactoryState state = readFactoryFile(path);
     QCOMPARE(state.problem, QString());
     QCOMPARE(state.values.size(), 14);
@@ -90,6 +100,27 @@ void tst_FactoryFile::shipped() {
     for (int band = 0; band < 13; ++band) {
         QVERIFY(sameValue(state.values.value(QString("eq%1").arg(band)), 12));
     }
+}
+
+/// A write that is cut short never stands under the final name.
+void tst_FactoryFile::installedWholeOrNotAtAll() {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("factory.ini");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("eq0=3\n") == 6);
+    file.close();
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit small = {100, before.rlim_max};
+    const auto handler = signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const QString problem = installFactoryFile(path);
+    setrlimit(RLIMIT_FSIZE, &before);
+    signal(SIGXFSZ, handler);
+    QVERIFY2(problem.contains(path) && !problem.contains('\n'), qPrintable(problem));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QCOMPARE(file.readAll(), QByteArray("eq0=3\n"));
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList{"factory.ini"});
 }
 
 QTEST_GUILESS_MAIN(tst_FactoryFile)

@@ -71,7 +71,6 @@ private Q_SLOTS:
     void truncatedAnywhere();
     void flippedAnywhere();
     void bothDamaged();
-    void everyDamagedFileIsKept();
     void cutBetweenRenames();
     void folderInPlaceOfTheFile();
     void missingFolder();
@@ -79,6 +78,7 @@ private Q_SLOTS:
     void pipeInPlaceOfTheFile();
     void fullDisk();
     void damagedFileThatCannotBeSetAside();
+    void newestDamagedFilesStay();
     void quickCopy_data();
     void quickCopy();
     void peekTouchesNothing();
@@ -268,17 +268,6 @@ void tst_SettingsFile::bothDamaged() {
     QCOMPARE(get(path() + ".bak.damaged-1"), QByteArray("y"));
 }
 
-void tst_SettingsFile::everyDamagedFileIsKept() {
-    for (int number = 1; number <= 3; ++number) {
-        const QByteArray bytes = "damage " + QByteArray::number(number);
-        put(path(), bytes);
-        Snapshot state;
-        QString problem;
-        SettingsFile(path()).load(&state, &problem);
-        QCOMPARE(get(QString("%1.damaged-%2").arg(path()).arg(number)), bytes);
-    }
-}
-
 void tst_SettingsFile::cutBetweenRenames() {
     saveTwice();
     // What a save leaves when it is cut after its first rename.
@@ -360,22 +349,33 @@ void tst_SettingsFile::fullDisk() {
 }
 
 void tst_SettingsFile::damagedFileThatCannotBeSetAside() {
-    // A full set of names stands in for a disk that takes no rename.
-    put(path(), "x");
-    for (int number = 1; number <= 1000; ++number) {
-        put(QString("%1.damaged-%2").arg(path()).arg(number), "old");
-    }
+    // A name that leaves no room for a longer one stands in for a disk that takes no rename.
+    const QString name = m_folder->filePath(QString(250, 'n'));
+    put(name, "x");
     Snapshot state;
     QString problem;
-    SettingsFile file(path());
+    SettingsFile file(name);
     QVERIFY(!file.load(&state, &problem));
-    QVERIFY2(problem.contains(path()) && problem.contains("cannot be set aside"), qPrintable(problem));
+    QVERIFY2(problem.contains(name) && problem.contains("cannot be set aside"), qPrintable(problem));
     QVERIFY(!file.save(newer, &problem));
-    QCOMPARE(get(path()), QByteArray("x"));
-    QVERIFY(QFile::remove(path() + ".damaged-7"));
+    QCOMPARE(get(name), QByteArray("x"));
+    QVERIFY(QFile::remove(name));
     QVERIFY(file.save(newer, &problem));
-    QCOMPARE(get(path() + ".damaged-7"), QByteArray("x"));
-    QCOMPARE(get(path()), settingsToText(newer));
+    QCOMPARE(get(name), settingsToText(newer));
+}
+
+void tst_SettingsFile::newestDamagedFilesStay() {
+    put(path() + ".damaged-99999999999999999999", "no number of ours");
+    for (int number = 1; number <= 6; ++number) {
+        put(path(), QByteArray("x") + QByteArray::number(number));
+        Snapshot state;
+        QString problem;
+        QVERIFY(!SettingsFile(path()).load(&state, &problem));
+        QVERIFY2(problem.contains(QString("damaged-%1;").arg(number)), qPrintable(problem));
+    }
+    QCOMPARE(files(), QStringList({"settings.json.damaged-4", "settings.json.damaged-5", "settings.json.damaged-6",
+                                   "settings.json.damaged-99999999999999999999"}));
+    QCOMPARE(get(path() + ".damaged-6"), QByteArray("x6"));
 }
 
 void tst_SettingsFile::quickCopy_data() {

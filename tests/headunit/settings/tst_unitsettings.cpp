@@ -21,6 +21,10 @@ private Q_SLOTS:
     void defaultRoot();
     void firstStart();
     void factoryFileIsNotPutBack();
+    void uselessFactoryFile_data();
+    void uselessFactoryFile();
+    void customCurveIsFlat_data();
+    void customCurveIsFlat();
     void damagedStoreStartsFromTheFactory();
     void rootThatCannotBe();
     void mainVolumeIsLimitedAtPowerUp_data();
@@ -100,6 +104,70 @@ void tst_UnitSettings::factoryFileIsNotPutBack() {
     QVERIFY(!QFile::exists(inRoot("factory/audiosettings.ini")));
     const FactoryState state = factoryState("/media/flash/nvm/factory/audiosettings.ini");
     QVERIFY2(state.problem.contains(inRoot("factory/audiosettings.ini")), qPrintable(state.problem));
+}
+
+void tst_UnitSettings::uselessFactoryFile_data() {
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("zeros") << QByteArray(500, 0);
+    QTest::newRow("no factory file") << QByteArray("eq0=0\nhello\n");
+    QTest::newRow("folder") << QByteArray();
+}
+
+/// Said once and set aside; what the unit shipped with serves at this start, at the next and for a reset.
+void tst_UnitSettings::uselessFactoryFile() {
+    QFETCH(QByteArray, text);
+    const QString path = inRoot("factory/audiosettings.ini");
+    QVERIFY(QDir().mkpath(text.isNull() ? path : inRoot("factory")));
+    if (!text.isNull()) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    }
+    LogWatch log;
+    const QStringList problems = openSettings();
+    QCOMPARE(problems.size(), 1);
+    QVERIFY2(problems.first().contains(path + ".damaged-1"), qPrintable(problems.first()));
+    QCOMPARE(log.takeWarnings(), problems);
+    QCOMPARE(audioStore().values(), shippedFactoryValues());
+    QVERIFY(QFileInfo::exists(path + ".damaged-1") && !QFileInfo::exists(path));
+    const FactoryState reset = factoryState("/media/flash/nvm/factory/audiosettings.ini");
+    QCOMPARE(reset.values, shippedFactoryValues());
+    QCOMPARE(reset.problem, QString());  // said already
+    closeSettings();
+    QCOMPARE(openSettings(), QStringList());
+    QCOMPARE(audioStore().values(), shippedFactoryValues());
+    QCOMPARE(log.takeWarnings(), QStringList());
+}
+
+void tst_UnitSettings::customCurveIsFlat_data() {
+    QTest::addColumn<QVariantMap>("stored");
+    QTest::newRow("new unit") << QVariantMap();
+    QTest::newRow("one band") << QVariantMap{{"eq3", 7}};
+    QTest::newRow("other settings") << QVariantMap{{"subwooferLevel", 4}};
+}
+
+/// Neither store nor factory file need name the custom curve.
+void tst_UnitSettings::customCurveIsFlat() {
+    QFETCH(QVariantMap, stored);
+    QVERIFY(QDir().mkpath(inRoot("factory")));
+    QFile file(inRoot("factory/audiosettings.ini"));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("subwooferLevel=9\n") > 0);
+    file.close();
+    if (!stored.isEmpty()) {
+        SettingsStore store;
+        store.open(inRoot("settings/audiosettings.json"), SettingsMap());
+        for (auto it = stored.cbegin(); it != stored.cend(); ++it) {
+            store.set(it.key(), it.value());
+        }
+        QVERIFY(QTest::qWaitFor([&store] { return store.flush(); }, 60000));
+    }
+    QCOMPARE(openSettings(), QStringList());
+    for (int band = 0; band < 13; ++band) {
+        const QString key = QString("eq%1").arg(band);
+        QCOMPARE(audioStore().intValue(key, 0), stored.value(key, 12).toInt());
+        const FactoryState reset = factoryState("/media/flash/nvm/factory/audiosettings.ini");
+        QCOMPARE(reset.values.value(key).toInt(), 12);
+    }
 }
 
 void tst_UnitSettings::damagedStoreStartsFromTheFactory() {

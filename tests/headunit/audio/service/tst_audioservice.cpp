@@ -74,7 +74,7 @@ void tst_AudioService::eqType() {
 }
 
 void tst_AudioService::customEq() {
-    QCOMPARE(m_service->getCustomEq(4), 0);  // what its readers take for a band that was never set
+    QCOMPARE(m_service->getCustomEq(4), 12);  // a band that was never set is flat
     m_service->setCustomEq(24, 4, true);
     m_service->setCustomEq(-12, 5, true);
     QCOMPARE(m_service->getCustomEq(4), 24);
@@ -194,7 +194,7 @@ void tst_AudioService::tracedReads() {
     m_service->getCustomEq(0);
     m_service->getSourceVolByType(3);
     QCOMPARE(lines, QStringList({"getBalanceFader(0, 0) -> balance centre, fader centre",
-                                 "getCurrEQType() -> equaliser is Flat", "getCustomEq(0) -> band 63 Hz: -12 dB",
+                                 "getCurrEQType() -> equaliser is Flat", "getCustomEq(0) -> band 63 Hz: 0 dB",
                                  "getSourceVolByType(3) -> navigation volume 16 of 40"}));
 }
 

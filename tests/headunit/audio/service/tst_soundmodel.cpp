@@ -58,6 +58,7 @@ void tst_SoundModel::emptyStore() {
     SettingsStore store;
     const SoundModel model(store);
     SoundState expected;
+    expected.customEq.fill(12);
     expected.channelLevel.fill(16);
     expected.sourceGain.fill(10);
     QVERIFY(model.state() == expected);
@@ -587,12 +588,12 @@ void tst_SoundModel::aStoredValueOutOfRangeIsReportedAsItStands() {
     store.set("audioinputgain6", -11);
     LogWatch log;
     const SoundModel model(store);
-    QCOMPARE(log.takeDebug(), QStringList({"sound: eq3 99 is not within -12 to 24, taken as 0",
-                                           "sound: eq12 -13 is not within -12 to 24, taken as 0",
+    QCOMPARE(log.takeDebug(), QStringList({"sound: eq3 99 is not within -12 to 24, taken as 12",
+                                           "sound: eq12 -13 is not within -12 to 24, taken as 12",
                                            "sound: audioinputgain5 2147483647 is not within -10 to 10, taken as 10",
                                            "sound: audioinputgain6 -11 is not within -10 to 10, taken as -10"}));
-    QCOMPARE(model.state().customEq[3], 0);
-    QCOMPARE(model.state().customEq[12], 0);
+    QCOMPARE(model.state().customEq[3], 12);
+    QCOMPARE(model.state().customEq[12], 12);
     QCOMPARE(model.state().sourceGain[5], 20);
     QCOMPARE(model.state().sourceGain[6], 0);
 }
