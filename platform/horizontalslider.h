@@ -5,9 +5,9 @@
 #include <QWidget>
 
 /// The toolkit's horizontal level slider: the knob jumps to the finger anywhere on the widget, in whole steps.
-/// Half a knob is kept free at either end. The picture of the empty track lies over the whole width, the filled one over
-/// it, from the left end, or from 0 where the range spans 0, to the knob. The knob carries the value, with a sign where
-/// the range spans 0.
+/// Half a knob is kept free at either end. The picture of the empty track lies over the whole width, the filled one
+/// over it, from the left end, or from 0 where the range spans 0, to the knob. The knob carries the value, with a sign
+/// where the range spans 0.
 class PLATFORM_API HorizontalSlider : public QWidget {
     Q_OBJECT
 public:

@@ -16,6 +16,7 @@ LoudspeakerLight::LoudspeakerLight(QWidget *parent) : QLabel(parent) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
     m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(lightTime);
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(timeIsOver()));
 }

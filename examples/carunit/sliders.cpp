@@ -67,15 +67,28 @@ bool HorizontalSlider::getMoveState() const { return d->moving; }
 void HorizontalSlider::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     const int steps = qMax(1, d->end - 1 - d->min);
-    const int index = qBound(d->min, d->value, d->end - 1) - d->min;
     // Half a knob is kept free at either end.
-    const int centre = d->knob.width() / 2 + qRound(double(index) * (width() - d->knob.width()) / steps);
+    const auto place = [&](int value) {
+        const int index = qBound(d->min, value, d->end - 1) - d->min;
+        return d->knob.width() / 2 + qRound(double(index) * (width() - d->knob.width()) / steps);
+    };
+    const int centre = place(d->value);
+    const bool spansZero = d->min < 0 && d->end > 1;
+    const int from = spansZero ? place(0) : 0;
     const int top = (height() - d->empty.height()) / 2;
     painter.drawPixmap(QRect(0, top, width(), d->empty.height()), d->empty);
-    painter.setClipRect(0, 0, centre, height());
+    painter.setClipRect(qMin(from, centre), 0, qAbs(centre - from), height());
     painter.drawPixmap(QRect(0, top, width(), d->filled.height()), d->filled);
     painter.setClipping(false);
-    if (d->showKnob) { painter.drawPixmap(centre - d->knob.width() / 2, (height() - d->knob.height()) / 2, d->knob); }
+    if (!d->showKnob) { return; }
+    const QRect knob(QPoint(centre - d->knob.width() / 2, (height() - d->knob.height()) / 2), d->knob.size());
+    painter.drawPixmap(knob.topLeft(), d->knob);
+    QFont number = font();
+    number.setPixelSize(20);
+    painter.setFont(number);
+    painter.setPen(QColor(0x11, 0x11, 0x11));
+    painter.drawText(knob, Qt::AlignCenter,
+                     (spansZero && d->value > 0 ? QStringLiteral("+") : QString()) + QString::number(d->value));
 }
 
 void HorizontalSlider::mousePressEvent(QMouseEvent *event) {

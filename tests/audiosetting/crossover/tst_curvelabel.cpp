@@ -98,11 +98,14 @@ private slots:
                 if (y < 1 || y > source.height() - 4 || !flat || !seen.rect().adjusted(1, 2, -1, -3).contains(at)) {
                     continue;
                 }
-                QVERIFY2(isNear(seen.pixel(at), colour), qPrintable(QStringLiteral("%1 at %2, %3: %4")
-                                                                        .arg(QLatin1String(file))
-                                                                        .arg(at.x())
-                                                                        .arg(at.y())
-                                                                        .arg(seen.pixel(at), 0, 16)));
+                // A row of the picture is up to four of the label: the line passes within a pixel of where it puts it.
+                const bool found = isNear(seen.pixel(at), colour) || isNear(seen.pixel(at - QPoint(0, 1)), colour) ||
+                                   isNear(seen.pixel(at + QPoint(0, 1)), colour);
+                QVERIFY2(found, qPrintable(QStringLiteral("%1 at %2, %3: %4")
+                                               .arg(QLatin1String(file))
+                                               .arg(at.x())
+                                               .arg(at.y())
+                                               .arg(seen.pixel(at), 0, 16)));
                 ++compared;
             }
         }

@@ -39,7 +39,7 @@ private slots:
         // Where it begins, and for each band two control points and the place: "x yC x y x y x y ...".
         const QStringList numbers = path.split(QRegularExpression(QStringLiteral("[ C]")));
         QCOMPARE(numbers.size(), 2 + 6 * (eqBandCount - 1));
-        const tagAudioEQItem_T curve = audiosetting::eq::curveOfType(audiosetting::eq::presets(), type);
+        const tagAudioEQItem_T curve = audiosetting::eq::curveOfType(audiosetting::eq::curves(), type);
         for (int band = 0; band < eqBandCount; ++band) {
             const int at = 6 * band;
             QVERIFY(qAbs(numbers.at(at).toDouble() - (firstX + band * bandStep)) < 0.1);
