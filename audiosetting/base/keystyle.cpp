@@ -1,5 +1,7 @@
 #include "keystyle.h"
 
+#include "picture.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QPainter>
@@ -62,7 +64,11 @@ void KeyStyle::drawKey(const QStyleOptionButton &key, QPainter *painter, const Q
         const QAbstractButton *const button = qobject_cast<const QAbstractButton *>(widget);
         const Picture shown = existingPicture(key.icon, wantedPicture(key.state, button && button->isCheckable()));
         QWindow *const window = widget ? widget->window()->windowHandle() : nullptr;
-        const QPixmap pixmap = key.icon.pixmap(window, key.iconSize, shown.mode, shown.state);
+        QPixmap pixmap = key.icon.pixmap(window, key.iconSize, shown.mode, shown.state);
+        if (pixmap.devicePixelRatio() > 1) {
+            // Qt gives a dense picture that is smaller than the icon the density at which it would fill it.
+            pixmap.setDevicePixelRatio(displayDensity());
+        }
         QRect target(QPoint(0, 0), pixmap.size() / pixmap.devicePixelRatio());
         target.moveCenter(key.rect.center());
         painter->drawPixmap(target, pixmap);

@@ -4,6 +4,7 @@
 #include "headunit/toolkit/unitapplication.h"
 
 #include <QAbstractButton>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStyleOptionButton>
 
@@ -49,8 +50,12 @@ void HeadUnitStyle::drawPushButton(const QStyleOptionButton &button, QPainter *p
     const auto *key = qobject_cast<const QAbstractButton *>(widget);
     if (!button.icon.isNull()) {
         const IconState state = iconState(button.state, key && key->isCheckable());
-        const QPixmap pixmap = button.icon.pixmap(widget ? widget->window()->windowHandle() : nullptr, button.iconSize,
-                                                  state.mode, state.state);
+        QPixmap pixmap = button.icon.pixmap(widget ? widget->window()->windowHandle() : nullptr, button.iconSize,
+                                            state.mode, state.state);
+        if (pixmap.devicePixelRatio() > 1) {
+            // Qt gives a dense picture that is smaller than the icon the density at which it would fill it.
+            pixmap.setDevicePixelRatio(qApp->devicePixelRatio());
+        }
         QRect target(QPoint(0, 0), pictureSize(pixmap));
         target.moveCenter(button.rect.center());
         painter->drawPixmap(target, pixmap);

@@ -160,8 +160,8 @@
         <translation>Bluetooth-Musik</translation>
     </message>
     <message id="20001">
-        <source>Audio settings</source>
-        <translation>Audio</translation>
+        <source>Audio Settings</source>
+        <translation>Audioeinstellungen</translation>
     </message>
     <message id="20002">
         <source>Car</source>
@@ -184,15 +184,15 @@
         <translation>Sprache</translation>
     </message>
     <message id="20007">
-        <source>Volume settings</source>
+        <source>Volume Settings</source>
         <translation>Lautstärken</translation>
     </message>
     <message id="20008">
-        <source>Start call</source>
+        <source>Start Call</source>
         <translation>Anruf starten</translation>
     </message>
     <message id="20009">
-        <source>End call</source>
+        <source>End Call</source>
         <translation>Anruf beenden</translation>
     </message>
     <message id="20010">
@@ -201,7 +201,7 @@
     </message>
     <message id="20011">
         <source>Main</source>
-        <translation>Gesamt</translation>
+        <translation>Hauptlautstärke</translation>
     </message>
     <message id="20012">
         <source>Ringtone</source>
@@ -217,7 +217,7 @@
     </message>
     <message id="20015">
         <source>Voice</source>
-        <translation>Sprachbedienung</translation>
+        <translation>Assistent</translation>
     </message>
     <message id="20016">
         <source>Traffic</source>
@@ -232,7 +232,7 @@
         <translation>Verkehr</translation>
     </message>
     <message id="20033">
-        <source>Key beep</source>
+        <source>Key Beep</source>
         <translation>Tastenton</translation>
     </message>
     <message id="20034">
@@ -260,7 +260,7 @@
         <translation>DAB</translation>
     </message>
     <message id="20018">
-        <source>Band adjust</source>
+        <source>Band Adjust</source>
         <translation>Bänder</translation>
     </message>
     <message id="20019">

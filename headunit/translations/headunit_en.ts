@@ -160,8 +160,8 @@
         <translation>Bluetooth Music</translation>
     </message>
     <message id="20001">
-        <source>Audio settings</source>
-        <translation>Audio settings</translation>
+        <source>Audio Settings</source>
+        <translation>Audio Settings</translation>
     </message>
     <message id="20002">
         <source>Car</source>
@@ -184,16 +184,16 @@
         <translation>Language</translation>
     </message>
     <message id="20007">
-        <source>Volume settings</source>
-        <translation>Volume settings</translation>
+        <source>Volume Settings</source>
+        <translation>Volume Settings</translation>
     </message>
     <message id="20008">
-        <source>Start call</source>
-        <translation>Start call</translation>
+        <source>Start Call</source>
+        <translation>Start Call</translation>
     </message>
     <message id="20009">
-        <source>End call</source>
-        <translation>End call</translation>
+        <source>End Call</source>
+        <translation>End Call</translation>
     </message>
     <message id="20010">
         <source>Call in progress</source>
@@ -232,8 +232,8 @@
         <translation>Traffic</translation>
     </message>
     <message id="20033">
-        <source>Key beep</source>
-        <translation>Key beep</translation>
+        <source>Key Beep</source>
+        <translation>Key Beep</translation>
     </message>
     <message id="20034">
         <source>Muted</source>
@@ -260,8 +260,8 @@
         <translation>DAB</translation>
     </message>
     <message id="20018">
-        <source>Band adjust</source>
-        <translation>Band adjust</translation>
+        <source>Band Adjust</source>
+        <translation>Band Adjust</translation>
     </message>
     <message id="20019">
         <source>Tuner's desk</source>

@@ -160,8 +160,8 @@
         <translation>Música Bluetooth</translation>
     </message>
     <message id="20001">
-        <source>Audio settings</source>
-        <translation>Audio</translation>
+        <source>Audio Settings</source>
+        <translation>Ajustes de audio</translation>
     </message>
     <message id="20002">
         <source>Car</source>
@@ -184,15 +184,15 @@
         <translation>Idioma</translation>
     </message>
     <message id="20007">
-        <source>Volume settings</source>
+        <source>Volume Settings</source>
         <translation>Ajustes de volumen</translation>
     </message>
     <message id="20008">
-        <source>Start call</source>
+        <source>Start Call</source>
         <translation>Iniciar llamada</translation>
     </message>
     <message id="20009">
-        <source>End call</source>
+        <source>End Call</source>
         <translation>Finalizar llamada</translation>
     </message>
     <message id="20010">
@@ -232,7 +232,7 @@
         <translation>Tráfico</translation>
     </message>
     <message id="20033">
-        <source>Key beep</source>
+        <source>Key Beep</source>
         <translation>Pitido</translation>
     </message>
     <message id="20034">
@@ -260,7 +260,7 @@
         <translation>DAB</translation>
     </message>
     <message id="20018">
-        <source>Band adjust</source>
+        <source>Band Adjust</source>
         <translation>Bandas</translation>
     </message>
     <message id="20019">

@@ -160,8 +160,8 @@
         <translation>Musique Bluetooth</translation>
     </message>
     <message id="20001">
-        <source>Audio settings</source>
-        <translation>Audio</translation>
+        <source>Audio Settings</source>
+        <translation>Réglages audio</translation>
     </message>
     <message id="20002">
         <source>Car</source>
@@ -184,15 +184,15 @@
         <translation>Langue</translation>
     </message>
     <message id="20007">
-        <source>Volume settings</source>
+        <source>Volume Settings</source>
         <translation>Réglages du volume</translation>
     </message>
     <message id="20008">
-        <source>Start call</source>
+        <source>Start Call</source>
         <translation>Lancer un appel</translation>
     </message>
     <message id="20009">
-        <source>End call</source>
+        <source>End Call</source>
         <translation>Terminer l’appel</translation>
     </message>
     <message id="20010">
@@ -201,7 +201,7 @@
     </message>
     <message id="20011">
         <source>Main</source>
-        <translation>Général</translation>
+        <translation>Principal</translation>
     </message>
     <message id="20012">
         <source>Ringtone</source>
@@ -229,10 +229,10 @@
     </message>
     <message id="20032">
         <source>Traffic</source>
-        <translation>Trafic</translation>
+        <translation>Info trafic</translation>
     </message>
     <message id="20033">
-        <source>Key beep</source>
+        <source>Key Beep</source>
         <translation>Bip</translation>
     </message>
     <message id="20034">
@@ -260,7 +260,7 @@
         <translation>DAB</translation>
     </message>
     <message id="20018">
-        <source>Band adjust</source>
+        <source>Band Adjust</source>
         <translation>Bandes</translation>
     </message>
     <message id="20019">

@@ -160,8 +160,8 @@
         <translation>Bluetooth ミュージック</translation>
     </message>
     <message id="20001">
-        <source>Audio settings</source>
-        <translation>オーディオ</translation>
+        <source>Audio Settings</source>
+        <translation>オーディオ設定</translation>
     </message>
     <message id="20002">
         <source>Car</source>
@@ -184,15 +184,15 @@
         <translation>言語</translation>
     </message>
     <message id="20007">
-        <source>Volume settings</source>
+        <source>Volume Settings</source>
         <translation>音量設定</translation>
     </message>
     <message id="20008">
-        <source>Start call</source>
+        <source>Start Call</source>
         <translation>発信</translation>
     </message>
     <message id="20009">
-        <source>End call</source>
+        <source>End Call</source>
         <translation>通話終了</translation>
     </message>
     <message id="20010">
@@ -232,7 +232,7 @@
         <translation>交通情報</translation>
     </message>
     <message id="20033">
-        <source>Key beep</source>
+        <source>Key Beep</source>
         <translation>操作音</translation>
     </message>
     <message id="20034">
@@ -260,7 +260,7 @@
         <translation>DAB</translation>
     </message>
     <message id="20018">
-        <source>Band adjust</source>
+        <source>Band Adjust</source>
         <translation>バンド調整</translation>
     </message>
     <message id="20019">

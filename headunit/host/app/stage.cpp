@@ -1,5 +1,6 @@
 #include "headunit/host/app/stage.h"
 
+#include "headunit/host/screens/fadingpicture.h"
 #include "headunit/settings/trace.h"
 #include "keyevent.h"
 #include "windowinterface.h"
@@ -36,7 +37,8 @@ bool Stage::open(WindowInterface *window) {
     if (window == m_front) {
         return true;
     }
-    leave();
+    fadeFromPresent();
+    takeOffFront();
     tell(window, onCreate);
     if (!m_created.contains(window)) {
         m_created << window;
@@ -50,6 +52,7 @@ bool Stage::open(WindowInterface *window) {
     tell(window, onShow);
     widget->show();
     widget->raise();
+    raiseFade();
     tell(window, onEnter);
     Q_EMIT frontChanged();
     return true;
@@ -71,6 +74,13 @@ void Stage::refresh() {
 }
 
 void Stage::leave() {
+    if (m_front) {
+        fadeFromPresent();
+        takeOffFront();
+    }
+}
+
+void Stage::takeOffFront() {
     if (!m_front) {
         return;
     }
@@ -84,8 +94,22 @@ void Stage::leave() {
     Q_EMIT frontChanged();
 }
 
+/// Has what is seen now fade away, over whatever is shown next.
+void Stage::fadeFromPresent() {
+    if (m_stage->isVisible()) {
+        delete m_fade;
+        m_fade = new FadingPicture(m_stage->grab(), m_stage->rect(), fadeMilliseconds, m_stage);
+    }
+}
+
+void Stage::raiseFade() {
+    if (m_fade) {
+        m_fade->raise();
+    }
+}
+
 void Stage::shutDown() {
-    leave();
+    takeOffFront();
     for (WindowInterface *window : qAsConst(m_created)) {
         tell(window, onDestroy);
     }

@@ -12,11 +12,15 @@ namespace headunit {
 
 /// Drives the life cycle of the applications' windows: at most one is in front, on a stage widget that it fills.
 ///
+/// What comes to the front and what leaves it fade into each other; the one that comes has the input at once.
+///
 /// Opening: onCreate, onShow, onEnter. Leaving: onExit, onHide. At the end of the unit: onDestroy, for each window
 /// that was ever opened.
 class Stage : public QObject {
     Q_OBJECT
 public:
+    static constexpr int fadeMilliseconds = 120;
+
     /// Shows windows as children of \a stage, above its other children.
     explicit Stage(QWidget *stage, QObject *parent = nullptr);
 
@@ -37,6 +41,9 @@ public:
 
     /// Offers a hard key to the window in front. True if it used it.
     bool offerKey(KeyEvent *event);
+    /// Keeps what was on the stage before, while it fades, above what came to the front.
+    void raiseFade();
+
     /// Asks the window in front whether it answers Back itself.
     bool offerBack();
 
@@ -46,11 +53,14 @@ Q_SIGNALS:
 
 private:
     void takeUpWidget(QWidget *widget);
+    void takeOffFront();
+    void fadeFromPresent();
 
     QWidget *const m_stage;
     WindowInterface *m_front = nullptr;
     QVector<WindowInterface *> m_created;
     QVector<QPointer<QWidget>> m_widgets;
+    QPointer<QWidget> m_fade;
 };
 
 }  // namespace headunit

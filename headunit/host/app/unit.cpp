@@ -38,7 +38,7 @@ Unit::Unit(PluginCatalog &catalog, QWidget *screen, StatusBar::Clock clock)
       m_stage(new Stage(screen, this)),
       m_screens(new UnitScreens(catalog, screen, std::move(clock), this)) {
     connectScreens();
-    setStatusBarObserver([this](bool) { m_screens->updateStatusBar(); });
+    setStatusBarObserver([this](bool) { arrange(); });
     connect(&SoundModel::instance(), &SoundModel::changed, m_screens, &UnitScreens::showSound);
     connect(&SoundModel::instance(), &SoundModel::faultChanged, m_screens, &UnitScreens::showSound);
 }
@@ -84,7 +84,7 @@ void Unit::show(Place place, QWidget *widget) {
     cm::StatusBarControl::instance()->sethide(false);
     widget->show();
     widget->raise();
-    m_screens->updateStatusBar();
+    arrange();
 }
 
 void Unit::showHome() {
@@ -119,6 +119,12 @@ void Unit::closeBandAdjust() {
     }
 }
 
+void Unit::arrange() {
+    m_screens->updateStatusBar();
+    m_stage->raiseFade();
+    m_screens->raiseLevel();
+}
+
 bool Unit::openApplication(const QString &id, Place origin) {
     const Application *application = m_catalog.find(id);
     if (!application) {
@@ -138,7 +144,7 @@ bool Unit::openApplication(const QString &id, Place origin) {
         m_shown = nullptr;
     }
     closeBandAdjust();
-    m_screens->updateStatusBar();
+    arrange();
     return true;
 }
 
@@ -191,7 +197,7 @@ void Unit::endCall() {
         m_place = InApplication;
         m_shown->hide();
         m_shown = nullptr;
-        m_screens->updateStatusBar();
+        arrange();
     } else {
         show(m_beforeCall);
     }

@@ -65,6 +65,8 @@ private:
     void connectScreens();
     void show(Place place);
     void show(Place place, QWidget *widget);
+    /// Has everything that lies above what is in front lie there.
+    void arrange();
     void leaveApplication();
     void closeBandAdjust();
     void stepVolume(int by);

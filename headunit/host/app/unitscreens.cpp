@@ -135,6 +135,12 @@ void UnitScreens::updateStatusBar() {
         m_statusBar->hide();
     }
     if (m_levelOverlay) {
+        m_levelOverlay->setBelowStatusBar(!statusBarHidden());
+    }
+}
+
+void UnitScreens::raiseLevel() {
+    if (m_levelOverlay) {
         m_levelOverlay->raise();
     }
 }
@@ -143,6 +149,7 @@ void UnitScreens::showLevel(int number) {
     const texts::Channel &channel = texts::channels[number];
     if (!m_levelOverlay) {
         m_levelOverlay = new LevelOverlay(m_screen);
+        m_levelOverlay->setBelowStatusBar(!statusBarHidden());
     }
     const bool muted = number == texts::mainChannel && SoundModel::instance().state().muted;
     m_levelOverlay->showLevel(channel.textId, qvaudio::AudioService::instance()->getSourceVolByType(channel.type),

@@ -32,8 +32,10 @@ public:
     void setCallActive(bool active);
     /// Shows mute, prompts and faults of the sound as they now are.
     void showSound();
-    /// Shows the status bar unless an application hides it, and everything above what came to the front.
+    /// Shows the status bar unless an application hides it, above what came to the front.
     void updateStatusBar();
+    /// Has the level, while it is shown, lie above everything.
+    void raiseLevel();
     /// Shows the level of a volume channel (index into texts::channels) for a moment.
     void showLevel(int number);
 

@@ -25,6 +25,7 @@ CallScreen::CallScreen(QWidget *parent) : QWidget(parent) {
     setFont(look::font(look::valuePixels));
     Key *end = new Key(QStringLiteral("call_end"), endKey, this);
     end->setTextId(texts::endCall);
+    end->setWarns(true);
     connect(end, &Key::clicked, this, &CallScreen::ended);
 }
 

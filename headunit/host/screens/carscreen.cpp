@@ -112,6 +112,7 @@ void CarScreen::setLanguage(const QString &code) {
 
 void CarScreen::setCallActive(bool active) {
     m_callKey->setTextId(active ? texts::endCall : texts::startCall);
+    m_callKey->setWarns(active);
 }
 
 void CarScreen::setActivePrompts(const std::array<bool, SoundState::prompts> &active) {

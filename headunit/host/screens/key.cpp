@@ -33,6 +33,11 @@ void Key::setPicture(const QString &name) {
     update();
 }
 
+void Key::setWarns(bool warns) {
+    m_warns = warns;
+    update();
+}
+
 QString Key::caption() const {
     return m_textId ? Translator::translate(m_textId) : text();
 }
@@ -46,15 +51,19 @@ void Key::mousePressEvent(QMouseEvent *event) {
 
 void Key::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    const bool lit = isDown();
+    const bool lit = isDown() && !m_picture.isEmpty();
     look::paintKey(painter, rect(),
                    !isEnabled()  ? look::KeyState::Disabled
                    : lit         ? look::KeyState::Pressed
+                   : isDown()    ? look::KeyState::PressedText
                    : isChecked() ? look::KeyState::Checked
-                                 : look::KeyState::Normal);
+                                 : look::KeyState::Normal,
+                   m_warns);
     if (isChecked()) {
         painter.fillRect((width() - barWidth) / 2, height() - barInset - barHeight, barWidth, barHeight,
-                         lit ? look::litText : colour::accent);
+                         lit        ? look::litText
+                         : isDown() ? colour::text
+                                    : colour::accent);
     }
     QRect textArea = rect().adjusted(barInset, 0, -barInset, 0);
     if (!m_picture.isEmpty()) {

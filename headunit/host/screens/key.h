@@ -17,6 +17,9 @@ public:
     /// Shows the host's pictures name_n and, while pressed, name_p.
     void setPicture(const QString &name);
 
+    /// Gives the key the warm edge: what it does is not done lightly.
+    void setWarns(bool warns);
+
 protected:
     void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -27,6 +30,7 @@ private:
 
     int m_textId = 0;
     QString m_picture;
+    bool m_warns = false;
 };
 
 }  // namespace headunit

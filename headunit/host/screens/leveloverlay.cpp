@@ -1,7 +1,9 @@
 #include "headunit/host/screens/leveloverlay.h"
 
 #include "headunit/audio/service/soundtables.h"
+#include "headunit/host/screens/fadingpicture.h"
 #include "headunit/host/screens/look.h"
+#include "headunit/host/screens/statusbar.h"
 #include "translator.h"
 
 #include <QPainter>
@@ -11,6 +13,7 @@ namespace headunit {
 namespace {
 
 constexpr QRect place(212, 24, 600, 96);
+constexpr int spaceBelowStatusBar = 8;
 constexpr QRect nameArea(28, 0, 190, 96);
 constexpr QRect trackArea(224, 42, 280, 12);
 constexpr QRect valueArea(516, 0, 60, 96);
@@ -26,7 +29,16 @@ LevelOverlay::LevelOverlay(QWidget *parent) : QWidget(parent) {
     hide();
     m_hideTimer.setSingleShot(true);
     m_hideTimer.setInterval(showMilliseconds);
-    connect(&m_hideTimer, &QTimer::timeout, this, &QWidget::hide);
+    connect(&m_hideTimer, &QTimer::timeout, this, &LevelOverlay::fadeOut);
+}
+
+void LevelOverlay::setBelowStatusBar(bool below) {
+    move(place.x(), below ? StatusBar::barHeight + spaceBelowStatusBar : place.y());
+}
+
+void LevelOverlay::fadeOut() {
+    new FadingPicture(grab(), geometry(), fadeMilliseconds, parentWidget());
+    hide();
 }
 
 void LevelOverlay::showLevel(int nameTextId, int level, bool muted) {

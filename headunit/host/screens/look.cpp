@@ -12,9 +12,6 @@ namespace look {
 
 namespace {
 
-constexpr QColor groundTop(0x16, 0x1D, 0x27);
-constexpr QColor groundBottom(0x0A, 0x0D, 0x12);
-
 // The colours of audiosetting/resources/palette/, for keys of any size.
 struct KeyLook {
     QColor top;
@@ -25,6 +22,7 @@ struct KeyLook {
 constexpr KeyLook keyLooks[] = {
     {{0x2C, 0x36, 0x43}, {0x20, 0x28, 0x32}, {0x7D, 0x8A, 0x9A}, 2},
     {{0x35, 0xC9, 0xF6}, {0x0B, 0xB7, 0xED}, {0x82, 0xDE, 0xFA}, 2},
+    {{0x0D, 0x7B, 0xA1}, {0x0A, 0x66, 0x88}, {0x82, 0xDE, 0xFA}, 2},
     {{0x12, 0x56, 0x6D}, {0x0C, 0x3C, 0x4E}, {0x0B, 0xB7, 0xED}, 3},
     {{0x18, 0x1E, 0x26}, {0x16, 0x1B, 0x22}, {0x34, 0x3C, 0x47}, 2},
 };
@@ -40,19 +38,16 @@ QFont font(int pixels) {
 }
 
 void paintGround(QPainter &painter, const QRect &rect) {
-    QLinearGradient gradient(0, 0, 0, screenHeight);
-    gradient.setColorAt(0, groundTop);
-    gradient.setColorAt(1, groundBottom);
-    painter.fillRect(rect, gradient);
+    painter.drawTiledPixmap(rect, loadPicture(QStringLiteral(":/headunit/ground.png")), rect.topLeft());
 }
 
-void paintKey(QPainter &painter, const QRect &rect, KeyState state) {
+void paintKey(QPainter &painter, const QRect &rect, KeyState state, bool warns) {
     const KeyLook &keyLook = keyLooks[int(state)];
     QLinearGradient gradient(0, rect.top(), 0, rect.bottom());
     gradient.setColorAt(0, keyLook.top);
     gradient.setColorAt(1, keyLook.bottom);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(keyLook.edge, keyLook.edgeWidth));
+    painter.setPen(QPen(warns ? warning : keyLook.edge, keyLook.edgeWidth));
     painter.setBrush(gradient);
     painter.drawRoundedRect(QRectF(rect).adjusted(keyInset, keyInset, -keyInset, -keyInset), keyRadius, keyRadius);
 }

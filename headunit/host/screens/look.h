@@ -28,14 +28,20 @@ constexpr QColor warning(0xFF, 0xB4, 0x54);
 constexpr QColor bezel(0x05, 0x06, 0x08);
 constexpr QColor litText(0x04, 0x14, 0x1C);  ///< on a key that lights up
 
-enum class KeyState { Normal, Pressed, Checked, Disabled };
+enum class KeyState {
+    Normal,
+    Pressed,      ///< lights up, for a dark picture
+    PressedText,  ///< dark enough for white text, as the applications' keys that carry text
+    Checked,
+    Disabled
+};
 
 /// The unit's font at a size in pixels.
 QFont font(int pixels);
 /// Fills with the background of every screen.
 void paintGround(QPainter &painter, const QRect &rect);
-/// A raised key.
-void paintKey(QPainter &painter, const QRect &rect, KeyState state);
+/// A raised key. \a warns: what it does is not done lightly, so it has the warm edge.
+void paintKey(QPainter &painter, const QRect &rect, KeyState state, bool warns = false);
 /// Paints one of the host's pictures in the middle of an area, as dense as the display.
 void paintPicture(QPainter &painter, const QRect &area, const QString &name);
 

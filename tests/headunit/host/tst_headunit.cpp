@@ -37,6 +37,9 @@ private Q_SLOTS:
     void scale();
     void densePictures();
     void fullscreen();
+    void keysThatCarryText();
+    void whatIsNotDoneLightly();
+    void groundIsThatOfThePages();
     void scriptResults_data();
     void scriptResults();
     void scriptsImportOthers();
@@ -316,6 +319,52 @@ void TestHeadunit::fullscreen() {
     result = run({"--fullscreen", "--scale", "0.5", "--script", script});
     QVERIFY2(result.code == 0, qPrintable(result.err));
     QCOMPARE(QImage(m_folder->filePath("car.png")).size(), QSize(512, 300));
+}
+
+void TestHeadunit::keysThatCarryText() {
+    // Pressed, the host's look like the applications': white text on a tint that is dark enough for it.
+    const Result result = run(
+        {"--open", "audiosetting", "--script",
+         write("s.js",
+               "press('key_advanced'); wait(100); shot('page.png'); move(600, 560); release(); home(); tap('tile_car');"
+               "wait(400); press('car_call'); wait(100); shot('host.png');")});
+    QVERIFY2(result.code == 0, qPrintable(result.err));
+    const QRgb page = QImage(m_folder->filePath("page.png")).pixel(QPoint(400, 172));
+    const QRgb host = QImage(m_folder->filePath("host.png")).pixel(QPoint(560, 545));
+    QVERIFY2(qAbs(qRed(page) - qRed(host)) <= 4 && qAbs(qGreen(page) - qGreen(host)) <= 8 &&
+                 qAbs(qBlue(page) - qBlue(host)) <= 8,
+             qPrintable(QStringLiteral("%1 and %2").arg(page, 0, 16).arg(host, 0, 16)));
+}
+
+void TestHeadunit::whatIsNotDoneLightly() {
+    const QRgb warm = qRgb(0xFF, 0xB4, 0x54);
+    const Result result =
+        run({"--open", "audiosetting", "--script",
+             write("s.js",
+                   "home(); tap('tile_car'); wait(400); shot('before.png'); tap('car_call'); wait(400);"
+                   "shot('call.png'); tap('hardkey_home'); tap('tile_car'); wait(400); shot('car.png');")});
+    QVERIFY2(result.code == 0, qPrintable(result.err));
+    // The left edge of the key, half way down.
+    const auto edge = [this](const char *file, const QPoint &place) {
+        return QImage(m_folder->filePath(QString::fromLatin1(file))).pixel(place);
+    };
+    QVERIFY(edge("before.png", {520, 545}) != warm);
+    QCOMPARE(edge("call.png", {364, 472}), warm);
+    QCOMPARE(edge("car.png", {520, 545}), warm);
+}
+
+void TestHeadunit::groundIsThatOfThePages() {
+    const Result result = run({"--open", "audiosetting", "--script",
+                               write("s.js", "shot('page.png'); call(true); wait(400); shot('call.png');")});
+    QVERIFY2(result.code == 0, qPrintable(result.err));
+    const QImage page(m_folder->filePath("page.png"));
+    const QImage call(m_folder->filePath("call.png"));
+    // Left of everything, and below the status bar.
+    for (int y = 60; y < page.height(); ++y) {
+        for (int x = 0; x < 24; ++x) {
+            QCOMPARE(call.pixel(x, y), page.pixel(x, y));
+        }
+    }
 }
 
 void TestHeadunit::scriptResults_data() {

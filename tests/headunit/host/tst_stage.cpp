@@ -1,8 +1,12 @@
 #include "headunit/host/app/stage.h"
 
+#include "headunit/host/screens/fadingpicture.h"
+#include "headunit/virtualtime/virtualtime.h"
 #include "keyevent.h"
 #include "windowinterface.h"
 
+#include <QApplication>
+#include <QPalette>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -68,6 +72,7 @@ private Q_SLOTS:
     void leaves();
     void opensAgain();
     void changesOver();
+    void fadesFromOneToTheOther();
     void opensWhatHasNoWidget();
     void offersKeysAndBack();
     void shutsDown();
@@ -149,6 +154,42 @@ void TestStage::changesOver() {
     QCOMPARE(m_screen->childAt(10, 10), m_b->m_widget.data());
 }
 
+void TestStage::fadesFromOneToTheOther() {
+    const auto dress = [](QWidget *widget, Qt::GlobalColor colour) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, colour);
+        widget->setPalette(palette);
+        widget->setAutoFillBackground(true);
+    };
+    const auto middle = [this] { return m_screen->grab().toImage().pixelColor(512, 300); };
+    headunit::VirtualTime *const time = headunit::VirtualTime::instance();
+    m_stage->open(m_a.data());
+    dress(m_a->m_widget, Qt::black);
+    time->advance(headunit::Stage::fadeMilliseconds);
+    QCOMPARE(middle(), QColor(Qt::black));
+    m_stage->open(m_b.data());
+    dress(m_b->m_widget, Qt::white);
+    // At first what was there is still seen, but the new one has the input; then ever less of it.
+    QCOMPARE(middle(), QColor(Qt::black));
+    QCOMPARE(m_screen->childAt(512, 300), m_b->m_widget.data());
+    time->advance(headunit::Stage::fadeMilliseconds / 2);
+    QVERIFY2(qAbs(middle().red() - 128) <= 2, qPrintable(middle().name()));
+    time->advance(headunit::Stage::fadeMilliseconds / 2);
+    QCOMPARE(middle(), QColor(Qt::white));
+    QCOMPARE(m_screen->findChildren<headunit::FadingPicture *>().size(), 0);
+    // Leaving fades, too, over whatever is shown instead.
+    m_stage->leave();
+    QWidget other(m_screen.data());
+    other.setGeometry(m_screen->rect());
+    dress(&other, Qt::black);
+    other.show();
+    other.raise();
+    m_stage->raiseFade();
+    QCOMPARE(middle(), QColor(Qt::white));
+    time->advance(headunit::Stage::fadeMilliseconds);
+    QCOMPARE(middle(), QColor(Qt::black));
+}
+
 void TestStage::opensWhatHasNoWidget() {
     m_stage->open(m_a.data());
     m_b->hasWidget = false;
@@ -197,5 +238,10 @@ void TestStage::survivesADeletedWidget() {
     m_stage->releaseWidgets();
 }
 
-QTEST_MAIN(TestStage)
+int main(int argc, char **argv) {
+    new headunit::VirtualTime;  // Qt's from here on
+    QApplication application(argc, argv);
+    TestStage test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_stage.moc"

@@ -5,6 +5,7 @@
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/host/app/hostapplication.h"
 #include "headunit/host/app/plugincatalog.h"
+#include "headunit/host/screens/fadingpicture.h"
 #include "headunit/host/screens/leveloverlay.h"
 #include "headunit/toolkit/language.h"
 #include "headunit/toolkit/unitapplication.h"
@@ -56,6 +57,7 @@ private Q_SLOTS:
     void volumeKeys();
     void volumeKeysDuringACall();
     void levelOverlayGoesByItself();
+    void levelOverlayKeepsClearOfTheStatusBar();
     void muteKey();
     void volumeKeysEndTheMute();
     void promptsFromTheCar();
@@ -445,10 +447,31 @@ void TestUnit::levelOverlayGoesByItself() {
     QCOMPARE(m_screen->childAt(child("level_overlay")->geometry().center()), child("home"));
     time->advance(1);
     QVERIFY(!shows("level_overlay"));
+    // What is left fades away.
+    const QList<headunit::FadingPicture *> fading = m_screen->findChildren<headunit::FadingPicture *>();
+    QCOMPARE(fading.size(), 1);
+    QCOMPARE(fading.first()->geometry(), child("level_overlay")->geometry());
+    time->advance(headunit::LevelOverlay::fadeMilliseconds - 1);
+    QVERIFY(fading.first()->isVisible());
+    time->advance(1);
+    QCOMPARE(m_screen->findChildren<headunit::FadingPicture *>().size(), 0);
     // It stays on top of an application that is opened meanwhile.
     press(KeyEvent::VolumeUp);
     m_unit->openApplication(app, Unit::Home);
     QCOMPARE(m_screen->children().last(), child("level_overlay"));
+}
+
+void TestUnit::levelOverlayKeepsClearOfTheStatusBar() {
+    press(KeyEvent::VolumeUp);
+    const QWidget *const overlay = child("level_overlay");
+    QCOMPARE(overlay->geometry(), QRect(212, 56, 600, 96));
+    QVERIFY(!overlay->geometry().intersects(child("status_bar")->geometry()));
+    // An application may hide the bar.
+    m_unit->openApplication(app, Unit::Home);
+    cm::StatusBarControl::instance()->sethide(true);
+    QCOMPARE(overlay->geometry(), QRect(212, 24, 600, 96));
+    m_unit->showHome();
+    QCOMPARE(overlay->geometry(), QRect(212, 56, 600, 96));
 }
 
 void TestUnit::applicationUsesAKey() {
