@@ -59,8 +59,12 @@ DeviceFormat DevicePlan::format() const {
     return {static_cast<double>(spec.rate), spec.channels, rowOf(spec.format).samples, routing.routes};
 }
 
+bool DevicePlan::isNone() const {
+    return device == noDevice;
+}
+
 std::string DevicePlan::remark() const {
-    if (device == noDevice) {
+    if (isNone()) {
         return "the sound server has no device, so the unit is silent until it has one";
     }
     if (routing.folded) {

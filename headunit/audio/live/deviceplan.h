@@ -25,6 +25,8 @@ struct DevicePlan {
     DeviceFormat format() const;
     /// A line with what the person at the desk should know of it, or an empty text.
     std::string remark() const;
+    /// Whether it is what the server makes up where there is no device.
+    bool isNone() const;
 };
 
 }  // namespace headunit

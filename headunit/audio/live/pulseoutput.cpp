@@ -50,6 +50,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
     bool paused = false;
     bool saidStalled = false;
     std::string said;
+    SoundFault saidFault = SoundFault::None;
     LoopTimer retry{[this] { context &&isReady() ? look() : connect(); }};
     const std::string mark = settings.desk ? DeskSinks::newMark() : std::string();
     std::optional<DeskSinks> desk;
@@ -60,7 +61,11 @@ struct PulseOutput::Private final : PulseStream::Listener {
     pa_mainloop_api *api() { return pa_threaded_mainloop_get_api(loop); }
     bool isReady() const { return pa_context_get_state(context) == PA_CONTEXT_READY; }
 
-    void say(const std::string &news) {
+    void say(const std::string &news, SoundFault fault) {
+        if (fault != saidFault && settings.onFault) {
+            settings.onFault(fault);
+        }
+        saidFault = fault;
         if (news != said && !news.empty()) {
             std::fprintf(stderr, "headunit: %s\n", news.c_str());
         }
@@ -114,7 +119,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
     }
 
     void serverMissing() {
-        say(noServer);
+        say(noServer, SoundFault::NoServer);
         dropDesk();
         dropStream();
         tryLater();
@@ -201,7 +206,8 @@ struct PulseOutput::Private final : PulseStream::Listener {
         if (!stream) {
             say(settings.device.empty()
                     ? noDevice
-                    : "there is no sound device \"" + settings.device + "\", so the unit is silent until there is");
+                    : "there is no sound device \"" + settings.device + "\", so the unit is silent until there is",
+                SoundFault::NoDevice);
             tryLater();
         }
     }
@@ -255,7 +261,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
     }
 
     void open(const DevicePlan &found) {
-        say(found.remark());
+        say(found.remark(), found.isNone() ? SoundFault::NoDevice : SoundFault::None);
         plan = found;
         moved = moved && found.device != defaultDevice;
         stream = std::make_unique<PulseStream>(api(), context, found, manner(), player, dropouts, *this);

@@ -2,7 +2,10 @@
 
 #include "outputmap.h"
 
+#include "headunit/audio/service/soundfault.h"
+
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -22,6 +25,9 @@ public:
         OutputMap map;       ///< empty: as usual for the device
         bool desk = false;   ///< offers devices that programs play on, and comes less late for it
         std::chrono::milliseconds retryAfter = std::chrono::seconds(2);  ///< between looks for what is missing
+        /// Hears of what keeps the unit from being heard, and that nothing does any more, on the server's thread or
+        /// within the constructor.
+        std::function<void(SoundFault)> onFault{};
     };
 
     /// Starts at once. \a player is used by the server's thread until the output is destroyed.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "soundfault.h"
 #include "soundstate.h"
 
 #include "headunit/settings/settingsstore.h"
@@ -14,9 +15,6 @@ namespace headunit {
 
 /// The crossover's three filters.
 enum class FilterChannel { Front, Rear, Subwoofer };
-
-/// Why what plays is not heard although it should be.
-enum class SoundFault { None, NothingToPlay, NoLibrary, NoServer, NoDevice };
 
 /// The sound of the unit: the one SoundState, the checks at its boundary, and the settings that the services keep
 /// themselves (live equaliser bands, curve in force, channel levels).

@@ -26,7 +26,7 @@ LiveSound::LiveSound(const PlayJob &job, QString *problem) {
     std::string error;
     if (!m_player.choose(QFile::encodeName(job.what).toStdString(), &error)) {
         *problem = QFile::decodeName(error.c_str());
-        SoundModel::instance().setFault(SoundFault::NothingToPlay);
+        m_sourceFault = SoundFault::NothingToPlay;
         m_player.choose("silence", &error);
     }
     SoundModel &model = SoundModel::instance();
@@ -49,10 +49,20 @@ LiveSound::LiveSound(const PlayJob &job, QString *problem) {
     if (!job.map.isEmpty() && !parseOutputMap(job.map.toStdString(), &settings.map, &error)) {
         *problem = QString::fromStdString(error);
     }
+    settings.onFault = [this](SoundFault fault) {
+        QMetaObject::invokeMethod(
+            this, [this, fault] { showFault(fault); }, Qt::QueuedConnection);
+    };
+    showFault(SoundFault::None);
     m_output = std::make_unique<PulseOutput>(m_player, settings);
     if (job.meters) {
         printMeters();
     }
+}
+
+/// Of two reasons the one of the output: without it, nothing else is heard either.
+void LiveSound::showFault(SoundFault fault) {
+    SoundModel::instance().setFault(fault == SoundFault::None ? m_sourceFault : fault);
 }
 
 void LiveSound::takeState() {

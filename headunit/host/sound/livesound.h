@@ -22,11 +22,13 @@ private Q_SLOTS:
 
 private:
     void takeStateSoon();
+    void showFault(SoundFault fault);
     void printMeters();
 
     void followPrograms();
 
     bool m_statePending = false;
+    SoundFault m_sourceFault = SoundFault::None;  ///< of what was to be played
     bool m_saidScheduling = false;
     Player m_player;
     ControlThread m_control{[this](const SoundState &state) { m_player.setState(state); }};

@@ -125,6 +125,7 @@ private Q_SLOTS:
     void followsEveryChange();
     void volumesAndKeysAnswer();
     void whatCannotBePlayed();
+    void saysWhyNothingIsHeard();
 
 private:
     /// Touches, and listens. A short sound is lost where the machine stops the server for its whole length: then again.
@@ -243,6 +244,21 @@ void TestLiveSound::whatCannotBePlayed() {
     QVERIFY(problem.contains("no such file.wav: "));
     SoundModel &model = SoundModel::instance();
     touchUntilHeard([&] { model.setChannelLevel(1, model.channelLevel(1) == 40 ? 39 : 40); });
+}
+
+void TestLiveSound::saysWhyNothingIsHeard() {
+    const SoundModel &model = SoundModel::instance();
+    QString problem;
+    const LiveSound sound({"music"}, &problem);
+    WAIT_FOR(m_server->streams() == "6ch on car");
+    WAIT_FOR(model.fault() == SoundFault::None);
+    m_recording.reset();
+    m_server.reset();
+    WAIT_FOR(model.fault() == SoundFault::NoServer);
+    m_server = std::make_unique<SoundServer>(m_folder);
+    WAIT_FOR(model.fault() == SoundFault::NoDevice);
+    m_server->plugIn("car", SoundServer::sixChannels);
+    WAIT_FOR(model.fault() == SoundFault::None);
 }
 
 QTEST_GUILESS_MAIN(TestLiveSound)
