@@ -149,15 +149,28 @@ bool pathExists(const QString &path) {
 
 bool FolderLock::acquire(const QString &lockFile) {
     release();
-    m_fd = open(QFile::encodeName(lockFile).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, filePermissions);
+    const QByteArray name = QFile::encodeName(lockFile);
+    const auto openLock = [&name] {
+        return open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, filePermissions);
+    };
+    m_fd = openLock();
+    if (m_fd < 0 && errno == ELOOP) {
+        unlink(name.constData());  // a link, which would lead each process to a lock of its own
+        m_fd = openLock();
+    }
     if (m_fd < 0) {
         return true;
     }
-    if (flock(m_fd, LOCK_EX | LOCK_NB) == 0) {
-        return true;
+    int result = 0;
+    do {
+        result = flock(m_fd, LOCK_EX | LOCK_NB);
+    } while (result != 0 && errno == EINTR);
+    // Some network file systems take no locks at all, which is no sign of another holder.
+    if (result != 0 && errno == EWOULDBLOCK) {
+        release();
+        return false;
     }
-    release();
-    return false;
+    return true;
 }
 
 void FolderLock::release() {

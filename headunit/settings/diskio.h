@@ -35,7 +35,7 @@ public:
     FolderLock(const FolderLock &) = delete;
     FolderLock &operator=(const FolderLock &) = delete;
 
-    /// False if another holder has the lock file. A folder that takes no lock file counts as locked.
+    /// False if another holder has the lock file. A folder that takes no lock counts as locked.
     bool acquire(const QString &lockFile);
     void release();
 

@@ -101,8 +101,21 @@ bool SettingsFile::save(const Snapshot &snapshot, QString *problem) {
             *presence = Presence::Missing;
         }
     }
+    const QByteArray text = settingsToText(snapshot);
+    if (text.size() > sizeLimit) {
+        return failed(
+            QStringLiteral("the settings take more than %1 bytes").arg(sizeLimit));  // none could read it again
+    }
     const QString newPath = m_path + QStringLiteral(".new");
-    DiskResult result = writeFileDurably(newPath, settingsToText(snapshot));
+    for (const QString &path : {newPath, backupPath()}) {
+        const QFileInfo info(path);
+        QString newName;
+        QString reason;
+        if ((info.isSymLink() || info.isDir()) && !setDamagedFileAside(path, &newName, &reason)) {
+            return failed(reason);
+        }
+    }
+    DiskResult result = writeFileDurably(newPath, text);
     if (!result.ok()) {
         return failed(result.error);
     }

@@ -17,6 +17,8 @@ namespace {
 constexpr int durableGatherMs = 40;
 constexpr int quickGatherMs = 20;
 
+constexpr int longestText = 64 * 1024;  ///< bytes of UTF-8
+
 }  // namespace
 
 SettingsStore::SettingsStore(std::shared_ptr<SaveClock> clock) : m_clock(std::move(clock)) {}
@@ -92,6 +94,13 @@ void SettingsStore::set(const QString &key, const QVariant &value) {
     if (!kept.isValid() && value.isValid()) {
         if (lineMayPass(value.typeName())) {
             qWarning("settings: %s cannot hold a %s", qUtf8Printable(key), value.typeName());
+        }
+        return;
+    }
+    if (kept.userType() == QMetaType::QString && kept.toString().toUtf8().size() > longestText) {
+        if (lineMayPass(QStringLiteral("long text"))) {
+            qWarning("settings: %s cannot hold a text of more than %d bytes", qUtf8Printable(key.left(60)),
+                     longestText);
         }
         return;
     }

@@ -33,7 +33,8 @@ public:
     bool boolValue(const QString &key, bool defaultValue) const;  ///< see toBool()
     const SettingsMap &values() const { return m_values; }
 
-    /// An invalid value removes the key; what cannot be kept is refused with a warning, one a second each type.
+    /// An invalid value removes the key; what cannot be kept, also a text beyond 64 KiB, is refused
+    /// with a warning, one a second each kind.
     void set(const QString &key, const QVariant &value);
     void replaceAll(const SettingsMap &values);
 

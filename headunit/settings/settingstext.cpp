@@ -38,11 +38,28 @@ QVariant fromMember(const QJsonValue &member) {
     }
 }
 
-/// Over everything but the checksum itself.
-QString checksum(QJsonObject root) {
+QByteArray hash(const QByteArray &text) {
+    return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex();
+}
+
+/// What stands in the checksum's place while it is taken over the bytes as they are written.
+QByteArray blank() {
+    return QByteArray(64, '0');
+}
+
+/// As units took it before: over everything but itself in another spelling, which an odd key may not survive.
+QByteArray olderChecksum(QJsonObject root) {
     root.remove(checksumMember);
-    const QByteArray text = QJsonDocument(root).toJson(QJsonDocument::Compact);
-    return QString::fromLatin1(QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex());
+    return hash(QJsonDocument(root).toJson(QJsonDocument::Compact));
+}
+
+bool checksumIsRight(QByteArray text, const QJsonObject &root) {
+    const QByteArray said = root.value(checksumMember).toString().toLatin1();
+    if (said.size() != blank().size()) {
+        return false;
+    }
+    text.replace(text.indexOf(said), said.size(), blank());  // the first: values come after it
+    return said == hash(text) || said == olderChecksum(root);
 }
 
 }  // namespace
@@ -55,8 +72,9 @@ QByteArray settingsToText(const Snapshot &snapshot) {
                        isText ? QJsonValue(portableText(it.value().toString())) : QJsonValue::fromVariant(it.value()));
     }
     QJsonObject root{{versionMember, formatVersion}, {numberMember, snapshot.number}, {valuesMember, members}};
-    root.insert(checksumMember, checksum(root));
-    return QJsonDocument(root).toJson();
+    root.insert(checksumMember, QString::fromLatin1(blank()));
+    QByteArray text = QJsonDocument(root).toJson();
+    return text.replace(text.indexOf(blank()), blank().size(), hash(text));
 }
 
 bool settingsFromText(const QByteArray &text, Snapshot *snapshot, QString *problem) {
@@ -71,8 +89,8 @@ bool settingsFromText(const QByteArray &text, Snapshot *snapshot, QString *probl
         *problem = QStringLiteral("not a settings file of format %1").arg(formatVersion);
         return false;
     }
-    if (root.contains(checksumMember) && root.value(checksumMember).toString() != checksum(root)) {
-        *problem = QStringLiteral("wrong checksum");
+    if (!checksumIsRight(text, root)) {
+        *problem = root.contains(checksumMember) ? QStringLiteral("wrong checksum") : QStringLiteral("no checksum");
         return false;
     }
     const QJsonObject members = root.value(valuesMember).toObject();

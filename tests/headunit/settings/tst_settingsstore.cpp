@@ -6,6 +6,12 @@
 
 #include <QtTest>
 
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#include <cerrno>
+#include <csignal>
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -19,9 +25,28 @@ constexpr int patienceMs = 60000;
 
 }  // namespace
 
+namespace {
+
+QVector<int> g_flockErrors;  ///< what the next calls end in, before the real one is made
+
+}  // namespace
+
+/// Stands before the C library's, for file systems that are not at hand.
+extern "C" int flock(int fd, int operation) {
+    if (!g_flockErrors.isEmpty()) {
+        errno = g_flockErrors.takeFirst();
+        return -1;
+    }
+    return static_cast<int>(syscall(SYS_flock, fd, operation));
+}
+
 class tst_SettingsStore : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    void longTextIsRefused();
+    void locks_data();
+    void locks();
+    void linkAsLock();
     void init();
     void memoryOnly();
     void factoryFirst();
@@ -266,7 +291,11 @@ void tst_SettingsStore::failingDiskIsOneWarningAndRetried() {
     store.open(path(), {});
     store.set("a", 1);
     QVERIFY(store.flush());
-    QVERIFY(QDir().mkpath(path() + ".new"));  // nothing can be written under that name
+    rlimit before{};
+    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit full = {10, before.rlim_max};  // bytes a file
+    const auto handler = signal(SIGXFSZ, SIG_IGN);
+    QCOMPARE(setrlimit(RLIMIT_FSIZE, &full), 0);
     store.set("a", 2);
     QVERIFY(!store.flush());
     store.set("a", 3);
@@ -277,7 +306,8 @@ void tst_SettingsStore::failingDiskIsOneWarningAndRetried() {
     QCOMPARE(warnings.size(), 1);
     QVERIFY2(warnings.first().contains(path()) && warnings.first().contains("trying again"),
              qPrintable(warnings.first()));
-    QVERIFY(QDir().rmdir(path() + ".new"));
+    setrlimit(RLIMIT_FSIZE, &before);
+    signal(SIGXFSZ, handler);
     QVERIFY(store.flush());  // without a further change
     QCOMPARE(onDisk().value("a"), QVariant(3));
     QCOMPARE(log.takeWarnings(), QStringList{"settings file " + path() + " is written again"});
@@ -302,6 +332,50 @@ void tst_SettingsStore::secondProcessOnlyReads() {
     second.set("a", 2);
     QVERIFY(second.flush());
     QCOMPARE(onDisk().value("a"), QVariant(2));
+}
+
+void tst_SettingsStore::longTextIsRefused() {
+    SettingsStore store;
+    LogWatch log;
+    const QString longest(64 * 1024, 'x');
+    store.set("a", longest);
+    QCOMPARE(store.values().value("a").toString(), longest);
+    store.set("a", longest + 'x');
+    store.set("b", QString(64 * 1024 / 3 + 1, QChar(0x3042)));  // three bytes each
+    QCOMPARE(store.values().value("a").toString(), longest);
+    QVERIFY(!store.values().contains("b"));
+    QCOMPARE(log.takeWarnings(), QStringList("settings: a cannot hold a text of more than 65536 bytes"));
+}
+
+void tst_SettingsStore::locks_data() {
+    QTest::addColumn<QVector<int>>("errors");
+    QTest::addColumn<bool>("free");
+    QTest::newRow("in use") << QVector<int>{EWOULDBLOCK} << false;
+    QTest::newRow("interrupted") << QVector<int>{EINTR, EINTR} << true;
+    QTest::newRow("interrupted, in use") << QVector<int>{EINTR, EWOULDBLOCK} << false;
+    QTest::newRow("no locks here") << QVector<int>{ENOLCK} << true;
+    QTest::newRow("no such call") << QVector<int>{ENOSYS} << true;
+}
+
+/// Only another holder is called one.
+void tst_SettingsStore::locks() {
+    QFETCH(QVector<int>, errors);
+    QTemporaryDir folder;
+    g_flockErrors = errors;
+    FolderLock lock;
+    const bool acquired = lock.acquire(folder.filePath("lock"));
+    g_flockErrors.clear();
+    QTEST(acquired, "free");
+}
+
+void tst_SettingsStore::linkAsLock() {
+    QTemporaryDir folder;
+    QVERIFY(QFile::link(folder.filePath("elsewhere"), folder.filePath("lock")));
+    FolderLock first;
+    FolderLock second;
+    QVERIFY(first.acquire(folder.filePath("lock")));
+    QVERIFY(!second.acquire(folder.filePath("lock")));
+    QVERIFY(!QFile::exists(folder.filePath("elsewhere")));
 }
 
 QTEST_GUILESS_MAIN(tst_SettingsStore)
