@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The bare Qt floor that the product is measured against, in the same run: what the same screen change costs with
 // nothing but plain labels and ready pixmaps.
 //

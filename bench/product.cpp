@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The product under measurement: the built plug-in in the built head unit's libraries, without the host's frame.
 //
 //   product count PAGE               prints how many widgets the page shows

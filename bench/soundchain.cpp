@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The whole sound chain, every part of it at work:
 //
 //   soundchain plain|best IN.wav OUT.wav    from file to file

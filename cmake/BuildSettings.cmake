@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Settings that every target shares.
 
 set(AUDIOSETTING_SANITIZE "" CACHE STRING

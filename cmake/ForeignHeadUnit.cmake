@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Builds the plug-in against the libraries of another head unit: AUDIOSETTING_SDK names a folder with that unit's
 # headers in include/ (the file names of platform/) and its libraries in lib/: shared ones, under their plain or versioned
 # names, or static ones.

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # What `cmake --install` puts where, by component:
 #   plugin  the application that ships in the car: libaudiosetting.so without RPATH, and its pictures for dense displays
 #   dev     for who builds a unit or links the panel: the contract, the panel's header, a CMake package

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Pictures: SVG sources, rendered at build time, embedded in a target as a Qt resource.
 
 find_program(PYTHON3_PROGRAM python3 REQUIRED)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # One verb per kind of target, so that every CMakeLists.txt is a list.
 
 # audiosetting_plugin_begin(): starts the plug-in's objects, which audiosetting_part() then fills.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // For a unit that needs no preparation and stands on the contract alone.
 
 #include "unit.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #pragma once
 
 /// Equaliser curves of the audio service, exchanged as plain integers.

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Checks that includes run one way: app -> navigation -> pages -> base -> platform, and never between product and unit.
 
     tools/check_includes.py [ROOT]     prints each include that breaks a rule, and fails if there is one

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Checks that the plug-in uses only functions, classes, values and macros that Qt 5.3 already has.
 
     tools/check_qt_since.py COMMANDS [--docs FOLDER] [--instead FILE]

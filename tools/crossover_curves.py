@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Writes the crossover curves: audiosetting/resources/curve_{high,low}_{6,12,18}db.svg.
 
 The curves are those of Butterworth filters of order n = 1, 2, 3 (6, 12, 18 dB per octave). At a frequency that lies

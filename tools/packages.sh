@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Sourced by ./run, ./test and bench/measure: installs what is missing from packages.txt.
 
 # packages_of GROUP...: the packages of these groups, one a line.

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Renders one picture family: an SVG source in several states and sizes, at 1:1 and at 2:1.
 
 The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: unfiltered, stored but for those

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "audiosetting_right_factoryeq_widget.h"
 
 #include "audioservice.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "c20_060_audiosetting_container_widget.h"
 
 #include "ui_c20_060_setup_container.h"

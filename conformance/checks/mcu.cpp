@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The microcontroller. What it does with the sound is not to be seen here; what it must not do is.
 
 #include "audioservice.h"

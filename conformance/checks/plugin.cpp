@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The plug-in on this unit: whether it loads, and whether it looks as it should.
 
 #include "plugin.h"

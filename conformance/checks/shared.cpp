@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The store that applications share, and the announcement of changes.
 
 #include "audiosettingsutils.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The level slider of the toolkit.
 
 #include "check.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Windows, touches, keys, and the host's small services.
 
 #include "basewindow.h"

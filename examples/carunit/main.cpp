@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A small head unit: carunit ROOT PLUGIN.so
 
 #include "unit.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Slider, scroll bar and scrolling of the toolkit.
 
 #include "horizontalslider.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The settings stores: two ini files below the unit's root folder.
 
 #include "audiosettingsutils.h"

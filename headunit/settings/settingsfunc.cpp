@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "platform/settingsfunc.h"
 
 #include "trace.h"

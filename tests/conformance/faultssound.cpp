@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Faults of the audio service and the microcontroller.
 
 #include "platform/audioservice.h"

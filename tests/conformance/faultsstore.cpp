@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Faults of the stores.
 
 #include "platform/audiosettingsutils.h"

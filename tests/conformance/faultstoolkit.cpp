@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Faults of the toolkit, the texts and the application's set-up.
 
 #include "examples/carunit/unit.h"

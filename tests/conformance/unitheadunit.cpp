@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the conformance kit is told about the reference head unit.
 
 #include "conformance/unit.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Runs SCRIPTS with HEADUNIT on a unit that is new, in a folder of this run, which begins with NAME and stays if it fails.
 string(RANDOM LENGTH 8 number)
 set(folder ${NAME}-${number})

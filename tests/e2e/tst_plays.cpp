@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The built unit plays on a sound server, and says how loud.
 
 #include "tests/headunit/audio/files/soundfiletest.h"

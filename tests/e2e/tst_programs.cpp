@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Programs of the desk play through the unit: a device for each of its channels, on a sound server of the test's own.
 
 #include "tests/headunit/audio/files/soundfiletest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Drives the example unit in virtual time: carunit_drive ROOT PLUGIN FOLDER STEP... A step is
 //   tap NAME        touches and lets go
 //   hold NAME MS    touches, lets time pass, lets go

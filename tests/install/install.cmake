@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Installs every component, moves the tree, and uses it from where it then stands.
 
 set(first "${WORK}/first place/prefix")

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "tests/platform/pagetest.h"
 
 #include "headunit/virtualtime/virtualtime.h"

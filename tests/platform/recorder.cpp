@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "tests/platform/recorder_p.h"
 
 #include "platform/audioservice.h"

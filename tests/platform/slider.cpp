@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "platform/horizontalslider.h"
 #include "tests/platform/recorder_p.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "platform/basewindow.h"
 #include "platform/commsystemutils.h"
 #include "platform/eventhandler.h"

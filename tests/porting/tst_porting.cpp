@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "conformance/checks/keys.h"
 #include "eq/eqwidget.h"
 #include "headunit/settings/audiokeys.h"

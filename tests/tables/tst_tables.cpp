@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the product and the reference unit must both know, each in tables of its own: equal row by row.
 
 #include "base/texts.h"

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Tests of tools/check_includes.py: trees that break one rule each, trees that break none, and the project's own."""
 
 import importlib.util

@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """A file of the product that includes the reference unit does not compile, whatever check reads it.
 
     test_include_paths.py COMPILE_COMMANDS     the build's compile_commands.json

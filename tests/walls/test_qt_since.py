@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """The plug-in builds with Qt 5.3: tools/check_qt_since.py on it, and on a file that uses later things.
 
     test_qt_since.py COMPILE_COMMANDS     the build's compile_commands.json

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #define KERNEL avx2Kernel
 #ifdef __AVX2__
 #define KERNEL_NAME "AVX2"

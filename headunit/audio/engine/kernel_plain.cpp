@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #define KERNEL plainKernel
 #ifdef __SSE2__
 #define KERNEL_NAME "SSE2"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The loops of kernel.h, included by one source file for each instruction set, which names it in KERNEL. No other
 // functions are called, as their compiled form might be shared with code for another instruction set.
 

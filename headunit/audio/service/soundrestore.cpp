@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Restores the sound from the store: which parts stand there, under the same keys that the pages read.
 
 #include "soundlimits.h"

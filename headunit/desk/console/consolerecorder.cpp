@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/desk/console/consolerecorder.h"
 
 #include "headunit/desk/console/consolemodel.h"

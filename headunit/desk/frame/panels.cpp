@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The table of the desk's windows. A new one: a folder beside frame/, a class derived from Panel, a row here.
 
 #include "headunit/desk/console/consolepanel.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Set-ups without a screen: --export and --import.
 
 #include "headunit/desk/frame/deskhost.h"

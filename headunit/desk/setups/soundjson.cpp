@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/desk/setups/soundjson.h"
 
 namespace headunit {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/app/hostlibrary.h"
 
 #include "headunit/toolkit/unitfolder.h"

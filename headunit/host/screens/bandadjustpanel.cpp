@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Links the Audio Settings library for the panel that it exports, so that the host itself need not: of the library,
 // this file knows one header.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/screens/homescreen.h"
 
 #include "headunit/host/screens/key.h"

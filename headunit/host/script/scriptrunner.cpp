@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/script/scriptapi.h"
 #include "headunit/host/script/scripttarget.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/script/soundobject.h"
 
 #include "headunit/audio/engine/measurement.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/sound/responseplot.h"
 
 #include "headunit/audio/live/outputnames.h"

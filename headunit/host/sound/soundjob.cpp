@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/app/soundlibrary.h"
 #include "headunit/host/sound/metertext.h"
 #include "headunit/host/sound/responseplot.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: Apache-2.0
 # Builds the plug-in against another head unit's SDK in a fresh folder; an unusable SDK is refused with a reason.
 
 function(configure sdk result output)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "platform/appplugin.h"
 #include "platform/windowinterface.h"
 #include "tests/platform/pagetest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "crossover/curveline.h"
 
 #include "tests/platform/pagetest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "crossover/curvegraph.h"
 #include "crossover/curvelabel.h"
 #include "crossover/curveline.h"

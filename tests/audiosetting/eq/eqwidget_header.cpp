@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Compiles with the panel's header as a host has it: nothing before it, nothing but Qt beside it.
 
 #include <eqwidget.h>

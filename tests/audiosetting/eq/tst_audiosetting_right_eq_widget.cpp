@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The EQ page's curve: what it shows, its sliders, step keys and Flat.
 
 #include "tests/audiosetting/eq/eqpagetest.h"

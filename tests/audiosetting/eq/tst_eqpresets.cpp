@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The EQ page's five presets: saving, recalling, selection.
 
 #include "tests/audiosetting/eq/eqpagetest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Random use of the equaliser: whatever the driver does, sliders, service, store and keys agree.
 
 #include "navigation/audiorootpagtsettings.h"

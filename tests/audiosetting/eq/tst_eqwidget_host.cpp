@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A host of its own: links the shipped library, knows one header of it, and drives the panel with a finger on the
 // real services of the reference head unit.
 

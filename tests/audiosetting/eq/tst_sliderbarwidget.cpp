@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "eq/sliderbarwidget.h"
 
 #include "tests/audiosetting/eq/eqreference.h"

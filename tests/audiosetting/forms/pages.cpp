@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "tests/audiosetting/forms/pages.h"
 
 #include "crossover/audiosetting_right_crossover_widget.h"

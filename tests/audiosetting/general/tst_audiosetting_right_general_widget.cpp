@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "general/audiosetting_right_general_widget.h"
 
 #include "general/balancefadercontrol.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "navigation/c20_060_audiosetting_container_widget.h"
 
 #include "tests/platform/pagetest.h"

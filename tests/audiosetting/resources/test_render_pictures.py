@@ -1,4 +1,5 @@
 #!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
 """Tests of tools/render_pictures.py, run as its users do: as a program."""
 
 import pathlib

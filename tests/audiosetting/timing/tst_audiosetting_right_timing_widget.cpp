@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "tests/audiosetting/timing/timingscreen.h"
 #include "tests/platform/testmain.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "volume/audiosourcegainsettings.h"
 
 #include "platform/scrollbar.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Makes the pictures of docs/tuning.md: desk_pictures FOLDER LANGUAGE. Every panel at rest and after a few touches.
 
 #include "desktest.h"

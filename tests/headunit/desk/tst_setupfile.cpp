@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/desk/setups/setupfile.h"
 
 #include "headunit/desk/setups/setuptable.h"

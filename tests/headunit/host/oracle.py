@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """Checks what headunit --render and --measure give against filters that share no code with it: scipy and sox.
 
 usage: oracle.py HEADUNIT

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """Records what the unit plays on devices of a sound server of its own, and has scipy judge it.
 
 usage: recorded.py HEADUNIT

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The running unit's sound, from the settings to what the desk's sound server gets.
 
 #include "headunit/host/sound/livesound.h"

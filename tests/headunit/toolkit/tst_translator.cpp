@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/toolkit/language.h"
 #include "translator.h"
 #include "unittest.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Plays what motion.py judges, a record after the other on standard output:
 //
 //   motion changes     a tone under every change of a control, alone, turned back on its way, and in bursts; then

@@ -1,4 +1,5 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: Apache-2.0
 """Judges the engine's sound in motion with scipy's filters: what a change adds to a steady tone, and when it is over.
 
 usage: motion.py MOTION [CASES]

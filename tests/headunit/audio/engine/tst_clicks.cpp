@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A change of any control under a steady low tone must not be heard far above the tone.
 
 #include "changesofcontrols.h"

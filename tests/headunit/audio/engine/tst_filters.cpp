@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the filters do alone, and when settings change under them.
 
 #include "headunit/audio/engine/filters.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Numbers so small that the processor computes them many times slower, as filters make them in a pause.
 
 #include "headunit/audio/engine/flushtozero.h"

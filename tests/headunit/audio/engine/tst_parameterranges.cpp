@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Settings beyond their ranges, which no service lets pass, and what the engine makes of them nevertheless.
 
 #include "headunit/audio/engine/parameters.h"

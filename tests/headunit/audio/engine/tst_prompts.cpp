@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Prompts as they are heard: beside the driver's taste, above what plays, and without a sound of their coming and
 // going.
 

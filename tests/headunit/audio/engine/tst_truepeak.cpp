@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/audio/engine/truepeak.h"
 
 #include "headunit/audio/engine/filterdesign.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // What the audio thread must not do while it plays: allocate, take a lock, call the system. Each is counted on a thread
 // that fills the loudspeakers' samples while another one changes settings.
 

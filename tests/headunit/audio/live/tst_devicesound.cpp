@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/audio/live/devicesound.h"
 
 #include "headunit/audio/live/player.h"

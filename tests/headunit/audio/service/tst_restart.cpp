@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/settings/settingsfile.h"
 #include "headunit/settings/unitroot.h"
