@@ -31,7 +31,8 @@ PushButton::PushButton(QPushButton *button, QObject *parent) : QObject(parent), 
     connect(button, &QPushButton::released, &d->timer, &QTimer::stop);
     connect(&d->timer, &QTimer::timeout, this, [this] {
         // A press may end without released(): a key that is hidden or disabled under the finger.
-        if (!d->key || !d->key->isDown() || !d->key->isEnabled() || !d->key->isVisible()) { return; }
+        const QPushButton *const key = d->key.data();
+        if (!key || !key->isDown() || !key->isEnabled() || !key->isVisible()) { return; }
         if (d->repeatTime > 0) { d->timer.start(d->repeatTime); }
         const bool first = !d->held;
         d->held = true;

@@ -260,7 +260,8 @@ void TestCarUnit::resetRestoresTheFactoryState() {
                                "tap key_advanced", "wait 400",        "tap Key_005_res_audio",
                                "wait 400",         "tap Key_accept",  "wait 6000"};
     QStringList pages;
-    for (const QString &tab : {"general", "eq", "crossover", "timing"}) {
+    const QStringList tabs = {"general", "eq", "crossover", "timing"};
+    for (const QString &tab : tabs) {
         pages += QStringList{"tap key_" + tab, "wait 3000", "shot " + tab};
     }
     // A unit that was never touched, and one on which everything was changed; both are reset and started anew.
@@ -270,7 +271,7 @@ void TestCarUnit::resetRestoresTheFactoryState() {
     QTemporaryDir used;
     drive(used.path(), visit.mid(0, visit.indexOf("tap Key_003_source_gain")) + reset);
     const Shots actual = drive(used.path(), pages);
-    for (const QString &page : {"general", "eq", "crossover", "timing"}) {
+    for (const QString &page : tabs) {
         QVERIFY2(!expected[page].isNull() && actual[page] == expected[page], qPrintable(page));
     }
 }

@@ -32,8 +32,10 @@ QVector<int> g_flockErrors;  ///< what the next calls end in, before the real on
 
 }  // namespace
 
-/// Stands before the C library's, for file systems that are not at hand.
-extern "C" int flock(int fd, int operation) {
+/// Stands before the C library's flock(), for file systems that are not at hand. Under another name here, as a
+/// structure has that one, too.
+extern "C" int flockOfOtherFileSystems(int fd, int operation) __asm__("flock");
+extern "C" int flockOfOtherFileSystems(int fd, int operation) {
     if (!g_flockErrors.isEmpty()) {
         errno = g_flockErrors.takeFirst();
         return -1;
