@@ -14,10 +14,10 @@ using audiosetting::crossover::CurveLine;
 
 namespace {
 
-// The ground: the page's own behind rounded corners, a frame and lines 3 dB and an octave's worth apart. 21 px are 1
-// dB, as far as a step of the level moves a curve; 0 dB is where the pass band of an unmoved one lies.
+// The background: the page's own behind rounded corners, a frame and lines 3 dB and an octave's worth apart. 21 px are
+// 1 dB, as far as a step of the level moves a curve; 0 dB is where the pass band of an unmoved one lies.
 const QRgb behindCorners = qRgb(0x13, 0x19, 0x22);
-const QRgb groundColour = qRgb(0x0c, 0x10, 0x16);
+const QRgb backgroundColour = qRgb(0x0c, 0x10, 0x16);
 const QRgb gridColour = qRgb(0x23, 0x2c, 0x37);
 const QRgb frameColour = qRgb(0x36, 0x41, 0x4f);
 const int edgeWidth = 2;
@@ -116,7 +116,7 @@ void CurveGraph::compose() {
         m_dimOf = shown;
         prepare(m_dim, size(), density);
         QPainter painter(&m_dim);
-        paintGround(painter);
+        paintBackground(painter);
         painter.setRenderHint(QPainter::Antialiasing);
         for (const CurveLabel *label : labels) {
             if (label->line()) {
@@ -137,9 +137,9 @@ void CurveGraph::compose() {
     painter.drawPixmap(QPointF(width() - m_figures.width() / m_figures.devicePixelRatio(), 0), m_figures);
 }
 
-void CurveGraph::paintGround(QPainter &painter) {
+void CurveGraph::paintBackground(QPainter &painter) {
     const QColor grid = QColor::fromRgb(gridColour);
-    painter.fillRect(rect(), QColor::fromRgb(groundColour));
+    painter.fillRect(rect(), QColor::fromRgb(backgroundColour));
     for (int y = firstLevelLine; y < height(); y += levelLineStep) {
         painter.fillRect(0, y - gridWidth / 2, width(), gridWidth, grid);
     }

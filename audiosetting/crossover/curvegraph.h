@@ -18,7 +18,7 @@ struct CurveLine;
 /// Shows the curves of its CurveLabel children over a grid: the uppermost, which is the one that is set,
 /// bright, with what lies below it filled and a dot at its corner; the others dim behind it; the figures before all.
 ///
-/// The ground with the dim curves and the whole are kept: a step draws one curve anew, and a showing none.
+/// The background with the dim curves and the whole are kept: a step draws one curve anew, and a showing none.
 class CurveGraph : public QFrame {
     Q_OBJECT
 public:
@@ -38,11 +38,11 @@ private:
     };
 
     void compose();
-    void paintGround(QPainter &painter);
+    void paintBackground(QPainter &painter);
     void paintBright(QPainter &painter, const CurveLabel &label);
 
     QPixmap m_figures;
-    QPixmap m_dim;  ///< the ground with every curve but the uppermost
+    QPixmap m_dim;  ///< the background with every curve but the uppermost
     QPixmap m_composed;
     // The curves that they show, from the lowest to the uppermost.
     std::vector<Shown> m_dimOf;

@@ -16,7 +16,7 @@ const int pointSize = 18;
 const int radius = 8;        // px
 const double edgeWidth = 2;  // px
 
-const QRgb groundColour = qRgb(0x10, 0x15, 0x1c);
+const QRgb backgroundColour = qRgb(0x10, 0x15, 0x1c);
 const QRgb edgeColour = qRgb(0x0a, 0x66, 0x88);
 const QRgb textColour = qRgb(11, 183, 237);
 
@@ -58,7 +58,7 @@ void DragValue::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor::fromRgb(edgeColour), edgeWidth));
-    painter.setBrush(QColor::fromRgb(groundColour));
+    painter.setBrush(QColor::fromRgb(backgroundColour));
     painter.drawRoundedRect(QRectF(rect()).adjusted(edgeWidth / 2, edgeWidth / 2, -edgeWidth / 2, -edgeWidth / 2),
                             radius, radius);
     style()->drawItemText(&painter, rect(), Qt::AlignCenter, palette(), true, text(), foregroundRole());

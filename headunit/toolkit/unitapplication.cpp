@@ -20,21 +20,21 @@ const int defaultPointSize = 18;  // 24 pixels, the size of captions
 QPalette unitPalette() {
     QPalette palette;
     const QPair<QPalette::ColorRole, QColor> roles[] = {
-        {QPalette::Window, colour::ground},
+        {QPalette::Window, colour::background},
         {QPalette::Base, colour::surface},
         {QPalette::AlternateBase, colour::raised},
         {QPalette::Button, colour::raised},
         {QPalette::Light, colour::hairline},
         {QPalette::Midlight, colour::hairline},
         {QPalette::Mid, colour::surface},
-        {QPalette::Dark, colour::ground},
-        {QPalette::Shadow, colour::ground},
+        {QPalette::Dark, colour::background},
+        {QPalette::Shadow, colour::background},
         {QPalette::WindowText, colour::text},
         {QPalette::Text, colour::text},
         {QPalette::ButtonText, colour::text},
         {QPalette::BrightText, colour::text},
         {QPalette::Highlight, colour::accent},
-        {QPalette::HighlightedText, colour::ground},
+        {QPalette::HighlightedText, colour::background},
         {QPalette::Link, colour::accent},
     };
     for (const auto &role : roles) {

@@ -376,11 +376,11 @@ void TestLegibility::keysStandOut() {
         }
         const QRect rect = seen(key);
         // Outside its round corners.
-        const double ground = luminance(image.pixel(rect.topLeft()));
+        const double background = luminance(image.pixel(rect.topLeft()));
         int found = 0;
         for (int y = rect.top(); y <= rect.bottom(); ++y) {
             for (int x = rect.left(); x <= rect.right(); ++x) {
-                found += contrast(luminance(image.pixel(x, y)), ground) >= leastForShapes;
+                found += contrast(luminance(image.pixel(x, y)), background) >= leastForShapes;
             }
         }
         // An outline of a pixel, at least.
@@ -457,9 +457,9 @@ void TestLegibility::figuresOfTheCrossover() {
             }
         }
         std::sort(lightness.begin(), lightness.end());
-        const double ground = lightness.at(lightness.size() / 2);
+        const double background = lightness.at(lightness.size() / 2);
         const double figure = lightness.at(lightness.size() - 8);
-        const double ratio = contrast(figure, ground);
+        const double ratio = contrast(figure, background);
         QVERIFY2(ratio >= 5, qPrintable(QStringLiteral("%1:1 at line %2").arg(ratio).arg(line)));
     }
 }

@@ -35,14 +35,14 @@ void Chain::fadeTo(const ChainParameters &parameters) {
 
 /// Takes about a tenth of a millisecond, once a fade at most.
 void Chain::letNextFiltersHear() {
-    static_assert(MixHistory::length % largestBlock == 0, "the history is heard in whole blocks");
-    std::array<double, largestBlock * stereo> program;
-    std::array<double, largestBlock * stereo> prompts;
-    std::array<double, largestBlock * outputCount> spread;
+    static_assert(MixHistory::length % maxBlockFrames == 0, "the history is heard in whole blocks");
+    std::array<double, maxBlockFrames * stereo> program;
+    std::array<double, maxBlockFrames * stereo> prompts;
+    std::array<double, maxBlockFrames * outputCount> spread;
     m_nextFilters.forget();
-    for (size_t age = MixHistory::length; age > 0; age -= largestBlock) {
-        m_history.read(program.data(), prompts.data(), age, largestBlock);
-        m_nextFilters.process(program.data(), prompts.data(), spread.data(), largestBlock);
+    for (size_t age = MixHistory::length; age > 0; age -= maxBlockFrames) {
+        m_history.read(program.data(), prompts.data(), age, maxBlockFrames);
+        m_nextFilters.process(program.data(), prompts.data(), spread.data(), maxBlockFrames);
     }
     m_nextFilters.goOnFrom(m_filters);
 }
@@ -56,7 +56,7 @@ void Chain::endFade() {
 }
 
 void Chain::process(const double *program, const double *prompts, double *out, size_t frames, const double *weights) {
-    std::array<double, largestBlock * outputCount> spread;
+    std::array<double, maxBlockFrames * outputCount> spread;
     m_history.write(program, prompts, frames);
     m_filters.process(program, prompts, spread.data(), frames);
     if (!m_fading) {
@@ -64,7 +64,7 @@ void Chain::process(const double *program, const double *prompts, double *out, s
         m_delay.read(out, frames, m_parameters.delay, m_parameters.gain);
         return;
     }
-    std::array<double, largestBlock * outputCount> next;
+    std::array<double, maxBlockFrames * outputCount> next;
     m_nextFilters.process(program, prompts, next.data(), frames);
     crossFade(spread.data(), next.data(), weights, frames);
     m_delay.write(spread.data(), frames);

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "delayline.h"
-#include "filters.h"
 #include "mixhistory.h"
+#include "outputfilters.h"
 #include "parameters.h"
 
 namespace headunit::engine {
@@ -14,7 +14,7 @@ namespace headunit::engine {
 /// come out in order.
 class Chain {
 public:
-    static constexpr size_t largestBlock = Filters::largestBlock;  ///< in frames
+    static constexpr size_t maxBlockFrames = OutputFilters::maxBlockFrames;  ///< in frames
 
     explicit Chain(const Kernel &kernel);
 
@@ -26,7 +26,7 @@ public:
     /// Ends the fade: the parameters that it went to hold alone.
     void endFade();
 
-    /// Takes up to largestBlock \a frames of the program and of the prompts, which join it on the front pair behind
+    /// Takes up to maxBlockFrames \a frames of the program and of the prompts, which join it on the front pair behind
     /// equaliser, loudness, balance and fader (null if none sounds); gives as many of outputCount samples.
     /// \a weights are those of the parameters that a fade goes to, a weight for each frame; unused without a fade.
     void process(const double *program, const double *prompts, double *out, size_t frames, const double *weights);
@@ -37,8 +37,8 @@ private:
     bool m_fading = false;
     ChainParameters m_parameters;
     ChainParameters m_next;
-    Filters m_filters;
-    Filters m_nextFilters;
+    OutputFilters m_filters;
+    OutputFilters m_nextFilters;
     MixHistory m_history;
     DelayLine m_delay;
 };

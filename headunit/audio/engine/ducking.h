@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "format.h"
+#include "layout.h"
 
 #include <array>
 #include <cstdint>

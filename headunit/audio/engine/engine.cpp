@@ -81,7 +81,7 @@ bool Engine::add(size_t input, const float *samples, double *mixed, size_t frame
     const double from = m_inputGain[input];
     const double way = m_nextInputGain[input] - from;
     const bool silent = (from == 0 && way == 0) || (ducking.gain() == 0 && !ducking.isMoving());
-    std::array<double, Chain::largestBlock> gains;
+    std::array<double, Chain::maxBlockFrames> gains;
     ducking.advance(gains.data(), frames);
     if (!samples || silent) {
         return false;
@@ -89,7 +89,7 @@ bool Engine::add(size_t input, const float *samples, double *mixed, size_t frame
     for (size_t frame = 0; frame < frames; ++frame) {
         gains[frame] *= way == 0 ? from : from + way * m_fade.weights()[frame];
     }
-    std::array<float, Chain::largestBlock * stereo> safe;
+    std::array<float, Chain::maxBlockFrames * stereo> safe;
     if (isDamaged(samples, frames * stereo)) {
         std::transform(samples, samples + frames * stereo, safe.begin(), sanitized);
         samples = safe.data();
@@ -118,10 +118,10 @@ size_t Engine::processBlock(const Inputs &inputs, size_t offset, float *out, siz
         takeParameters();
     }
     const bool fading = !m_fade.isOver();
-    const size_t count = std::min({frames, Chain::largestBlock, fading ? m_fade.remaining() : frames});
-    std::array<double, Chain::largestBlock * stereo> program;
-    std::array<double, Chain::largestBlock * stereo> prompts;
-    std::array<double, Chain::largestBlock * outputCount> sound;
+    const size_t count = std::min({frames, Chain::maxBlockFrames, fading ? m_fade.remaining() : frames});
+    std::array<double, Chain::maxBlockFrames * stereo> program;
+    std::array<double, Chain::maxBlockFrames * stereo> prompts;
+    std::array<double, Chain::maxBlockFrames * outputCount> sound;
     std::fill_n(program.data(), count * stereo, 0.0);
     std::fill_n(prompts.data(), count * stereo, 0.0);
     const auto samples = [&](size_t input) { return inputs[input] ? inputs[input] + offset * stereo : nullptr; };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "filterdesign.h"
 
-#include "format.h"
+#include "layout.h"
 
 #include <cmath>
 

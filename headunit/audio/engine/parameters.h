@@ -4,7 +4,7 @@
 #include "biquad.h"
 #include "equaliser.h"
 #include "filterdesign.h"
-#include "format.h"
+#include "layout.h"
 #include "loudness.h"
 
 #include "headunit/audio/service/soundstate.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "headunit/audio/engine/format.h"
+#include "headunit/audio/engine/layout.h"
 
 #include <array>
 #include <cstddef>

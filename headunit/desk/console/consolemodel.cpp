@@ -41,8 +41,8 @@ QColor colourOf(RowKind kind) {
     }
 }
 
-// Rows of one touch have one ground, those of the next the other.
-constexpr QColor grounds[] = {QColor(0xFF, 0xFF, 0xFF), QColor(0xEE, 0xF4, 0xFA)};
+// Rows of one touch have one background, those of the next the other.
+constexpr QColor backgrounds[] = {QColor(0xFF, 0xFF, 0xFF), QColor(0xEE, 0xF4, 0xFA)};
 
 }  // namespace
 
@@ -204,7 +204,7 @@ QVariant ConsoleModel::data(const QModelIndex &index, int role) const {
         case Qt::ForegroundRole:
             return colourOf(shown.kind);
         case Qt::BackgroundRole:
-            return grounds[shown.touch % 2];
+            return backgrounds[shown.touch % 2];
         case Qt::FontRole: {
             QFont font;
             font.setBold(shown.press);

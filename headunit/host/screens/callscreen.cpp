@@ -32,7 +32,7 @@ CallScreen::CallScreen(QWidget *parent) : QWidget(parent) {
 
 void CallScreen::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    look::paintGround(painter, rect());
+    look::paintBackground(painter, rect());
     look::paintPicture(painter, pictureArea, QStringLiteral("call"));
     painter.setPen(colour::text);
     painter.drawText(captionArea, Qt::AlignCenter, Translator::translate(texts::callInProgress));

@@ -140,7 +140,7 @@ void CarScreen::stepLevel(int by) {
 
 void CarScreen::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    look::paintGround(painter, rect());
+    look::paintBackground(painter, rect());
     painter.setPen(look::softText);
     painter.setFont(look::font(look::captionPixels));
     constexpr int captions[] = {texts::source, texts::channel, texts::level, texts::language};

@@ -81,7 +81,7 @@ void HomeScreen::changeEvent(QEvent *event) {
 
 void HomeScreen::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    look::paintGround(painter, rect());
+    look::paintBackground(painter, rect());
     // The last failures are the ones that fit; all of them are on standard error.
     const QStringList shown = m_failures.mid(qMax(0, m_failures.size() - failureLines));
     QRect line(look::margin, height() - footHeight - shown.size() * failureLineHeight, width() - 2 * look::margin,

@@ -67,7 +67,7 @@ void LevelOverlay::paintEvent(QPaintEvent *) {
 
     const qreal radius = trackArea.height() / 2.0;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(colour::ground);
+    painter.setBrush(colour::background);
     painter.drawRoundedRect(trackArea, radius, radius);
     if (m_level > 0) {
         QRect filled = trackArea;

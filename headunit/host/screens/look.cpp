@@ -32,16 +32,16 @@ constexpr KeyLook keyLooks[] = {
 constexpr qreal keyRadius = 16;
 constexpr qreal keyInset = 2;
 
-constexpr QColor groundTop(0x16, 0x1D, 0x27);
-constexpr QColor groundBottom(0x0A, 0x0D, 0x12);
+constexpr QColor backgroundTop(0x16, 0x1D, 0x27);
+constexpr QColor backgroundBottom(0x0A, 0x0D, 0x12);
 constexpr int stripWidth = 64;
 constexpr int grain = 64;  // px that a pixel's colour comes from above or below at most
 
-/// A strip of the ground, dithered as that of the pages: each pixel has the colour of a place some way up or down, so
-/// that the few steps of so dark a gradient do not show as bands. Made here in a quarter of the time that reading a
+/// A strip of the background, dithered as that of the pages: each pixel has the colour of a place some way up or down,
+/// so that the few steps of so dark a gradient do not show as bands. Made here in a quarter of the time that reading a
 /// picture of it takes.
-QPixmap groundStrip() {
-    const QString key = QStringLiteral("headunit/ground");
+QPixmap backgroundStrip() {
+    const QString key = QStringLiteral("headunit/background");
     QPixmap strip;
     if (QPixmapCache::find(key, &strip)) {
         return strip;
@@ -49,8 +49,9 @@ QPixmap groundStrip() {
     QRgb rows[screenHeight];
     for (int y = 0; y < screenHeight; ++y) {
         const auto mixed = [y](int top, int bottom) { return top + (bottom - top) * y / (screenHeight - 1); };
-        rows[y] = qRgb(mixed(groundTop.red(), groundBottom.red()), mixed(groundTop.green(), groundBottom.green()),
-                       mixed(groundTop.blue(), groundBottom.blue()));
+        rows[y] = qRgb(mixed(backgroundTop.red(), backgroundBottom.red()),
+                       mixed(backgroundTop.green(), backgroundBottom.green()),
+                       mixed(backgroundTop.blue(), backgroundBottom.blue()));
     }
     QImage image(stripWidth, screenHeight, QImage::Format_RGB32);
     quint32 noise = 1;
@@ -75,8 +76,8 @@ QFont font(int pixels) {
     return font;
 }
 
-void paintGround(QPainter &painter, const QRect &rect) {
-    painter.drawTiledPixmap(rect, groundStrip(), rect.topLeft());
+void paintBackground(QPainter &painter, const QRect &rect) {
+    painter.drawTiledPixmap(rect, backgroundStrip(), rect.topLeft());
 }
 
 void paintKey(QPainter &painter, const QRect &rect, KeyState state, bool warns) {

@@ -40,7 +40,7 @@ enum class KeyState {
 /// The unit's font at a size in pixels.
 QFont font(int pixels);
 /// Fills with the background of every screen.
-void paintGround(QPainter &painter, const QRect &rect);
+void paintBackground(QPainter &painter, const QRect &rect);
 /// A raised key. \a warns: what it does is not done lightly, so it has the warm edge.
 void paintKey(QPainter &painter, const QRect &rect, KeyState state, bool warns = false);
 /// Paints one of the host's pictures in the middle of an area, as dense as the display.

@@ -43,7 +43,7 @@ void StatusBar::setSilent(bool silent) {
 
 void StatusBar::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    look::paintGround(painter, rect());
+    look::paintBackground(painter, rect());
     QRect area = rect().adjusted(look::margin, 0, -look::margin, 0);
     if (m_silent) {
         look::paintPicture(painter, QRect(area.left(), 0, pictureSize, height()), QStringLiteral("status_silent"));

@@ -2,7 +2,7 @@
 #include "headunit/host/script/scriptapi.h"
 
 #include "audioservice.h"
-#include "headunit/audio/engine/format.h"
+#include "headunit/audio/engine/layout.h"
 #include "headunit/audio/service/soundtext.h"
 #include "headunit/host/script/scripttarget.h"
 #include "headunit/host/script/soundobject.h"

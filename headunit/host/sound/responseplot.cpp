@@ -149,7 +149,7 @@ QImage responsePlot(const std::vector<engine::MeasuredPoint> &points) {
     const Diagram magnitude = magnitudeDiagram(points);
     const Diagram phase = {QRect(left, 560, right - left, 280), -180, 180, 90, "\u00B0", true};
     QImage image(width, height, QImage::Format_RGB32);
-    image.fill(colour::ground);
+    image.fill(colour::background);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     QFont font(unitFontFamily());

@@ -19,7 +19,7 @@ namespace {
 
 const QSize keySize(80, 80);
 const QSize iconSize(40, 40);
-const QColor ground(20, 120, 20);
+const QColor background(20, 120, 20);
 
 QPixmap picture(const QColor &colour) {
     QPixmap pixmap(iconSize);
@@ -61,7 +61,7 @@ void TestLook::init() {
 
 QImage TestLook::grab(QPushButton &key) {
     QImage image(keySize, QImage::Format_RGB32);
-    image.fill(ground);
+    image.fill(background);
     key.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
     return image;
 }
@@ -108,7 +108,7 @@ void TestLook::aKeyIsThePictureOfItsState() {
     look.dressKeys(&screen);
     key.setDown(down);
     QImage image(keySize, QImage::Format_RGB32);
-    image.fill(ground);
+    image.fill(background);
     QPainter painter(&image);
     painter.fillRect(QRect(QPoint(20, 20), iconSize), expected);
     painter.end();
@@ -141,7 +141,7 @@ void TestLook::textOnAKeyIsWhite() {
     key.resize(keySize);
     look.dressKeys(&screen);
     const QImage image = grab(key);
-    QCOMPARE(image.pixelColor(0, 0), ground);
+    QCOMPARE(image.pixelColor(0, 0), background);
     int white = 0;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {

@@ -24,8 +24,8 @@ struct Picture {
 };
 
 // The lightest and the darkest point of the background that the keys lie on.
-const QRgb groundTop = qRgb(0x16, 0x1d, 0x27);
-const QRgb groundBottom = qRgb(0x0a, 0x0d, 0x12);
+const QRgb backgroundTop = qRgb(0x16, 0x1d, 0x27);
+const QRgb backgroundBottom = qRgb(0x0a, 0x0d, 0x12);
 const QRgb white = qRgb(255, 255, 255);
 const int leastShrinking = 16;
 const int leastPixels = 60;  ///< of a sign that can be seen
@@ -46,19 +46,19 @@ double contrast(QRgb a, QRgb b) {
     return (qMax(first, second) + 0.05) / (qMin(first, second) + 0.05);
 }
 
-QRgb over(QRgb picture, QRgb ground) {
+QRgb over(QRgb picture, QRgb background) {
     const auto mix = [alpha = qAlpha(picture)](int top, int below) {
         return (top * alpha + below * (255 - alpha)) / 255;
     };
-    return qRgb(mix(qRed(picture), qRed(ground)), mix(qGreen(picture), qGreen(ground)),
-                mix(qBlue(picture), qBlue(ground)));
+    return qRgb(mix(qRed(picture), qRed(background)), mix(qGreen(picture), qGreen(background)),
+                mix(qBlue(picture), qBlue(background)));
 }
 
-QImage on(const QString &file, QRgb ground) {
+QImage on(const QString &file, QRgb background) {
     QImage image = QImage(file).convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            image.setPixel(x, y, over(image.pixel(x, y), ground));
+            image.setPixel(x, y, over(image.pixel(x, y), background));
         }
     }
     return image;
@@ -113,7 +113,7 @@ private Q_SLOTS:
     void keyEdgeStandsOut();
     void textOnKeyIsLegible_data();
     void textOnKeyIsLegible();
-    void groundHasNoBands();
+    void backgroundHasNoBands();
     void padsCarHoldsTheMarkersWay();
 
 private:
@@ -229,9 +229,9 @@ void PicturesTest::densePicture() {
     QCOMPARE(dense.devicePixelRatio(), 2.0);
 
     // The same drawing: halved it is the picture, but for what antialiasing makes of its edges.
-    const QImage image = on(expected.file(), groundTop);
+    const QImage image = on(expected.file(), backgroundTop);
     const QImage half =
-        on(expected.denseFile(), groundTop).scaled(expected.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        on(expected.denseFile(), backgroundTop).scaled(expected.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     double difference = 0;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
@@ -280,8 +280,8 @@ void PicturesTest::statesDiffer() {
     }
     for (int i = 0; i < family.size(); ++i) {
         for (int j = i + 1; j < family.size(); ++j) {
-            const QImage a = on(family[i].file(), groundTop);
-            const QImage b = on(family[j].file(), groundTop);
+            const QImage a = on(family[i].file(), backgroundTop);
+            const QImage b = on(family[j].file(), backgroundTop);
             // Seen at a glance: a share of the picture changes its lightness, not only its hue.
             const int least = a.width() * a.height() / 40;
             const int found = differingPixels(a, b, 1.5);
@@ -305,9 +305,9 @@ void PicturesTest::selectedStandsOut() {
         }
     }
     QVERIFY(!normal.name.isEmpty());
-    for (QRgb ground : {groundTop, groundBottom}) {
+    for (QRgb background : {backgroundTop, backgroundBottom}) {
         // A bar, a ring or a fill of 3:1 in lightness: seen also by who sees no colours.
-        const int found = differingPixels(on(normal.file(), ground), on(selected.file(), ground), 3.0);
+        const int found = differingPixels(on(normal.file(), background), on(selected.file(), background), 3.0);
         QVERIFY2(found >= 150, qPrintable(QStringLiteral("%1 pixels").arg(found)));
     }
 }
@@ -315,9 +315,9 @@ void PicturesTest::selectedStandsOut() {
 void PicturesTest::shapeStandsOut() {
     QFETCH(QString, name);
     const Picture expected = row(name);
-    for (QRgb ground : {groundTop, groundBottom}) {
-        const QImage image = on(expected.file(), ground);
-        const int found = count(image, [&](int x, int y) { return contrast(image.pixel(x, y), ground) >= 3.0; });
+    for (QRgb background : {backgroundTop, backgroundBottom}) {
+        const QImage image = on(expected.file(), background);
+        const int found = count(image, [&](int x, int y) { return contrast(image.pixel(x, y), background) >= 3.0; });
         QVERIFY2(found >= leastPixels, qPrintable(QStringLiteral("%1 pixels").arg(found)));
     }
 }
@@ -333,15 +333,15 @@ void PicturesTest::keyEdgeStandsOut_data() {
 
 void PicturesTest::keyEdgeStandsOut() {
     QFETCH(QString, name);
-    const QImage image = on(row(name).file(), groundTop);
+    const QImage image = on(row(name).file(), backgroundTop);
     QVERIFY(!image.isNull());
-    // From each side inwards the edge comes before the fill, and stands out from the lightest ground.
+    // From each side inwards the edge comes before the fill, and stands out from the lightest background.
     const int w = image.width();
     const int h = image.height();
     const int edge = 2;  // px from the outside: where the line's full colour is
     for (const QPoint &p :
          {QPoint(edge, h / 2), QPoint(w - 1 - edge, h / 2), QPoint(w / 2, edge), QPoint(w / 2, h - 1 - edge)}) {
-        const double ratio = contrast(image.pixel(p), groundTop);
+        const double ratio = contrast(image.pixel(p), backgroundTop);
         QVERIFY2(ratio >= 3.0, qPrintable(QStringLiteral("%1:1 at %2, %3").arg(ratio).arg(p.x()).arg(p.y())));
     }
 }
@@ -356,7 +356,7 @@ void PicturesTest::textOnKeyIsLegible_data() {
 
 void PicturesTest::textOnKeyIsLegible() {
     QFETCH(QString, name);
-    const QImage image = on(row(name).file(), groundTop);
+    const QImage image = on(row(name).file(), backgroundTop);
     QVERIFY(!image.isNull());
     for (int y = 16; y < image.height() - 16; ++y) {
         const double ratio = contrast(image.pixel(image.width() / 2, y), white);
@@ -364,7 +364,7 @@ void PicturesTest::textOnKeyIsLegible() {
     }
 }
 
-void PicturesTest::groundHasNoBands() {
+void PicturesTest::backgroundHasNoBands() {
     const QImage image = QImage(QStringLiteral(":/corvina_icon/audiosettings_bg.png"));
     QVERIFY(!image.isNull());
     const auto meanOfLine = [&](int y) {
@@ -380,14 +380,14 @@ void PicturesTest::groundHasNoBands() {
     }
     for (int x = 0; x < image.width(); ++x) {
         QVERIFY(contrast(image.pixel(x, 0), white) >= 4.5);
-        QVERIFY(contrast(image.pixel(x, 0), groundTop) < 1.05);
-        QVERIFY(contrast(image.pixel(x, image.height() - 1), groundBottom) < 1.05);
+        QVERIFY(contrast(image.pixel(x, 0), backgroundTop) < 1.05);
+        QVERIFY(contrast(image.pixel(x, image.height() - 1), backgroundBottom) < 1.05);
     }
 }
 
 // The marker goes 100 px from the pad's zero point to each side.
 void PicturesTest::padsCarHoldsTheMarkersWay() {
-    const QImage pad = on(QStringLiteral(":/corvina_icon/balancefader_bg.png"), groundTop);
+    const QImage pad = on(QStringLiteral(":/corvina_icon/balancefader_bg.png"), backgroundTop);
     const QPoint zero(132, 130);
     const int way = 100;
     const QRgb line = qRgb(0x6d, 0x7a, 0x8a);

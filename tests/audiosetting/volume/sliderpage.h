@@ -40,9 +40,9 @@ inline void reveal(QWidget *page, QWidget *part) {
     page->findChild<QScrollArea *>(QStringLiteral("scrollArea"))->ensureWidgetVisible(part, 0, 0);
 }
 
-/// The colour between the first two rows of a page whose own ground would be \a own and that lies on \a ground.
-inline QColor colourBetweenRows(QWidget *page, const QColor &own, const QColor &ground) {
-    page->window()->setPalette(QPalette(ground));
+/// The colour between the first two rows of a page whose own background would be \a own and that lies on \a background.
+inline QColor colourBetweenRows(QWidget *page, const QColor &own, const QColor &background) {
+    page->window()->setPalette(QPalette(background));
     page->setPalette(QPalette(own));
     return page->window()->grab().toImage().pixelColor(page->mapTo(page->window(), QPoint(600, 170)));
 }

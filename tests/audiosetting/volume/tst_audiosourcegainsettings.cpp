@@ -241,7 +241,7 @@ private slots:
         }
     }
 
-    void theScreensGroundShinesThrough() {
+    void theScreensBackgroundShinesThrough() {
         QWidget screen;
         screen.resize(1024, 600);
         for (const Region &region : regions) {

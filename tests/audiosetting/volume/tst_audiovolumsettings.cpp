@@ -252,7 +252,7 @@ private slots:
         QCOMPARE(page.findChildren<cm::ScrollBar *>().size(), 1);
     }
 
-    void theScreensGroundShinesThrough() {
+    void theScreensBackgroundShinesThrough() {
         QWidget screen;
         screen.resize(1024, 600);
         Audiovolumsettings page(&screen);

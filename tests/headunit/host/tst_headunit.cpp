@@ -40,7 +40,7 @@ private Q_SLOTS:
     void fullscreen();
     void keysThatCarryText();
     void whatIsNotDoneLightly();
-    void groundIsThatOfThePages();
+    void backgroundIsThatOfThePages();
     void scriptResults_data();
     void scriptResults();
     void scriptsImportOthers();
@@ -286,7 +286,7 @@ const PicturePlace picturePlaces[] = {
     {"plate of the slope", "crossover.png", {156, 496, 14, 14}},
 };
 
-/// Whether each pixel of a picture became two equal ones side by side, but for the grain of the ground.
+/// Whether each pixel of a picture became two equal ones side by side, but for the grain of the background.
 bool isPixelDoubled(const QImage &image) {
     constexpr int grain = 8;
     for (int y = 0; y < image.height(); ++y) {
@@ -354,7 +354,7 @@ void TestHeadunit::whatIsNotDoneLightly() {
     QCOMPARE(edge("car.png", {520, 545}), warm);
 }
 
-void TestHeadunit::groundIsThatOfThePages() {
+void TestHeadunit::backgroundIsThatOfThePages() {
     const Result result = run({"--open", "audiosetting", "--script",
                                write("s.js", "shot('page.png'); call(true); wait(400); shot('call.png');")});
     QVERIFY2(result.code == 0, qPrintable(result.err));

@@ -21,10 +21,10 @@ private Q_SLOTS:
 
 namespace {
 
-/// The text as the plot draws it, on its ground.
+/// The text as the plot draws it, on its background.
 QImage drawn(const QSize &size, Qt::Alignment alignment, const QColor &colour, const QString &text) {
     QImage image(size, QImage::Format_RGB32);
-    image.fill(colour::ground);
+    image.fill(colour::background);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     QFont font(unitFontFamily());

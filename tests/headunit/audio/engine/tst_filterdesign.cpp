@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/audio/engine/filterdesign.h"
 
-#include "headunit/audio/engine/format.h"
+#include "headunit/audio/engine/layout.h"
 #include "headunit/audio/service/soundtables.h"
 
 #include <QTest>

@@ -10,20 +10,20 @@ namespace headunit::engine {
 
 /// The filters from the inputs to the outputs, under parameters that stand still. Copying them copies what they have
 /// heard.
-class Filters {
+class OutputFilters {
 public:
-    static constexpr size_t largestBlock = 256;  ///< in frames
+    static constexpr size_t maxBlockFrames = 256;  ///< in frames
 
-    explicit Filters(const Kernel &kernel);
+    explicit OutputFilters(const Kernel &kernel);
 
     /// Takes other parameters; the filters keep what they have heard.
     void load(const ChainParameters &parameters);
     /// Forgets everything that was heard.
     void forget();
     /// Takes over what \a other have heard as far as they are the same filters and have heard the same.
-    void goOnFrom(const Filters &other);
+    void goOnFrom(const OutputFilters &other);
 
-    /// Takes up to largestBlock \a frames of the program and of the prompts, null if none sounds; gives as many of
+    /// Takes up to maxBlockFrames \a frames of the program and of the prompts, null if none sounds; gives as many of
     /// outputCount samples.
     void process(const double *program, const double *prompts, double *spread, size_t frames);
 
@@ -33,8 +33,8 @@ private:
 
     void loadTone(const ChainParameters &parameters);
     void loadCrossover(const ChainParameters &parameters);
-    bool hasToneOf(const Filters &other) const;
-    bool hasOutputOf(const Filters &other, size_t output) const;
+    bool hasToneOf(const OutputFilters &other) const;
+    bool hasOutputOf(const OutputFilters &other, size_t output) const;
 
     const Kernel *m_kernel;
     std::array<ToneGroup, groupCount> m_tone{};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "filters.h"
+#include "outputfilters.h"
 
 #include <algorithm>
 #include <cstring>
@@ -32,17 +32,17 @@ void addPrompts(const double *prompts, double *spread, size_t frames) {
 
 }  // namespace
 
-Filters::Filters(const Kernel &kernel) : m_kernel(&kernel) {
+OutputFilters::OutputFilters(const Kernel &kernel) : m_kernel(&kernel) {
     load(ChainParameters());
 }
 
-void Filters::load(const ChainParameters &parameters) {
+void OutputFilters::load(const ChainParameters &parameters) {
     loadTone(parameters);
     m_placement = parameters.placement;
     loadCrossover(parameters);
 }
 
-void Filters::loadTone(const ChainParameters &parameters) {
+void OutputFilters::loadTone(const ChainParameters &parameters) {
     for (size_t group = 0; group < groupCount; ++group) {
         m_toneActive[group] = false;
     }
@@ -66,7 +66,7 @@ void Filters::loadTone(const ChainParameters &parameters) {
     }
 }
 
-void Filters::loadCrossover(const ChainParameters &parameters) {
+void OutputFilters::loadCrossover(const ChainParameters &parameters) {
     m_bankActive = false;
     for (size_t stage = 0; stage < crossoverStages; ++stage) {
         for (size_t output = 0; output < outputCount; ++output) {
@@ -86,20 +86,20 @@ void Filters::loadCrossover(const ChainParameters &parameters) {
     }
 }
 
-void Filters::forget() {
+void OutputFilters::forget() {
     for (ToneGroup &group : m_tone) {
         std::fill_n(&group.states[0][0][0], halfSections * stateCount * groupLanes, 0.0);
     }
     std::fill_n(&m_bank.states[0][0][0], crossoverStages * stateCount * outputCount, 0.0);
 }
 
-bool Filters::hasToneOf(const Filters &other) const {
+bool OutputFilters::hasToneOf(const OutputFilters &other) const {
     return std::equal(m_tone.begin(), m_tone.end(), other.m_tone.begin(), [](const ToneGroup &a, const ToneGroup &b) {
         return std::memcmp(a.coefficients, b.coefficients, sizeof a.coefficients) == 0;
     });
 }
 
-bool Filters::hasOutputOf(const Filters &other, size_t output) const {
+bool OutputFilters::hasOutputOf(const OutputFilters &other, size_t output) const {
     bool same = m_placement[output] == other.m_placement[output];
     for (size_t stage = 0; stage < crossoverStages; ++stage) {
         for (size_t i = 0; i < coefficientCount; ++i) {
@@ -109,7 +109,7 @@ bool Filters::hasOutputOf(const Filters &other, size_t output) const {
     return same;
 }
 
-void Filters::goOnFrom(const Filters &other) {
+void OutputFilters::goOnFrom(const OutputFilters &other) {
     if (!hasToneOf(other)) {
         return;
     }
@@ -123,8 +123,8 @@ void Filters::goOnFrom(const Filters &other) {
     }
 }
 
-void Filters::process(const double *program, const double *prompts, double *spread, size_t frames) {
-    std::array<double, largestBlock * stereo> toned;
+void OutputFilters::process(const double *program, const double *prompts, double *spread, size_t frames) {
+    std::array<double, maxBlockFrames * stereo> toned;
     std::copy_n(program, frames * stereo, toned.begin());
     for (size_t group = 0; group < groupCount; ++group) {
         if (m_toneActive[group]) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What the filters do alone, and when settings change under them.
 
-#include "headunit/audio/engine/filters.h"
+#include "headunit/audio/engine/outputfilters.h"
 
 #include "headunit/audio/engine/filterdesign.h"
 #include "headunit/audio/engine/mixhistory.h"
@@ -34,7 +34,7 @@ SoundState filtered() {
 Q_DECLARE_METATYPE(headunit::SoundState)
 Q_DECLARE_METATYPE(std::vector<size_t>)
 
-class TestFilters : public QObject {
+class TestOutputFilters : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void everySectionIsRun();
@@ -46,11 +46,11 @@ private Q_SLOTS:
 };
 
 /// One section alone halves what comes in, wherever it stands.
-void TestFilters::everySectionIsRun() {
+void TestOutputFilters::everySectionIsRun() {
     Biquad half;
     half.b0 = 0.5;
     const auto spreadOf = [](const ChainParameters &parameters) {
-        Filters filters(bestKernel());
+        OutputFilters filters(bestKernel());
         filters.load(parameters);
         double mix[stereo] = {1, 0.5};
         std::array<double, outputCount> spread;
@@ -75,14 +75,14 @@ void TestFilters::everySectionIsRun() {
     }
 }
 
-void TestFilters::promptsJoinBehindThePlacement() {
+void TestOutputFilters::promptsJoinBehindThePlacement() {
     Biquad half;
     half.b0 = 0.5;
     ChainParameters parameters;
     parameters.tone[0] = half;
     parameters.placement = {0.25, 0, 0.5, 2, 4, 8};
     parameters.crossover[FrontLeft][0] = parameters.crossover[SubRight][1] = half;
-    Filters filters(bestKernel());
+    OutputFilters filters(bestKernel());
     filters.load(parameters);
     double mix[stereo] = {1, 0.5};
     const double prompts[stereo] = {0.75, 0.375};
@@ -91,7 +91,7 @@ void TestFilters::promptsJoinBehindThePlacement() {
     QVERIFY((spread == std::array<double, outputCount>{0.4375, 0.375, 0.25, 0.5, 2, 1}));
 }
 
-void TestFilters::onlyTheOutputsConcernedChange_data() {
+void TestOutputFilters::onlyTheOutputsConcernedChange_data() {
     QTest::addColumn<SoundState>("after");
     QTest::addColumn<Outputs>("concerned");
     const auto row = [](const char *name, const Outputs &concerned, auto change) {
@@ -126,7 +126,7 @@ void TestFilters::onlyTheOutputsConcernedChange_data() {
 }
 
 /// Before, during and after the change; the others go on bit for bit.
-void TestFilters::onlyTheOutputsConcernedChange() {
+void TestOutputFilters::onlyTheOutputsConcernedChange() {
     QFETCH(SoundState, after);
     QFETCH(Outputs, concerned);
     const Stereo signal = noise(6000);
@@ -139,7 +139,7 @@ void TestFilters::onlyTheOutputsConcernedChange() {
 }
 
 /// The new filters have heard what the old ones have: a tone far from what changes hardly notices.
-void TestFilters::otherFiltersGoOnDuringAChange() {
+void TestOutputFilters::otherFiltersGoOnDuringAChange() {
     constexpr double goal = -60;
     constexpr double amplitude = 0.2;
     SoundState state = filtered();
@@ -161,7 +161,7 @@ void TestFilters::otherFiltersGoOnDuringAChange() {
 }
 
 /// Filters that are switched off forget; switched on again, they have nothing left of what sounded before.
-void TestFilters::whatWasOnceHeardDoesNotComeBack() {
+void TestOutputFilters::whatWasOnceHeardDoesNotComeBack() {
     SoundState on = filtered();
     on.eqType = 3;
     Stereo signal = tone(100, 4000);
@@ -174,5 +174,5 @@ void TestFilters::whatWasOnceHeardDoesNotComeBack() {
     }
 }
 
-QTEST_APPLESS_MAIN(TestFilters)
-#include "tst_filters.moc"
+QTEST_APPLESS_MAIN(TestOutputFilters)
+#include "tst_outputfilters.moc"
