@@ -46,7 +46,8 @@ double cpuSeconds() {
     return static_cast<double>(time.tv_sec) + 1e-9 * static_cast<double>(time.tv_nsec);
 }
 
-/// What takes turns, so that whatever else the machine does comes over all of them alike; the shortest turn counts.
+/// The candidates that take turns, so that whatever else the machine does comes over all of them alike; the shortest
+/// turn counts.
 struct Runner {
     const char *name;
     std::function<void()> run;

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-# What `cmake --install` puts where, by component:
+# Destinations of `cmake --install`, by component:
 #   plugin  the application that ships in the car: libaudiosetting.so without RPATH, and its pictures for dense displays
 #   dev     for who builds a unit or links the panel: the contract, the panel's header, a CMake package
 #   desk    the reference head unit; it finds all that it needs from where it stands, so the tree can be moved

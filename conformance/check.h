@@ -7,7 +7,7 @@
 
 namespace conformance {
 
-/// What a check found wrong, or why it could not be made.
+/// A fault found by a check, or the reason why it could not be made.
 struct Findings {
     QStringList problems;  ///< "what: expected this, got that"
     QString skipped;       ///< the reason, where the check was left out

@@ -19,7 +19,7 @@ struct Result {
 /// The deviations that a unit hands in: a line each, the check's name, a colon, the reason.
 class Deviations {
 public:
-    /// What is wrong with the file; empty where nothing is.
+    /// The fault of the file; empty where there is none.
     QString read(const QString &file);
     QString reason(const QString &check) const { return m_reasons.value(check); }
     bool contains(const QString &check) const { return m_reasons.contains(check); }

@@ -63,7 +63,7 @@ void runInUnit(const Check &check, const QByteArray &root, bool restarted, int a
     }
 }
 
-/// What a process that runs a check does: it never returns, and no destructor of the unit's runs.
+/// The work of a process that runs a check: it never returns, and no destructor of the unit's runs.
 void runChild(const Check &check, const QByteArray &root, bool restarted, const Limits &limits, int pipe, int argc,
               char **argv) {
     const rlimit core = {0, 0};

@@ -3,7 +3,7 @@
 
 namespace conformance {
 
-/// What the kit cannot know of a unit. A member that is null is left out, and so are the checks that need it.
+/// The facts that the kit cannot know of a unit. A member that is null is left out, and so are the checks that need it.
 struct Unit {
     /// Before the application object is made: attributes and environment, as in the unit's own main function.
     void (*prepare)();

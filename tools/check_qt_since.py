@@ -56,7 +56,7 @@ def parameters_of(signature):
 
 
 def read_index(folder):
-    """What Qt documents, by full name: since when, and with which parameters."""
+    """Qt's documented functions, by full name: since when, and with which parameters."""
     known = collections.defaultdict(list)
 
     def walk(element, scope, since):

@@ -41,7 +41,7 @@ def curve(order, corner, pixels_per_octave):
         y = PASS_BAND + level * (HEIGHT - PASS_BAND) / RANGE
         if y <= HEIGHT + 4 * MARGIN:
             points.append((x, round(y, 2)))
-    # What lies on a straight line needs no point of its own.
+    # A point on a straight line needs no entry of its own.
     kept = points[:1]
     for previous, point, following in zip(points, points[1:], points[2:]):
         if abs(previous[1] + following[1] - 2 * point[1]) > 0.001:

@@ -17,7 +17,7 @@ namespace {
 const char holds[] = "keys that save by a hold (EQ, Crossover, Timing), keys that repeat (Timing)";
 const char labels[] = "up and down keys of EQ, keys of Volume Settings";
 
-/// What happened to a key, in order, with marks of the check's own between.
+/// The events of a key, in order, with marks of the check's own between.
 struct HeldKey {
     QWidget screen;
     QPushButton button{&screen};

@@ -12,7 +12,7 @@ struct Key {
     int flat;  ///< what a Flat sets it to
 };
 
-/// What flatCrossover() sets.
+/// The keys that flatCrossover() sets.
 const Key crossoverKeys[] = {
     {"crossover/frontfreq", 0},
     {"crossover/fronty", 0},
@@ -31,13 +31,13 @@ const Key crossoverKeys[] = {
     {"crossover/subwooferslope", 1},
 };
 
-/// What flatTimeDelay() sets.
+/// The keys that flatTimeDelay() sets.
 const Key delayKeys[] = {
     {"timing/DATA_TYPE0", 0}, {"timing/DATA_TYPE1", 0}, {"timing/DATA_TYPE2", 0},
     {"timing/DATA_TYPE3", 0}, {"timing/DATA_TYPE4", 0}, {"timing/DATA_TYPE5", 0},
 };
 
-/// What both leave alone.
+/// The keys that both leave alone.
 const char *const keptByFlat[] = {
     "crossover/type",
     "crossover/PRESET_ENABLE0",

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The microcontroller. What it does with the sound is not to be seen here; what it must not do is.
+// The microcontroller. Its effect on the sound is not visible here; its forbidden effects are.
 
 #include "audioservice.h"
 #include "audiosettingsutils.h"

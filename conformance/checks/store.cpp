@@ -32,7 +32,7 @@ bool flag(const char *key, bool defaultValue) {
     return store()->getValue(QLatin1String(key), defaultValue);
 }
 
-/// What a slot sees while the signal is raised.
+/// The store as a slot sees it while the signal is raised.
 template <typename Signal> QVector<int> seenDuring(Signal signal, const Key *first, const Key *last, void (*act)()) {
     QVector<int> seen;
     QObject receiver;

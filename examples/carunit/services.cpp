@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // The audio service and the microcontroller. This unit has no loudspeakers: what would go to the sound processor is a
-// debug line. What outlives a restart stands in the store, under the keys that the pages read.
+// debug line. State that outlives a restart stands in the store, under the keys that the pages read.
 
 #include "audioservice.h"
 #include "audiosettingsutils.h"

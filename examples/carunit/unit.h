@@ -7,7 +7,7 @@
 class AppPlugin;
 class WindowInterface;
 
-// What the parts of this unit know of each other.
+// The parts of this unit, as they know each other.
 namespace carunit {
 
 /// The folder that stands for the unit's file system. Set it before anything else is used.

@@ -43,7 +43,7 @@ QByteArray hash(const QByteArray &text) {
     return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex();
 }
 
-/// What stands in the checksum's place while it is taken over the bytes as they are written.
+/// The text in the checksum's place while it is taken over the bytes as they are written.
 QByteArray blank() {
     return QByteArray(64, '0');
 }

@@ -8,7 +8,7 @@
 
 namespace headunit {
 
-/// What an entry of the record is about.
+/// The subject of an entry of the record.
 enum class TraceKind {
     Call,          ///< a call of a service or of the store
     Read,          ///< a call that only reads

@@ -93,7 +93,7 @@ void limitMainVolume() {
     const int limit = toInt(factory().state.values.value(QString::fromLatin1(keys::powerUpLimit.name)), highest);
     const QString key = QString::fromLatin1(keys::channelLevel.name).arg(0);
     const int level = audioStore().intValue(key, keys::channelLevel.defaultValue);
-    // What is no volume at all is left to its readers, who take their default.
+    // A value that is no volume at all is left to its readers, who take their default.
     if (limit >= 0 && level > limit && level <= highest) {
         audioStore().set(key, limit);
         notifySound(SoundPart::All);

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// What was written since the start, as it came.
+/// The writes since the start, in order.
 QHash<QString, QVariant> s_written;
 QHash<QString, QVariant> s_before;  ///< the value before the last write
 bool s_signalsMuted = false;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the conformance kit is told about the example unit.
+// Facts for the conformance kit about the example unit.
 
 #include "conformance/unit.h"
 #include "examples/carunit/unit.h"

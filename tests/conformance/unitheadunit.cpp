@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the conformance kit is told about the reference head unit.
+// Facts for the conformance kit about the reference head unit.
 
 #include "conformance/unit.h"
 #include "headunit/settings/unitroot.h"

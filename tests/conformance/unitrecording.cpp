@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the conformance kit is told about the recording platform.
+// Facts for the conformance kit about the recording platform.
 
 #include "conformance/unit.h"
 #include "headunit/virtualtime/virtualtime.h"

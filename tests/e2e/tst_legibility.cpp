@@ -278,7 +278,7 @@ QImage TestLegibility::shown(bool withTexts) const {
     return image;
 }
 
-/// What is seen of a widget, in the window; empty where another one is scrolled out of a list or covered by a page.
+/// The visible part of a widget, in the window; empty where another one is scrolled out of a list or covered by a page.
 QRect TestLegibility::seen(const QWidget *widget) const {
     QRect rect = widget->rect();
     for (const QWidget *each = widget; each != m_window; each = each->parentWidget()) {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a reader of the other type gets: the same table for every implementation of the contract that this links.
+// The value that a reader of the other type gets: the same table for every implementation of the contract that this
+// links.
 
 #include "platform/audiosettingsutils.h"
 

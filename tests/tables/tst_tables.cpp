@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the product and the reference unit must both know, each in tables of its own: equal row by row.
+// Facts that the product and the reference unit must both know, each in tables of its own: equal row by row.
 
 #include "base/texts.h"
 #include "base/touchpagerequest.h"

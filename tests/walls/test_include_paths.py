@@ -25,7 +25,7 @@ def product_commands():
 
 
 def compile_instead(command, directory, text):
-    """What the compiler says of \a text, compiled in a product file's place."""
+    """The compiler's messages for \a text, compiled in a product file's place."""
     arguments = []
     words = iter(command)
     for word in words:

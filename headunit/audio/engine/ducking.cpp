@@ -20,7 +20,7 @@ void Ducking::goTo(double gain) {
     if (target == m_target) {
         return;
     }
-    // What the means take comes on top of the line.
+    // The time of the means comes on top of the line.
     constexpr Gain lineSamples = static_cast<Gain>(upSamples - downSamples);
     m_target = target;
     m_rise = std::max<Gain>(0, target - m_line + lineSamples - 1) / lineSamples;

@@ -13,7 +13,8 @@ enum Output : size_t { FrontLeft, FrontRight, RearLeft, RearRight, SubLeft, SubR
 constexpr size_t outputCount = 6;
 constexpr size_t pairCount = 3;  ///< front, rear and subwoofer: left and right of one place in the car
 
-/// What is mixed. The source that plays is the main one; the others are prompts, in the order of headunit::Prompt.
+/// The inputs of the mixer. The source that plays is the main one; the others are prompts, in the order of
+/// headunit::Prompt.
 enum Input : size_t { MainInput, RingtoneInput, PhoneInput, NavigationInput, VoiceInput, AnnouncementInput, BeepInput };
 constexpr size_t inputCount = 7;
 

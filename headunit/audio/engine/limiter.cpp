@@ -14,7 +14,7 @@ using Pair = double __attribute__((vector_size(stereo * sizeof(double))));
 using Bits = int64_t __attribute__((vector_size(stereo * sizeof(int64_t))));
 constexpr int64_t magnitudeBits = std::numeric_limits<int64_t>::max();
 
-/// What is limited goes so high: a little below full scale, for what TruePeak may miss.
+/// The limiter's ceiling: a little below full scale, for the little that TruePeak may miss.
 constexpr double ceiling = 0.985;
 
 }  // namespace

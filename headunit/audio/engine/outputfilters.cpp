@@ -56,7 +56,7 @@ void OutputFilters::loadTone(const ChainParameters &parameters) {
             std::fill_n(&group.coefficients[place][i][lane], stereo, values[i]);
         }
         if (section.isIdentity()) {
-            // What it heard must not come out of a section that passes samples on as they are.
+            // Its old contents must not come out of a section that passes samples on as they are.
             for (auto &state : group.states[place]) {
                 std::fill_n(&state[lane], stereo, 0.0);
             }

@@ -6,7 +6,7 @@
 namespace headunit::engine {
 
 /// Reads how high a signal goes between its samples: four times oversampled, and a parabola through the highest three.
-/// Up to 20 kHz it reads 0.05 dB too little at most, and never too much. What lies so near half the sample rate that it
+/// Up to 20 kHz it reads 0.05 dB too little at most, and never too much. A signal so near half the sample rate that it
 /// can't be read so is told beside it.
 class TruePeak {
 public:

@@ -12,13 +12,14 @@
 
 namespace headunit {
 
-/// What programs of the desk play on one of the unit's inputs. They run by another clock than the loudspeakers do: the
-/// sound is stretched, by less than anybody hears, so that as much as needed waits here and no more.
+/// The sound that programs of the desk play on one of the unit's inputs. They run by another clock than the
+/// loudspeakers do: the sound is stretched, by less than anybody hears, so that as much as needed waits here and no
+/// more.
 ///
 /// setListener() comes first; everything else belongs to the audio thread.
 class DeskInput {
 public:
-    /// What waits on average where the machine keeps up. In frames.
+    /// Average fill where the machine keeps up, in frames.
     static constexpr size_t usualFrames = 720;
     /// ... and what at most where it often does not.
     static constexpr size_t largestFrames = 2880;

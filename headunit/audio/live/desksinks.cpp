@@ -14,7 +14,7 @@ using namespace engine;
 
 namespace {
 
-/// What comes after the unit's name, in the device's name and for people. Key clicks are the unit's own.
+/// The suffixes to the unit's name, in the device's name and for people. Key clicks are the unit's own.
 struct NameRow {
     Input input;
     const char *name;

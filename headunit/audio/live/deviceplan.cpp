@@ -9,7 +9,7 @@ namespace headunit {
 
 namespace {
 
-/// What the server calls the device that it makes up where there is none.
+/// The server's name for the device that it makes up where there is none.
 constexpr char noDevice[] = "auto_null";
 
 struct FormatRow {

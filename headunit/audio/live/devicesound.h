@@ -22,7 +22,7 @@ struct DeviceFormat {
     std::vector<Route> routes;
 };
 
-/// What the unit plays, as a device wants it: at its sample rate, on its channels, in its format. Belongs to the audio
+/// The unit's sound, as a device wants it: at its sample rate, on its channels, in its format. Belongs to the audio
 /// thread, but for its making, which allocates.
 class DeviceSound {
 public:
@@ -32,7 +32,7 @@ public:
     DeviceSound(const DeviceSound &) = delete;
     DeviceSound &operator=(const DeviceSound &) = delete;
 
-    /// What comes next falls along a raised cosine for endSeconds, then there is silence.
+    /// The next sound falls along a raised cosine for endSeconds, then there is silence.
     void end();
     /// Whether all that still comes is silence.
     bool hasEnded() const { return m_endFrames > 0 && m_ended >= m_endFrames; }

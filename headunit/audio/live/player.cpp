@@ -34,7 +34,7 @@ void Player::setState(const SoundState &state) {
     for (size_t prompt = 0; prompt < state.activePrompts.size(); ++prompt) {
         const size_t input = RingtoneInput + prompt;
         m_active[input] = state.activePrompts[prompt];
-        // What plays steps back for programs as it does for the unit's own prompts.
+        // The music steps back for programs as it does for the unit's own prompts.
         heard.activePrompts[prompt] = state.activePrompts[prompt] || (m_desk[input] && m_desk[input]->isActive());
     }
     m_engine.setParameters(engine::designParameters(heard));

@@ -34,10 +34,11 @@ public:
     /// How often programs of the desk had too little for the loudspeakers since the last call.
     unsigned takeDeskDropouts();
 
-    /// What was played since the last call, or null if nothing was. The reading stays as it is until the next call.
+    /// Levels of the sound played since the last call, or null if nothing was. The reading stays as it is until the
+    /// next call.
     const engine::Meters *takeMeters() { return m_meters.take(); }
 
-    /// What comes next rises from silence.
+    /// The next sound rises from silence.
     void fadeIn() { m_engine.fadeIn(); }
     /// Gives \a frames for the six outputs. Never waits, allocates, or calls the system.
     void fill(float *out, size_t frames);

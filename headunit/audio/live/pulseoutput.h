@@ -17,7 +17,7 @@ class Player;
 /// Plays on the desk's sound server (PulseAudio's protocol, which PipeWire answers, too), at the device's own rate, on
 /// its channels, in its format. Follows the server's default device, and whoever moves the stream to another one. A
 /// server or a device that is not there, or goes, is looked for until it is. Every end that is not the server's doing
-/// is a fall of the sound, not a cut. What it has to say goes to standard error: each state of affairs once, when it
+/// is a fall of the sound, not a cut. Its messages go to standard error: each state of affairs once, when it
 /// begins.
 class PulseOutput {
 public:
@@ -40,7 +40,7 @@ public:
     void pause();
     void resume();
 
-    /// What the audio thread got when it asked for real-time scheduling, in a few words; empty before it runs.
+    /// The answer to the audio thread's request for real-time scheduling, in a few words; empty before it runs.
     std::string scheduling() const;
     /// How often the server has had nothing left to play since the last call.
     unsigned takeDropouts();

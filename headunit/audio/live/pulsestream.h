@@ -26,7 +26,7 @@ public:
         ~Listener() = default;
     };
 
-    /// What is asked of the server beyond the plan.
+    /// Requests to the server beyond the plan.
     struct Manner {
         pa_usec_t bufferedTime;
         pa_usec_t requestTime;  ///< how much the server asks for at a time; 0: as it likes

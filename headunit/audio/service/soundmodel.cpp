@@ -206,7 +206,7 @@ void SoundModel::apply(const SoundState &next) {
     announceLevels();
 }
 
-/// What a listener sets meanwhile is announced when all of them have heard the level before.
+/// A level that a listener sets meanwhile is announced when all of them have heard the level before.
 void SoundModel::announceLevels() {
     if (m_announcing) {
         return;

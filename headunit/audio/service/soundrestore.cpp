@@ -29,7 +29,7 @@ int storedGain(int value, const Range &range, int otherwise, const char *what) {
     return otherwise;
 }
 
-/// What a stored value out of range counts for: its nearer end, or, where that might be loud, as never written.
+/// The meaning of a stored value out of range: its nearer end, or, where that might be loud, as never written.
 enum class OutOfRange { NearerEnd, Default };
 
 template <size_t Count> std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key,

@@ -146,7 +146,7 @@ void ConsoleModel::setFilter(const ConsoleFilter &filter) {
     if (!m_paused) {
         collect(&m_shown);
     } else {
-        // What came since the pause stays out of sight.
+        // Rows since the pause stay out of sight.
         std::vector<Number> all;
         collect(&all);
         m_shown.assign(all.begin(), std::lower_bound(all.begin(), all.end(), end));

@@ -12,7 +12,7 @@
 
 namespace headunit {
 
-/// What of the console's rows is shown.
+/// The selection of the console's rows that is shown.
 struct ConsoleFilter {
     QStringList words;                      ///< all of them stand in the row, upper or lower case
     unsigned kinds = (1U << rowKinds) - 1;  ///< a bit per RowKind

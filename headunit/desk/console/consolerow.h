@@ -6,11 +6,11 @@
 
 namespace headunit {
 
-/// What a row of the console is, in the order in which the kinds are offered.
+/// The kinds of the console's rows, in the order in which they are offered.
 enum class RowKind { Touch, Call, Write, Announcement, Posted, Window, Read, Log };
 constexpr int rowKinds = 8;
 
-/// One row of the service console: what happened, as it happened. What it is shown as is made when it is seen.
+/// One row of the service console: what happened, as it happened. Its text is made when it is seen.
 struct ConsoleRow {
     RowKind kind = RowKind::Call;
     bool press = false;  ///< of a touch: its beginning, which stands above what it caused
@@ -29,7 +29,7 @@ struct ConsoleRow {
 QString rowKindText(RowKind kind);
 /// "call", for files that programs read.
 QString rowKindName(RowKind kind);
-/// What it means; of a write, the old and the new value: "subwooferLevel: 3 → 4".
+/// Its plain meaning; of a write, the old and the new value: "subwooferLevel: 3 → 4".
 QString rowMeaning(const ConsoleRow &row);
 /// The row as one line of text.
 QString rowAsText(const ConsoleRow &row);

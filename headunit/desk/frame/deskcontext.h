@@ -7,7 +7,7 @@
 
 namespace headunit {
 
-/// What the panels share: the unit that they work on, and what is touched there, and what was changed.
+/// The panels' common context: the unit that they work on, and what is touched there, and what was changed.
 class DeskContext {
 public:
     explicit DeskContext(DeskHost &theHost) : host(theHost), touches(theHost.window()), history(theHost, touches) {}

@@ -8,7 +8,7 @@ class QWidget;
 
 namespace headunit {
 
-/// What the tuner's desk knows of the unit that it works on. The desk is a library of its own, loaded only when it is
+/// The unit as the tuner's desk knows it. The desk is a library of its own, loaded only when it is
 /// opened; this is all that it knows of the host.
 class DeskHost {
 public:

@@ -11,7 +11,7 @@ class DeskContext;
 
 /// One window of the desk, docked or free. It is made when it is first opened, and lives until the desk is closed.
 ///
-/// What it holds has object names (tests and scripts find it by them), accessible names where a text does not say
+/// Its children have object names (tests and scripts find it by them), accessible names where a text does not say
 /// what it is, and tool tips with shortcuts.
 class Panel : public QWidget {
     Q_OBJECT

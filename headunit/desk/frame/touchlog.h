@@ -13,7 +13,7 @@ class QWindow;
 
 namespace headunit {
 
-/// What the finger or the keyboard did to the unit's window, as the window system reported it.
+/// The actions of finger and keyboard on the unit's window, as the window system reported it.
 struct Touch {
     enum Kind { Down, Move, Up, KeyDown, KeyUp };
 

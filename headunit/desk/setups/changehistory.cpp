@@ -77,7 +77,7 @@ void ChangeHistory::takeEntry(const TraceEntry &entry) {
     if (m_acting) {
         return;
     }
-    // What another touch did before is another step.
+    // Earlier work of another touch is another step.
     if (m_commit.isActive() && m_touch != m_touches.number()) {
         commit();
     }

@@ -21,7 +21,7 @@ const QString afterKey = QStringLiteral("after");
 const QString soundBeforeKey = QStringLiteral("soundBefore");
 const QString soundAfterKey = QStringLiteral("soundAfter");
 
-/// What \a key holds, as in a set-up file where it is part of one.
+/// The value of \a key, as in a set-up file where it is part of one.
 QString valueText(const QString &key, const SettingsMap &settings) {
     const SetupValue *const value = setupValueOfKey(key);
     return value ? setupNumberText(*value, setupNumber(*value, settings)) : settings.value(key).toString();

@@ -13,7 +13,7 @@ class ChangeHistory;
 /// A change of the settings, whoever made it, as a step that can be undone. Changes with one id make one step.
 class ChangeStep : public QUndoCommand {
 public:
-    /// What led to a step, for its text.
+    /// The cause of a step, for its text.
     enum Cause { Page, Reset, FlatCrossover, FlatDelays, ByTheDesk };
 
     ChangeStep(ChangeHistory &history, int id, Cause cause, const QString &origin, const UnitState &before,

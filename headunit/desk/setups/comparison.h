@@ -11,7 +11,7 @@ namespace headunit {
 
 class ChangeHistory;
 
-/// Two set-ups to listen to in turn, A and B. What is changed goes to the one in force; each comes back as it was left.
+/// Two set-ups to listen to in turn, A and B. Changes go to the one in force; each comes back as it was left.
 class Comparison : public QObject {
     Q_OBJECT
 public:

@@ -30,7 +30,7 @@ SetupFile readSetup(const QString &path);
 /// Returns what went wrong, or an empty text. The file is replaced whole or not at all.
 QString writeSetup(const QString &path, const SettingsMap &settings);
 
-/// What \a wanted would change of \a settings, in the order of a file.
+/// The changes that \a wanted would make to \a settings, in the order of a file.
 QVector<SetupChange> setupChanges(const SettingsMap &settings, const SettingsMap &wanted);
 /// "delay.front_left: 0.0 ms → 0.5 ms".
 QString setupChangeText(const SetupChange &change);

@@ -40,12 +40,12 @@ const QVector<SetupValue> &setupValues();
 /// The value behind a key of the store; null for a key that is no part of a set-up.
 const SetupValue *setupValueOfKey(const QString &key);
 
-/// What \a value holds in \a settings, as a number.
+/// The number that \a value holds in \a settings.
 int setupNumber(const SetupValue &value, const SettingsMap &settings);
 /// A number as a set-up file has it: "0.5 ms".
 QString setupNumberText(const SetupValue &value, int number);
 
-/// What came of reading the text of a value.
+/// The outcome of reading the text of a value.
 struct SetupNumber {
     int number = 0;
     QString problem;  ///< why it is none; nothing of the file is to be used

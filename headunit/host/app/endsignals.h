@@ -11,7 +11,7 @@ namespace headunit {
 
 /// Makes an orderly end of what would end the process at once: a service manager's request (SIGTERM), Ctrl-C (SIGINT),
 /// a terminal that goes (SIGHUP). The second one of a kind ends the process all the same, should the first not do.
-/// What the caller's caller ignores, as with nohup, stays ignored. One object at a time.
+/// A signal that is ignored at the start, as with nohup, stays ignored. One object at a time.
 class EndSignals {
 public:
     /// \a ended is called with the signal's number, on a thread of its own.

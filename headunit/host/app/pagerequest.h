@@ -5,7 +5,7 @@
 
 namespace headunit {
 
-/// What another application writes to have Audio Settings open its Volume Settings page.
+/// The request of another application to have Audio Settings open its Volume Settings page.
 const QLatin1String pageRequestKey("SettingTouchPageType");
 constexpr int volumePageRequest = 3;
 

@@ -7,7 +7,7 @@ class QObject;
 
 namespace headunit {
 
-/// What the sound's library is to do and be done with. Sound files, plots and sound servers need libraries that take
+/// Jobs of the sound's library and the ways they end. Sound files, plots and sound servers need libraries that take
 /// time to load, so the first screen does not wait for them.
 struct SoundJob {
     QString renderFrom;  ///< sound file to play into ...
@@ -17,7 +17,7 @@ struct SoundJob {
     bool isEmpty() const { return renderFrom.isEmpty() && measureTo.isEmpty(); }
 };
 
-/// What sounds on the desk while the unit is shown.
+/// The unit's sound on the desk while it is shown.
 struct PlayJob {
     QString what{};    ///< music, noise, sweep, loudspeakers, silence, desk, or a file
     QString device{};  ///< of the sound server; empty: its default
@@ -25,8 +25,8 @@ struct PlayJob {
     bool meters = false;  ///< a line a second on standard output says how loud it is
 };
 
-/// Does a job under the unit's current settings. An empty text, or a line that says why it cannot be done. What there
-/// is to say of a job that is done goes to standard output.
+/// Does a job under the unit's current settings. An empty text, or a line that says why it cannot be done. The output
+/// of a job that is done goes to standard output.
 QString doSoundJob(const SoundJob &job);
 
 /// Plays on the desk, under the unit's settings, until the object that it returns is deleted. \a problem is a line that

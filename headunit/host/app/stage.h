@@ -13,7 +13,8 @@ namespace headunit {
 
 /// Drives the life cycle of the applications' windows: at most one is in front, on a stage widget that it fills.
 ///
-/// What comes to the front and what leaves it fade into each other; the one that comes has the input at once.
+/// The screen that comes to the front and the one that leaves it fade into each other; the new one has the input at
+/// once.
 ///
 /// Opening: onCreate, onShow, onEnter. Leaving: onExit, onHide. At the end of the unit: onDestroy, for each window
 /// that was ever opened.

@@ -19,8 +19,8 @@ public:
     TunersDesk(DeskWindow &window, Unit &unit);
     ~TunersDesk() override;
 
-    /// Opens the desk, with the window of that name in front if one is given. What keeps it from being opened is one
-    /// line on standard error.
+    /// Opens the desk, with the window of that name in front if one is given. A reason that keeps it from being opened
+    /// is one line on standard error.
     void open(const QString &panel = QString());
 
 private:

@@ -8,7 +8,7 @@ namespace headunit {
 
 class ScriptTarget;
 
-/// The one finger of a script. What it does reaches the window the way real touches do. Positions are the window's.
+/// The one finger of a script. Its touches reach the window the way real ones do. Positions are the window's.
 class Finger {
 public:
     explicit Finger(ScriptTarget &target) : m_target(target) {}

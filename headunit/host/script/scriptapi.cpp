@@ -162,7 +162,7 @@ void ScriptApi::wait(int ms) {
 void ScriptApi::shot(const QString &file, const QString &description) {
     const QString path = QDir(m_folder).filePath(file);
     QDir().mkpath(QFileInfo(path).path());
-    // What is on the screen, whatever still fades over it.
+    // The current screen, whatever still fades over it.
     const QList<QWidget *> fading = m_target.screen()->findChildren<QWidget *>(QStringLiteral("fading"));
     for (QWidget *picture : fading) {
         picture->hide();

@@ -189,14 +189,14 @@ private slots:
     }
 
 private:
-    /// What of audiosetting::EQWidget belongs to its interface towards other applications.
+    /// The symbols of audiosetting::EQWidget that belong to its interface towards other applications.
     static bool isExportedClass(const QString &name) {
         // Members, virtual table, type information and the thunks of its second base.
         static const QRegularExpression symbol(QStringLiteral("^_Z(T[VIS]|Thn[0-9]+_)?NK?12audiosetting8EQWidget"));
         return symbol.match(name).hasMatch();
     }
-    /// What the sanitizers add to a library: their own symbols, functions that they take over from the runtime, and
-    /// type information of Qt's classes.
+    /// The symbols that the sanitizers add to a library: their own symbols, functions that they take over from the
+    /// runtime, and type information of Qt's classes.
     static bool isSanitizers(const QString &name) {
         static const QRegularExpression symbol(
             QStringLiteral("^(__asan|__ubsan|__odr_asan|_Z.*__asan|__sanitizer|(_Zn[wa]|_Zd[la]|__cxa_|mem|str)[^@]*$|"

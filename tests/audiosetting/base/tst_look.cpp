@@ -29,7 +29,7 @@ QPixmap picture(const QColor &colour) {
 
 }  // namespace
 
-// What the screens bring themselves, on a unit with Qt's own style and a desk's colours.
+// The look that the screens bring themselves, on a unit with Qt's own style and a desk's colours.
 class TestLook : public PageTest {
     Q_OBJECT
 private Q_SLOTS:

@@ -10,7 +10,7 @@
 
 namespace {
 
-// What is drawn; the picture is half as large.
+// The area that is drawn; the picture is half as large.
 constexpr int width = 1050;
 constexpr int height = 256;
 constexpr int graphWidth = 688;
@@ -98,7 +98,7 @@ private slots:
         }
     }
 
-    // What the page draws instead of the picture is what the picture shows, in its colour.
+    // The page draws, instead of the picture, the same curve in the same colour.
     void lineIsThePictures_data() { isTheFiltersResponse_data(); }
     void lineIsThePictures() {
         QFETCH(QString, name);

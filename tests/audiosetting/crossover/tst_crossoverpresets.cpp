@@ -242,7 +242,7 @@ private slots:
         QCOMPARE(screen.presets(), QStringLiteral("-2"));
         QVERIFY(screen.page.comparePreset(1));
         QVERIFY(!screen.page.comparePreset(0));
-        // What counts is the store, not the page.
+        // The store counts, not the page.
         recording::setStored(key, 2);
         QCOMPARE(screen.page.comparePreset(1), !counts);
         screen.page.updateCurrentPreset();

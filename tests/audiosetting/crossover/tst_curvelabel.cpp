@@ -191,7 +191,7 @@ private slots:
 
     void anySizeAnywhere_data() {
         QTest::addColumn<QRect>("place");
-        // What the graph sees is a small share of a pixel of the picture.
+        // The graph's own error is a small share of a pixel of the picture.
         QTest::newRow("highest") << QRect(0, -8000000, 1050, 16777215);
         QTest::newRow("high") << QRect(0, -50000, 1050, 100000);
         QTest::newRow("largest") << QRect(-5000000, -8000000, 16777215, 16777215);

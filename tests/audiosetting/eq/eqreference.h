@@ -88,7 +88,7 @@ inline QList<int> everywhere(int level) {
     return list;
 }
 
-/// What a widget paints by itself.
+/// The part of a picture that a widget paints by itself.
 inline QImage picture(QWidget &widget) {
     QImage image(widget.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);

@@ -303,7 +303,7 @@ private slots:
         }
     }
 
-    // What is called by name, and bad values -----------------------------------------------------------------------
+    // Slots called by name, and bad values -----------------------------------------------------------------------
 
     void savingInNoPresetOnlyNotesTheNumber() {
         Audiosetting_right_eq_widget page(nullptr);

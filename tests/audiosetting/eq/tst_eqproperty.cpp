@@ -108,7 +108,7 @@ class tst_EqProperty : public PageTest {
         }
     }
 
-    /// What must hold when nothing is pending.
+    /// The invariants when nothing is pending.
     QString broken() const {
         const auto sliders = reference::sliders(*m_page);
         for (int band = 0; band < 13; ++band) {

@@ -74,7 +74,7 @@ QImage picture(QWidget &widget) {
     return image;
 }
 
-/// What the window's buffer holds, without painting anything anew.
+/// The contents of the window's buffer, without painting anything anew.
 QImage onScreen(const QWidget &window) {
     return window.screen()->grabWindow(window.winId()).toImage();
 }
@@ -358,7 +358,7 @@ private slots:
     }
 
     void theScreenFollowsTheKnob() {
-        // What is on the screen after partial repaints equals a picture painted at once.
+        // Partial repaints leave the same on the screen as a picture painted at once.
         QWidget screen;
         screen.setGeometry(0, 0, 60, 200);
         QPalette plain = screen.palette();

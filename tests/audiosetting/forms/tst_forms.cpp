@@ -53,7 +53,7 @@ Table tableOf(const QString &form) {
     return table;
 }
 
-/// What stands in a form's file.
+/// The contents of a form's file.
 struct Form {
     QString formClass;
     QStringList names;  ///< of the widgets, the form's own first
@@ -166,7 +166,7 @@ bool showsPicture(const QAbstractButton *button, const QString &state, const QSt
     return !expected.isNull() && button->icon().pixmap(expected.size(), mode, on).toImage() == expected.toImage();
 }
 
-/// What is wrong with a widget according to one property of its row; empty where nothing is.
+/// The faults of a widget according to one property of its row; empty where nothing is.
 QString wrongProperty(const QWidget *widget, const QString &property) {
     const QString key = property.section(QLatin1Char(':'), 0, 0);
     const QString value = property.section(QLatin1Char(':'), 1);

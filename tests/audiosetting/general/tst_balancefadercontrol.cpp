@@ -68,7 +68,7 @@ class tst_BalanceFaderControl : public PageTest {
         QImage image() { return grab().toImage().convertToFormat(QImage::Format_RGB32); }
     };
 
-    /// What a pad shows: the parts in their order, the places given.
+    /// The expected pad: the parts in their order, the places given.
     static QImage composed(const QSize &size, const QPoint &horizontal, const QPoint &vertical, const QPoint &marker) {
         QImage image(Pad(QRect(QPoint(), size)).image().size(), QImage::Format_RGB32);
         image.fill(QWidget().palette().window().color());
@@ -308,7 +308,7 @@ private slots:
         QVERIFY(difference(pad.image(), expected) <= 2);
     }
 
-    // What is on the screen after partial repaints is what a full repaint draws.
+    // Partial repaints leave the same on the screen as a full one.
     void partialRepaintsLeaveNothingBehind() {
         Pad pad;
         show(&pad);

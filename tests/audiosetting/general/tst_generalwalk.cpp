@@ -18,7 +18,7 @@
 class tst_GeneralWalk : public PageTest {
     Q_OBJECT
 
-    /// What the walk knows, from its own actions alone.
+    /// The walk's own knowledge, from its actions alone.
     struct Model {
         bool defeat = false;
         bool subwoofer = false;

@@ -38,7 +38,7 @@ const QStringList pageClasses{
     "Audiosettingsreset",
 };
 
-/// What the screen says of a page.
+/// The text on the screen that tells a page.
 struct Page {
     int id;
     QString shown;
@@ -130,7 +130,7 @@ class tst_AudioRootPagtSettings : public PageTest {
         return recording::take().filter(act);
     }
 
-    /// What Volume Settings stores whenever it is hidden: the request for it is answered.
+    /// The value that Volume Settings stores whenever it is hidden: the request for it is answered.
     static QString answered() { return QStringLiteral("SettingsFunc::setValue(\"SettingTouchPageType\", 0, 0, true)"); }
 
     static QString stateOf(int id, int tab) {

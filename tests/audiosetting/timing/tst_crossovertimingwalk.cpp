@@ -32,7 +32,7 @@ bool soundsAs(const Values &a, const Values &b) {
 class tst_CrossoverTimingWalk : public PageTest {
     Q_OBJECT
 
-    /// What the walk knows, from its own actions alone.
+    /// The walk's own knowledge, from its actions alone.
     struct Model {
         int page = general;
         bool defeat = false;
@@ -93,7 +93,7 @@ class tst_CrossoverTimingWalk : public PageTest {
     void start() {
         root = std::make_unique<AudioRootPagtSettings>(nullptr);
         show(root.get());
-        // What is painted is tested elsewhere; here it would only take time.
+        // The painting is tested elsewhere; here it would only take time.
         root->setUpdatesEnabled(false);
         model.page = general;
     }

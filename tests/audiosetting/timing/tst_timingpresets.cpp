@@ -167,7 +167,7 @@ private slots:
         Screen screen;
         show(&screen.page);
         QCOMPARE(screen.presets(), QStringLiteral("-2"));
-        // What counts is the page, not the store.
+        // The page counts, not the store.
         store(otherDelays);
         QVERIFY(screen.page.comparePreset(1));
         QVERIFY(!screen.page.comparePreset(0));

@@ -107,7 +107,7 @@ template <class Value> Values fill(Value value, const std::function<bool()> &isT
     return values;
 }
 
-/// What the dialog lies in.
+/// The dialog's parent.
 class Screen : public QWidget {
 public:
     Screen() { resize(1024, 600); }

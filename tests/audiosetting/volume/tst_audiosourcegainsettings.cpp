@@ -79,7 +79,7 @@ QString sent(const Row &row, int value) {
     return QStringLiteral("setAudioInputGainValue(%1, %2)").arg(row.source).arg(value);
 }
 
-/// What the microcontroller gets for a gain.
+/// The microcontroller's value for a gain.
 int offset(int gain) {
     return gain > highest - 10 ? highest : gain + 10;
 }

@@ -443,7 +443,7 @@ private slots:
         }
     }
 
-    /// What the slots make of every stored level, whatever their keys show.
+    /// The outcome of the slots for every stored level, whatever their keys show.
     void slotsClampEveryStoredLevel_data() {
         QTest::addColumn<int>("level");
         for (int level : {lowest, lowest + 1, -5, -1, 0, 1, 20, 39, 40, 41, 45, highest - 1, highest}) {
@@ -710,7 +710,7 @@ private slots:
         std::mt19937 random(seed);
         const auto pick = [&](int count) { return int(random() % unsigned(count)); };
 
-        // What the page holds and shows for each row. Its keys follow its own changes only, not those of others.
+        // The page's value and its display for each row. Its keys follow its own changes only, not those of others.
         int level[6];
         int keysFor[6];
         setServiceLevels(16);

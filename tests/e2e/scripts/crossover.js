@@ -58,7 +58,7 @@ sounds("front", 11, 2, 11);
 sounds("rear", 5, 3, 12);
 sounds("subwoofer", 1, 1, 0);
 
-// What no page stores: the sound stays within its range, the page goes on.
+// Values that no page stores: the sound stays within its range, the page goes on.
 setStore("crossover/frontfreq", 2000000000);
 setStore("crossover/fronty", -2000000000);
 setStore("crossover/frontheigh", 2000000000);

@@ -14,7 +14,7 @@ use("key_timing");
 use("key_fr_plus");
 use("key_sr_plus");
 use("key_inches");
-// What is out of range in the store is within it in the sound.
+// A value out of range in the store is within it in the sound.
 setStore("timing/DATA_TYPE2", 4711);
 setStore("crossover/rearslope", -7);
 setStore("crossover/rearfreq", 6);

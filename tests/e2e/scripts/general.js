@@ -73,7 +73,7 @@ expect(sound().balance === 0);
 expect(sound().fader === 0);
 expect("txt_bal_val", "text", "0");
 
-// What a finger that slides off does.
+// A finger that slides off.
 press("key_advanced");
 move(600, 590);
 release();

@@ -1,4 +1,4 @@
-// What sounds beside the source that plays, begun and ended on the Car screen, heard at the loudspeakers.
+// Prompts beside the source that plays, begun and ended on the Car screen, heard at the loudspeakers.
 import { hears, settle, use } from "./steps.js";
 
 var silent = -Infinity;

@@ -72,7 +72,7 @@ void TestConsole::init() {
     m_panel = static_cast<ConsolePanel *>(m_unit->openDesk("console")->panel("console"));
     m_table = m_panel->findChild<QTableView *>("console_table");
     QVERIFY(m_table);
-    // What the test's platform has to say of itself.
+    // The messages of the test's platform about itself.
     m_panel->findChild<QAction *>("console_class_log")->trigger();
 }
 
@@ -162,7 +162,7 @@ void TestConsole::filterByWords() {
     // The touch of what is shown is shown with it; the other touch is not.
     QCOMPARE(column(ConsoleModel::Call).mid(1), QStringList({"setSubwooferValue(4)"}));
     QCOMPARE(column(ConsoleModel::TouchNumber), QStringList({"2", "2"}));
-    // What comes later goes through the same filter.
+    // Later rows go through the same filter.
     QVERIFY(m_unit->tap("key_subvol_next"));
     QVERIFY(m_unit->tap("key_subvol_prev"));
     QCOMPARE(column(ConsoleModel::TouchNumber), QStringList({"2", "2", "4", "4"}));

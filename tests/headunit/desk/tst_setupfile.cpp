@@ -81,7 +81,7 @@ void TestSetupFile::wholeFileThereAndBack() {
     QCOMPARE(read.problem, QString());
     QCOMPARE(read.remarks, QStringList());
     QCOMPARE(read.values, settings);
-    // What was never set is written as its readers' default.
+    // A value that was never set is written as its readers' default.
     const SetupFile defaults = parseSetup(setupText(SettingsMap()));
     QCOMPARE(defaults.values.size(), setupValues().size());
     QCOMPARE(defaults.values.value("subwooferLevel"), QVariant(3));

@@ -205,7 +205,7 @@ void TestSetups::matchedLevels() {
     QCOMPARE(sound().trim, 0);  // A is the quieter one
     QTest::keyClick(m_unit->desk, Qt::Key_F5);
     QCOMPARE(sound().trim, -60);
-    // What is changed meanwhile is matched as well.
+    // Changes made meanwhile are matched as well.
     headunit::SoundModel::instance().setChannelLevel(0, sound().channelLevel[0] - 2);
     m_unit->pass();
     QCOMPARE(sound().trim, -30);

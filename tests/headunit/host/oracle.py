@@ -73,7 +73,7 @@ def impulse(height=1 / 64):
 
 
 def column(table, name):
-    """What --measure's table says of an output, as complex numbers."""
+    """An output in --measure's table, as complex numbers."""
     return np.array([10 ** (float(row[name + " dB"]) / 20) * np.exp(1j * np.radians(float(row[name + " deg"])))
                      for row in table])
 

@@ -71,7 +71,7 @@ def wait_for(condition):
 
 
 class Recording:
-    """What a device plays, from now on; its front left channel."""
+    """A recording of a device from now on; its front left channel."""
 
     def __init__(self, server, device, channels, rate, sample_format):
         self.count = len(channels.split(","))
@@ -117,7 +117,7 @@ def playing(server, root, rate, sample_format, hz, channels=SIX):
 
 
 def distortion(samples, rate, hz):
-    """What is no tone of that frequency, from 20 Hz to 20 kHz, in dB of the tone; and the loudest harmonic."""
+    """Everything but the tone of that frequency, from 20 Hz to 20 kHz, in dB of the tone; and the loudest harmonic."""
     time_axis = np.arange(len(samples)) / rate
     basis = np.stack([np.cos(2 * np.pi * hz * time_axis), np.sin(2 * np.pi * hz * time_axis), np.ones_like(time_axis)])
     weights = np.linalg.lstsq(basis.T, samples, rcond=None)[0]

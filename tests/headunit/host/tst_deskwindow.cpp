@@ -49,7 +49,7 @@ void TestDeskWindow::middleOfALargerWindow_data() {
     QTest::addColumn<QPoint>("origin");
     QTest::newRow("larger") << QSize(1336, 800) << QPoint(100, 100);
     QTest::newRow("higher") << QSize(1136, 639) << QPoint(0, 19);
-    // What does not fit is cut off on the right and below.
+    // A picture that does not fit is cut off on the right and below.
     QTest::newRow("smaller") << QSize(1000, 500) << QPoint(0, 0);
 }
 

@@ -535,7 +535,7 @@ void TestHeadunit::tourWithoutADisplay() {
     QFETCH(QString, display);
     const Result result = run({}, {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}, display);
     QVERIFY2(result.code == 0, qPrintable(result.err));
-    // What Qt says about the display may come before.
+    // Messages of Qt about the display may come before.
     QVERIFY(display.isEmpty() ? result.errLines().size() == 1 : !result.errLines().isEmpty());
     const QString folder = m_folder->filePath("headunit-tour");
     QVERIFY2(result.errLines().last().contains("no display") && result.errLines().last().contains(folder),
@@ -554,7 +554,7 @@ void TestHeadunit::tourWithoutADisplay() {
 }
 
 void TestHeadunit::damagedSettings() {
-    // What the store does about it is tested with the store; here, that the program runs on and says so once.
+    // The store's answer is tested with the store; here, that the program runs on and says so once.
     const QString script = write("s.js", "setStore('subwooferLevel', 9); wait(200);");
     const QString root = m_folder->filePath("root");
     QCOMPARE(run({"--root", root, "--script", script}).code, 0);
@@ -585,7 +585,7 @@ void TestHeadunit::signalsEndTheUnitInOrder() {
     unit.setProcessEnvironment(environment);
     unit.setReadChannel(QProcess::StandardError);
     unit.start(HEADUNIT, {"--root", m_folder->filePath("root")});
-    // What it says once everything runs
+    // Its line once everything runs
     QByteArray said;
     while (!said.contains("no sound server") && unit.waitForReadyRead(patience)) {
         said += unit.readAll();

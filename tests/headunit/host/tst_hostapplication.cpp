@@ -9,7 +9,7 @@
 
 using headunit::HostApplication;
 
-// What the application object does with the finger and with what applications post to it.
+// The application object: the finger, and the events that applications post to it.
 class TestHostApplication : public QObject {
     Q_OBJECT
 

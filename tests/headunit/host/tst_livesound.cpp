@@ -30,7 +30,7 @@ constexpr float tolerance = 0.001F;  // a sampled tone misses its peak by less
 
 using Frame = std::array<float, outputCount>;
 
-/// What a device of six channels has played since this was made.
+/// The sound that a device of six channels has played since this was made.
 class Recording {
 public:
     Recording(const SoundServer &server, const QString &device)

@@ -73,7 +73,7 @@ void TestPluginCatalog::refuses() {
     QCOMPARE(catalog.failures().size(), 1);
     const QString failure = catalog.failures().first();
     if (reason.endsWith(QLatin1Char('('))) {
-        // What follows is the loader's own reason.
+        // The loader's own reason follows.
         QVERIFY2(failure.startsWith(reason) && failure.size() > reason.size() + 1, qPrintable(failure));
     } else {
         QCOMPARE(failure, reason);

@@ -427,7 +427,7 @@ void TestUnit::silenceIsShown() {
         QVERIFY(!child("status_bar")->property("silent").toBool());
         QCOMPARE(child("home")->property("silence").toString(), QString());
     }
-    // What is made later knows, too.
+    // Widgets made later know, too.
     model.setFault(SoundFault::NoDevice);
     Unit other(*m_catalog, m_screen.data(), [] { return QString(); });
     other.showHome();
@@ -448,7 +448,7 @@ void TestUnit::levelOverlayGoesByItself() {
     QCOMPARE(m_screen->childAt(child("level_overlay")->geometry().center()), child("home"));
     time->advance(1);
     QVERIFY(!shows("level_overlay"));
-    // What is left fades away.
+    // The remainder fades away.
     const QList<headunit::FadingPicture *> fading = m_screen->findChildren<headunit::FadingPicture *>();
     QCOMPARE(fading.size(), 1);
     QCOMPARE(fading.first()->geometry(), child("level_overlay")->geometry());

@@ -277,7 +277,7 @@ void tst_SettingsFile::bothDamaged() {
 
 void tst_SettingsFile::cutBetweenRenames() {
     saveTwice();
-    // What a save leaves when it is cut after its first rename.
+    // The files after a save that was cut after its first rename.
     QVERIFY(QFile::remove(path() + ".bak"));
     QVERIFY(QFile::rename(path(), path() + ".bak"));
     put(path() + ".new", settingsToText({{{"a", 3}}, 5}));
@@ -411,7 +411,7 @@ void tst_SettingsFile::whatStandsInTheWay() {
     QVERIFY(QFileInfo::exists(path() + end + ".damaged-1"));
 }
 
-/// What could not be read again is no state to replace one that can.
+/// A file that could not be read again is no state to replace one that can.
 void tst_SettingsFile::tooMuchIsNotWritten() {
     QString problem;
     SettingsFile file(path());

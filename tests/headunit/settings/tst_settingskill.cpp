@@ -18,7 +18,7 @@ namespace {
 constexpr qint64 changesPerFlush = 4096;
 constexpr int patienceMs = 60000;
 
-/// What the child says after each pair of changes.
+/// The child's line after each pair of changes.
 struct Report {
     qint64 number;
     qint64 flushed;  ///< the newest number that the child has waited for

@@ -43,7 +43,7 @@ QRgb colourOf(QIcon::Mode mode, QIcon::State state) {
 Q_DECLARE_METATYPE(QIcon::Mode)
 Q_DECLARE_METATYPE(QIcon::State)
 
-/// What a key looks like in each state.
+/// The look of a key in each state.
 class TestHeadUnitStyle : public QObject {
     Q_OBJECT
 

@@ -46,7 +46,7 @@ class TestHorizontalSlider : public QObject {
         return made;
     }
 
-    /// What is drawn, with the knob painted over.
+    /// The drawn slider, with the knob painted over.
     QImage withoutNumber() {
         QImage image = slider->grab().toImage();
         QPainter painter(&image);

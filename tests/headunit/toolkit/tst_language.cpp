@@ -60,7 +60,7 @@ Rows readTable(const QString &name) {
     return rows;
 }
 
-/// What a translation must keep: placeholders and markup.
+/// The parts that a translation must keep: placeholders and markup.
 QStringList fixedParts(const QString &text) {
     QStringList parts;
     auto match = QRegularExpression("%L?\\d+|%n|<[^>]+>").globalMatch(text);

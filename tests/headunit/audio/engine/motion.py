@@ -61,7 +61,7 @@ def records(program, cases):
 
 
 def filtered(samples, fir, first, last):
-    """What the filter, which is symmetrical and thus early by half its length, makes of samples first to last."""
+    """The filter's output for samples first to last; it is symmetrical and thus early by half its length."""
     half = len(fir) // 2
     return signal.oaconvolve(samples[first - half:last + half], fir, mode="valid")
 
@@ -96,7 +96,7 @@ def true_peak(samples):
 
 
 def distortion(samples, hz):
-    """What is not the tone, relative to it."""
+    """Everything but the tone, relative to it."""
     time = np.arange(len(samples)) / RATE
     turns = np.stack([np.sin(2 * np.pi * hz * time), np.cos(2 * np.pi * hz * time), np.ones_like(time)], axis=1)
     fit, *_ = np.linalg.lstsq(turns, samples, rcond=None)

@@ -24,8 +24,8 @@ Stereo impulse(size_t frames, float height = 0.25F);
 /// The same at every run.
 Stereo noise(size_t frames, float amplitude = 0.25F);
 
-/// What a change of settings, after that many frames, makes of a signal on an input. The engine's latency is cut off,
-/// and as many frames come out as go in.
+/// The output for a signal on an input when the settings change after that many frames. The engine's latency is cut
+/// off, and as many frames come out as go in.
 struct Change {
     size_t frame;
     SoundState state;

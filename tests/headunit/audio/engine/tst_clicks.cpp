@@ -24,7 +24,7 @@ constexpr double tones[] = {63, 100, 160, 250};
 constexpr size_t changeAt = 24000;
 constexpr size_t frames = 48000;
 
-/// What lies above 2 kHz, by three filters of third order in a row: the highest sample in dB of the tone's amplitude.
+/// The energy above 2 kHz, by three filters of third order in a row: the highest sample in dB of the tone's amplitude.
 double residual(const std::vector<float> &samples, double amplitude) {
     constexpr double cutOff = 2000;
     constexpr int rounds = 3;

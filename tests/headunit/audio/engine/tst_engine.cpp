@@ -211,7 +211,7 @@ void TestEngine::fadesIn() {
     }
 }
 
-/// What the limiter holds at full scale fades in like everything else.
+/// A signal that the limiter holds at full scale fades in like everything else.
 void TestEngine::fadesInHoweverLoud() {
     SoundState loud = neutral();
     loud.sourceGain[0] = 20;

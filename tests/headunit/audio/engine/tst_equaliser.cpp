@@ -16,7 +16,7 @@ using namespace headunit::engine;
 namespace {
 
 constexpr int largestGain = 12;
-/// What the solver leaves: far below the 0.05 dB that are asked for, so that a step less of it is noticed.
+/// The solver's remaining error: far below the 0.05 dB that are asked for, so that a step less of it is noticed.
 constexpr double largestDistance = 1e-6;
 
 double decibels(const std::array<Biquad, bandCount> &sections, double hz) {

@@ -22,7 +22,7 @@ bool isNear(std::complex<double> value, std::complex<double> expected, double to
     return false;
 }
 
-/// What a delay of so many samples does to a tone.
+/// The complex factor that a delay of so many samples gives to a tone.
 std::complex<double> late(int samples, double hz) {
     return std::polar(1.0, -2 * pi * hz * samples / sampleRate);
 }

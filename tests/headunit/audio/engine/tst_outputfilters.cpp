@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the filters do alone, and when settings change under them.
+// The filters alone, and while settings change under them.
 
 #include "headunit/audio/engine/outputfilters.h"
 

@@ -55,7 +55,7 @@ std::vector<double> linearPhase(double hz, bool highPass) {
     return filter;
 }
 
-/// What a change leaves of itself on the other side of \a hz than the tone: the highest sample from 100 ms before it to
+/// The residue of a change on the other side of \a hz than the tone: the highest sample from 100 ms before it to
 /// 290 ms after it, in dB of the tone.
 double thump(const std::vector<float> &samples, size_t change, double hz, bool highPass, double amplitude) {
     const std::vector<double> filter = linearPhase(hz, highPass);

@@ -15,7 +15,7 @@ public:
     /// the session has no folder of its own.
     explicit SoundServer(const QTemporaryDir &folder, Socket socket = Socket::Named);
 
-    /// What PULSE_SERVER must be for a program to play on the named socket.
+    /// The value of PULSE_SERVER for a program to play on the named socket.
     static QByteArray address(const QTemporaryDir &folder);
     /// The surroundings of a program that plays here.
     const QProcessEnvironment &environment() const { return m_environment; }
@@ -33,8 +33,8 @@ public:
     /// All devices, in the order in which they came.
     QStringList devices() const;
 
-    /// What plays, as "6ch on NAME" or, if its samples are other than floats at 48 kHz, as "s16le 2ch 44100Hz on NAME",
-    /// where NAME is the device; joined by commas.
+    /// The playing streams, as "6ch on NAME" or, if its samples are other than floats at 48 kHz, as "s16le 2ch 44100Hz
+    /// on NAME", where NAME is the device; joined by commas.
     QString streams() const;
     /// Starts to record what a device plays on \a channels, as raw numbers of 16 bits; stops when the process is
     /// deleted.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the audio thread must not do while it plays: allocate, take a lock, call the system. Each is counted on a thread
+// The audio thread must not allocate, take a lock or call the system while it plays. Each is counted on a thread
 // that fills the loudspeakers' samples while another one changes settings.
 
 #include "headunit/audio/live/devicesound.h"
@@ -95,7 +95,7 @@ void free(void *memory) {
 
 #endif
 
-// What every lock of C++ and C comes to; semaphores and futexes that wait call the system.
+// Every lock of C++ and C comes to this; semaphores and futexes that wait call the system.
 extern "C" {
 int pthread_mutex_lock(pthread_mutex_t *mutex) {
     static const auto next = reinterpret_cast<int (*)(pthread_mutex_t *)>(dlsym(RTLD_NEXT, "pthread_mutex_lock"));

@@ -52,7 +52,7 @@ struct Desk {
     }
 };
 
-/// What is left of a tone when the best one of that frequency is taken away, as a part of it.
+/// The remainder of a tone when the best one of that frequency is taken away, as a part of it.
 double rest(const float *samples, size_t count, double hz) {
     const double step = fullTurn * hz / 48000;
     double cc = 0, cs = 0, ss = 0, xc = 0, xs = 0, xx = 0;
@@ -178,7 +178,7 @@ void TestDeskInput::aProgramThatStandsStill() {
     QVERIFY(*std::max_element(desk.heard.end() - 480, desk.heard.end()) > 0.2F);
 }
 
-/// What came meanwhile is not heard later.
+/// Sound that came meanwhile is not heard later.
 void TestDeskInput::aMachineThatStandsStill() {
     Desk desk;
     desk.run(1);

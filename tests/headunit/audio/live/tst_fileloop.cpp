@@ -120,7 +120,7 @@ void TestFileLoop::shortFileIsKept() {
     }
 }
 
-/// What is there of a damaged file is not taken for all of it.
+/// The readable part of a damaged file is not taken for all of it.
 void TestFileLoop::fileThatIsCutShortAtOnce() {
     FileLoop loop;
     const std::string path = write(200000, 44100);

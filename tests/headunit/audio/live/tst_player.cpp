@@ -156,7 +156,7 @@ void TestPlayer::metersLoseNothing() {
     QVERIFY(meters);
     QVERIFY(meters->peak[FrontRight] > 0.05F);
     QCOMPARE(meters->peak[RearRight], 0.0F);
-    // What was taken is not in the next reading.
+    // A reading that was taken is not in the next one.
     heard(player);
     meters = player.takeMeters();
     QVERIFY(meters);

@@ -144,7 +144,7 @@ void TestPulseOutput::playsWithTheChannelsOfTheDevice_data() {
                           << "1ch on car" << folded;
     QTest::newRow("numbered") << "aux0,aux1,aux2,aux3,aux4,aux5"
                               << "6ch on car" << QByteArray();
-    // What a server without a device plays to
+    // The sink of a server without a device
     QTest::newRow("none") << ""
                           << "2ch on auto_null" << noDevice;
 }

@@ -19,7 +19,7 @@ private Q_SLOTS:
 
 namespace {
 
-/// What sounds from each channel of a device, like "FL FR -": outputs that share one are joined by a plus.
+/// The outputs that sound from each channel of a device, like "FL FR -": outputs that share one are joined by a plus.
 QString heard(const pa_channel_map &device, const Routing &found) {
     QStringList channels;
     for (size_t channel = 0; channel < device.channels; ++channel) {

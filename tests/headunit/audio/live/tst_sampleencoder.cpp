@@ -15,7 +15,7 @@ Q_DECLARE_METATYPE(SampleFormat)
 
 namespace {
 
-/// What a device makes of the bytes: numbers in full scale 1.
+/// The bytes as a device reads them: numbers in full scale 1.
 std::vector<double> decoded(SampleFormat format, const std::vector<unsigned char> &bytes) {
     const size_t width = headunit::sampleBytes(format);
     std::vector<double> samples;

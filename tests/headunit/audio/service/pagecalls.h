@@ -5,7 +5,7 @@
 
 #include <random>
 
-/// What the pages send to the store and the services for one action of a user, each chosen at random.
+/// The calls of the pages to the store and the services for one action of a user, each chosen at random.
 class PageCalls {
 public:
     explicit PageCalls(unsigned seed) : m_random(seed) {}

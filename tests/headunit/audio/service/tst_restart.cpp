@@ -85,7 +85,7 @@ void tst_Restart::sameSoundAfterRestart() {
 
 namespace {
 
-/// What the reset says itself, whatever the factory state holds.
+/// The calls of the reset itself, whatever the factory state holds.
 SoundState afterReset() {
     SoundState state;
     state.eqType = 2;

@@ -291,7 +291,7 @@ void tst_SoundModel::keepsWhatNoPageWrites() {
     QCOMPARE(
         store.values(),
         (SettingsMap{{"eq3", -12}, {"eq4", 24}, {"inputgain5", 12}, {"inputgain0", 16}, {"audioservice/eqtype", 16}}));
-    // What the pages write themselves, the model leaves to them.
+    // The model leaves to the pages the keys that they write themselves.
     const SettingsMap before = store.values();
     model.setBalanceFader(1, 2);
     model.setLoudness(1);
