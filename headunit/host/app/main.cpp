@@ -2,7 +2,7 @@
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/host/app/deskscripttarget.h"
 #include "headunit/host/app/deskwindow.h"
-#include "headunit/host/app/displayscale.h"
+#include "headunit/host/app/display.h"
 #include "headunit/host/app/endsignals.h"
 #include "headunit/host/app/hostapplication.h"
 #include "headunit/host/app/hostlibrary.h"
@@ -22,17 +22,12 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
-#include <QScreen>
 #include <QTemporaryDir>
 #include <QTime>
 #include <QTimer>
 
 #include <cstdio>
 #include <memory>
-#include <vector>
-
-#include <sys/stat.h>
-#include <unistd.h>
 
 using namespace headunit;
 
@@ -41,7 +36,6 @@ namespace {
 constexpr int exitGood = 0;
 constexpr int exitUnusable = 2;
 constexpr int exitSignal = 128;  // plus the number of the signal that cut a script short
-constexpr double unitDotsPerInch = 96;
 
 // The time that the status bar shows wherever pictures must be the same at every run.
 const char fixedTime[] = "10:08";
@@ -68,77 +62,6 @@ int printHelpOrVersion(const Options &options, int argc, char **argv) {
         std::puts("headunit " HEADUNIT_VERSION);
     }
     return exitGood;
-}
-
-// The platform that needs no display.
-const char offscreen[] = "offscreen";
-
-/// Without a display, and without a platform that needs none, the unit can only be looked at in pictures.
-void fallBackToTour(Options *options) {
-    if (!qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        return;
-    }
-    if (!qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-        // Without a second choice Qt ends the process where the display does not answer.
-        const bool x11 = !qEnvironmentVariableIsEmpty("DISPLAY");
-        qputenv("QT_QPA_PLATFORM", QByteArray(x11 ? "xcb" : "wayland") + ';' + offscreen);
-        return;
-    }
-    qputenv("QT_QPA_PLATFORM", offscreen);
-    if (options->scripted() || options->exitWhenShown) {
-        return;
-    }
-    options->tour = QDir::temp().filePath(QStringLiteral("headunit-tour"));
-    std::fprintf(stderr, "headunit: there is no display; a picture of every screen goes to %s\n",
-                 qUtf8Printable(options->tour));
-}
-
-/// Whether the display that the environment names did not answer and Qt took the second choice.
-bool displayFailed() {
-    return QGuiApplication::platformName() == QLatin1String(offscreen) && qgetenv("QT_QPA_PLATFORM") != offscreen;
-}
-
-/// The scale that this display needs, where the command line names none.
-double neededScale(const Options &options) {
-    const QScreen *const display = QGuiApplication::primaryScreen();
-    if (!display) {
-        return 1;
-    }
-    return options.fullscreen ? fittingScale(display->size(), DeskWindow::unitSize())
-                              : deskScale(display->logicalDotsPerInch());
-}
-
-/// Starts this program anew at that scale: Qt asks for it once, before the display is known.
-int restartScaled(double scale, int argc, char **argv) {
-    QByteArray option = "--scale=" + QByteArray::number(scale);
-    std::vector<char *> arguments(argv, argv + argc);
-    arguments.insert(arguments.begin() + 1, option.data());
-    arguments.push_back(nullptr);
-    execv("/proc/self/exe", arguments.data());
-    return refuse(QStringLiteral("the program cannot be started again"));
-}
-
-/// Starts this program anew as on a machine without a display: virtual time must stand before the application object.
-int restartWithoutDisplay(char **argv) {
-    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
-        qunsetenv(name);
-    }
-    execv("/proc/self/exe", argv);
-    return refuse(QStringLiteral("the display does not answer"));
-}
-
-const char runtimeFolder[] = "XDG_RUNTIME_DIR";
-
-/// Qt wants a folder for the running session when it starts, and prints a warning where nobody set one, as in a
-/// container. Whether it had to be provided.
-bool provideRuntimeFolder() {
-    if (!qEnvironmentVariableIsEmpty(runtimeFolder)) {
-        return false;
-    }
-    const QByteArray folder = QFile::encodeName(QDir::tempPath()) + "/headunit-runtime-" + QByteArray::number(getuid());
-    mkdir(folder.constData(), S_IRWXU);
-    qputenv(runtimeFolder, folder);
-    return true;
 }
 
 /// Why the files that the options name cannot be used, or an empty text.
@@ -250,7 +173,7 @@ int main(int argc, char **argv) {
     if (options.soundJob.isEmpty() && !options.setupJob()) {
         fallBackToTour(&options);
     } else {
-        qputenv("QT_QPA_PLATFORM", offscreen);
+        useNoDisplay();
     }
     const QString problem = fileProblem(options);
     if (!problem.isEmpty()) {
@@ -260,19 +183,11 @@ int main(int argc, char **argv) {
     // Lines must not be lost, nor change their order, when the process is ended from outside.
     std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
     QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, options.verbose);
-    const bool providedRuntimeFolder = provideRuntimeFolder();
+    auto runtimeFolder = std::make_unique<RuntimeFolder>();
     prepareUnitApplication();
-    const bool offscreenPlatform = qgetenv("QT_QPA_PLATFORM") == offscreen;
-    bool measuresDisplay = false;
-    if (options.scale != 0) {
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
-    } else if (options.fullscreen || (!offscreenPlatform && qEnvironmentVariableIsEmpty("QT_SCALE_FACTOR"))) {
-        measuresDisplay = true;
-        qunsetenv("QT_SCALE_FACTOR");
-        qunsetenv("QT_FONT_DPI");  // it would be taken for the desk's
-    }
+    const bool measuresDisplay = setScale(options);
     MoveTime moveTime = nullptr;
-    if (options.scripted() && offscreenPlatform && !measuresDisplay) {
+    if (options.scripted() && usesNoDisplay() && !measuresDisplay) {
         QString reason;
         const auto start =
             reinterpret_cast<StartVirtualTime>(hostFunction("virtualtime", startVirtualTimeName, &reason));
@@ -282,19 +197,14 @@ int main(int argc, char **argv) {
         moveTime = start();
     }
     auto application = std::make_unique<HostApplication>(argc, argv);
-    if (providedRuntimeFolder) {
-        qunsetenv(runtimeFolder);  // the sound server would be looked for in it, and in no other place
-    }
+    runtimeFolder.reset();
     if (displayFailed()) {
-        return restartWithoutDisplay(argv);
+        return refuse(restartWithoutDisplay(argv));
     }
-    if (measuresDisplay) {
-        const double scale = neededScale(options);
-        const QScreen *const display = QGuiApplication::primaryScreen();
-        if (scale != 1 || offscreenPlatform || (display && display->logicalDotsPerInch() != unitDotsPerInch)) {
-            application.reset();  // the display is free again
-            return restartScaled(scale, argc, argv);
-        }
+    const double scale = measuresDisplay ? missingScale(options) : 0;
+    if (scale != 0) {
+        application.reset();  // the display is free again
+        return refuse(restartScaled(scale, argc, argv));
     }
     QGuiApplication::setDesktopFileName(QStringLiteral("com.norvale.headunit"));
     setUpUnitApplication();
