@@ -6,8 +6,10 @@
 #include "headunit/host/app/endsignals.h"
 #include "headunit/host/app/hostapplication.h"
 #include "headunit/host/app/hostlibrary.h"
+#include "headunit/host/app/livescripttarget.h"
 #include "headunit/host/app/options.h"
 #include "headunit/host/app/plugincatalog.h"
+#include "headunit/host/app/remotelibrary.h"
 #include "headunit/host/app/soundlibrary.h"
 #include "headunit/host/app/tunersdesk.h"
 #include "headunit/host/app/unit.h"
@@ -62,6 +64,13 @@ int printHelpOrVersion(const Options &options, int argc, char **argv) {
         std::puts("headunit " HEADUNIT_VERSION);
     }
     return exitGood;
+}
+
+/// Hands a command to the unit that runs; this process shows nothing.
+int runControl(const Options &options, int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    setUnitRoot(options.root);
+    return doControl(options.control);
 }
 
 /// Why the files that the options name cannot be used, or an empty text.
@@ -137,12 +146,22 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
     if (!options.scripted()) {
         // Whoever asks the unit to end gets what closing its window gives: settings kept, sound faded, exit code 0.
         const EndSignals endSignals([](int) { QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection); });
+        LiveScriptTarget target(window, unit);
+        std::unique_ptr<QObject> remote;
+        if (options.remote) {
+            QString reason;
+            remote.reset(startRemote(target, &reason));
+            if (!remote) {
+                return refuse(QStringLiteral("--remote: %1").arg(reason));
+            }
+        }
         std::unique_ptr<QObject> sound;
         if (!options.exitWhenShown) {
             // After the first screen
-            QTimer::singleShot(0, &application, [&sound, &options] {
+            QTimer::singleShot(0, &application, [&sound, &target, &options] {
                 QString silentBecause;
                 sound.reset(startSound(options.playJob, &silentBecause));
+                target.setSound(sound.get());
                 if (!silentBecause.isEmpty()) {
                     std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
                 }
@@ -169,6 +188,9 @@ int main(int argc, char **argv) {
     Options options = parsed.options;
     if (options.help || options.version) {
         return printHelpOrVersion(options, argc, argv);
+    }
+    if (!options.control.isEmpty()) {
+        return runControl(options, argc, argv);
     }
     if (options.soundJob.isEmpty() && !options.setupJob()) {
         fallBackToTour(&options);

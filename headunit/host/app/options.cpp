@@ -42,6 +42,10 @@ constexpr OptionRow optionRows[] = {
     {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
     {"export", "FILE", "Write the present set-up into a text file, and end."},
     {"import", "FILE", "Put the set-up of a text file in force, print what it changes, and end."},
+    {"remote", nullptr, "Let a program of yours control the unit, see --control."},
+    {"control", "COMMAND",
+     "Have the unit that runs with --remote do a command of scripts, like 'tap(\"key_eq\")', print what it yields, and "
+     "end; - takes commands from standard input, one a line."},
     {"desk", nullptr, "Open the tuner's desk at once: what each touch does, set-ups, undo. Later: F12."},
     {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
     {"verbose", nullptr, "Print debug lines."},
@@ -98,13 +102,16 @@ QString problem(const QCommandLineParser &parser) {
         return QStringLiteral("--map %1: %2").arg(mapText, QString::fromStdString(reason));
     }
     QStringList given;
-    for (const char *name : {"script", "tour", "render", "measure", "export", "import"}) {
+    for (const char *name : {"script", "tour", "render", "measure", "export", "import", "control"}) {
         if (parser.isSet(QString::fromLatin1(name))) {
             given << QStringLiteral("--") + QString::fromLatin1(name);
         }
     }
     if (given.size() > 1) {
         return QStringLiteral("%1 do not go together").arg(given.join(QStringLiteral(" and ")));
+    }
+    if (parser.isSet(QStringLiteral("remote")) && !given.isEmpty()) {
+        return QStringLiteral("--remote and %1 do not go together").arg(given.first());
     }
     const QStringList files = parser.positionalArguments();
     if (parser.isSet(QStringLiteral("render")) && (files.size() != 1 || files.first().isEmpty())) {
@@ -153,6 +160,8 @@ ParsedOptions parseOptions(const QStringList &arguments) {
     options.soundJob.measureTo = parser.value(QStringLiteral("measure"));
     options.exportTo = parser.value(QStringLiteral("export"));
     options.importFrom = parser.value(QStringLiteral("import"));
+    options.remote = parser.isSet(QStringLiteral("remote"));
+    options.control = parser.value(QStringLiteral("control"));
     options.desk = parser.isSet(QStringLiteral("desk"));
     options.trace = parser.isSet(QStringLiteral("trace"));
     options.verbose = parser.isSet(QStringLiteral("verbose"));

@@ -22,6 +22,8 @@ struct Options {
     SoundJob soundJob;           ///< what to do with the sound instead of showing the unit
     QString exportTo;            ///< file that the set-up goes to
     QString importFrom;          ///< file that a set-up is taken from
+    bool remote = false;         ///< let a controller in
+    QString control;             ///< command for the unit that runs
     bool desk = false;           ///< open the tuner's desk at once
     bool trace = false;          ///< print each call across the contract
     bool verbose = false;        ///< print debug lines

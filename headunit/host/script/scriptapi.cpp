@@ -123,6 +123,12 @@ void ScriptApi::release() {
     }
 }
 
+void ScriptApi::lift() {
+    if (m_finger.isDown()) {
+        m_finger.release();
+    }
+}
+
 void ScriptApi::drag(const QString &name, const QJSValue &from, const QJSValue &y1, const QJSValue &x2,
                      const QJSValue &y2) {
     QWidget *const widget = find(name);
@@ -219,6 +225,10 @@ void ScriptApi::expect(const QJSValue &what, const QJSValue &property, const QJS
 }
 
 void ScriptApi::log(const QJSValue &text) {
+    if (m_printer) {
+        m_printer(text.toString());
+        return;
+    }
     std::printf("%s\n", qUtf8Printable(text.toString()));
     std::fflush(stdout);
 }
@@ -247,6 +257,14 @@ QJSValue ScriptApi::heard(double hz, int input) {
 
 QJSValue ScriptApi::arrival() {
     return arrivalArray(*m_engine);
+}
+
+QJSValue ScriptApi::meters() {
+    const QVariantMap readings = m_target.meters();
+    if (readings.isEmpty()) {
+        fail(QStringLiteral("no sound is played here"));
+    }
+    return m_engine->toScriptValue(readings);
 }
 
 void ScriptApi::language(const QString &code) {

@@ -6,6 +6,8 @@
 #include <QJSValue>
 #include <QObject>
 
+#include <functional>
+
 class QJSEngine;
 
 namespace headunit {
@@ -24,6 +26,11 @@ public:
 
     /// Makes the methods global functions of the engine.
     void install();
+    /// Has printed lines go elsewhere than to standard output.
+    void setPrinter(std::function<void(const QString &text)> printer) { m_printer = std::move(printer); }
+    void setFolder(const QString &folder) { m_folder = folder; }
+    /// Lets go if the finger is down.
+    void lift();
 
     // The finger.
     Q_INVOKABLE void tap(const QJSValue &place, const QJSValue &y = QJSValue());
@@ -49,6 +56,8 @@ public:
     Q_INVOKABLE QJSValue heard(double hz, int input = 0);
     /// After how many samples each loudspeaker begins to play.
     Q_INVOKABLE QJSValue arrival();
+    /// What the running unit has played since the last call.
+    Q_INVOKABLE QJSValue meters();
     Q_INVOKABLE void log(const QJSValue &text);
 
     // The rest of the car.
@@ -77,7 +86,8 @@ private:
 
     ScriptTarget &m_target;
     QJSEngine *const m_engine;
-    const QString m_folder;
+    QString m_folder;
+    std::function<void(const QString &text)> m_printer;
     Finger m_finger;
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QVariantMap>
 
 #include <functional>
 
@@ -22,6 +23,9 @@ public:
     /// Lets \a ms milliseconds pass, delivering what falls due. 0: delivers what is pending.
     virtual void wait(int ms) = 0;
 
+    /// Ends a wait() that goes on; the script's next one waits again.
+    virtual void endWait() {}
+
     /// From now on \a interrupt is called, on another thread, when the process is to end; an empty one ends that.
     virtual void setInterrupt(std::function<void()> interrupt) = 0;
 
@@ -32,6 +36,8 @@ public:
     virtual void setCallActive(bool active) = 0;
     virtual bool setSource(int source) = 0;
     virtual bool setLanguage(const QString &code) = 0;
+    /// What the unit has played since the last call (see LiveSound::readings()); empty where nothing is played.
+    virtual QVariantMap meters() { return {}; }
 };
 
 /// Runs a script; an empty \a file is the built-in tour. Pictures go to \a folder. Returns the process's exit code.

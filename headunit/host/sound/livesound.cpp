@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/sound/livesound.h"
 
+#include "headunit/audio/engine/filterdesign.h"
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/host/app/soundlibrary.h"
 #include "headunit/host/sound/metertext.h"
@@ -88,18 +89,49 @@ void LiveSound::takeStateSoon() {
     }
 }
 
+/// Adds what was played to all who wait for it; false if nothing was.
+bool LiveSound::takeReadings() {
+    const engine::Meters *const meters = m_player.takeMeters();
+    if (!meters) {
+        return false;
+    }
+    m_unread.add(*meters);
+    m_unprinted.add(*meters);
+    m_dropouts += m_output->takeDropouts() + m_player.takeDeskDropouts();
+    return true;
+}
+
+QVariantMap LiveSound::readings() {
+    takeReadings();
+    QVariantList peaks;
+    for (const float peak : m_unread.peak) {
+        peaks << engine::toDecibels(static_cast<double>(peak));
+    }
+    QVariantList limiters;
+    for (const double gain : m_unread.limiterGain) {
+        limiters << engine::toDecibels(gain);
+    }
+    m_unread = engine::Meters();
+    return {{QStringLiteral("peak"), peaks},
+            {QStringLiteral("limiter"), limiters},
+            {QStringLiteral("dropouts"), m_dropouts}};
+}
+
 void LiveSound::printMeters() {
     constexpr int period = 1000;  // ms
     connect(&m_meterTimer, &QTimer::timeout, this, [this] {
-        if (const engine::Meters *const meters = m_player.takeMeters()) {
-            if (!m_saidScheduling) {
-                m_saidScheduling = true;
-                std::printf("audio thread: %s\n", m_output->scheduling().c_str());
-            }
-            const unsigned dropouts = m_output->takeDropouts() + m_player.takeDeskDropouts();
-            const QByteArray holes = dropouts > 0 ? ", dropouts " + QByteArray::number(dropouts) : QByteArray();
-            std::printf("%s%s\n", meterText(*meters).constData(), holes.constData());
+        if (!takeReadings()) {
+            return;
         }
+        if (!m_saidScheduling) {
+            m_saidScheduling = true;
+            std::printf("audio thread: %s\n", m_output->scheduling().c_str());
+        }
+        const unsigned dropouts = m_dropouts - m_lastDropouts;
+        const QByteArray holes = dropouts > 0 ? ", dropouts " + QByteArray::number(dropouts) : QByteArray();
+        std::printf("%s%s\n", meterText(m_unprinted).constData(), holes.constData());
+        m_unprinted = engine::Meters();
+        m_lastDropouts = m_dropouts;
     });
     m_meterTimer.start(period);
 }

@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <QVariantMap>
 
 namespace headunit {
 
@@ -18,12 +19,17 @@ public:
     /// Starts to play. \a problem is a line that says what cannot be; the rest is heard all the same.
     LiveSound(const PlayJob &job, QString *problem);
 
+    /// What was played since the last call, for scripts: peak of each output and limiter of each pair in dB, and how
+    /// often there was nothing to play in time since the start.
+    Q_INVOKABLE QVariantMap readings();
+
 private Q_SLOTS:
     void takeState();
 
 private:
     void takeStateSoon();
     void showFault(SoundFault fault);
+    bool takeReadings();
     void printMeters();
 
     void followPrograms();
@@ -33,6 +39,10 @@ private:
     bool m_saidScheduling = false;
     Player m_player;
     ControlThread m_control{[this](const SoundState &state) { m_player.setState(state); }};
+    engine::Meters m_unread;      ///< played since the last readings() ...
+    engine::Meters m_unprinted;   ///< ... and since the last line
+    unsigned m_dropouts = 0;      ///< since the start ...
+    unsigned m_lastDropouts = 0;  ///< ... and until the last line
     QTimer m_meterTimer;
     std::unique_ptr<PulseOutput> m_output;
 };

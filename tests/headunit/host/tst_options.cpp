@@ -96,7 +96,13 @@ void TestOptions::soundJobs() {
     QCOMPARE(parsed.error, QString());
     QVERIFY(!parsed.options.soundJob.isEmpty());
     QCOMPARE(parsed.options.soundJob.measureTo, QStringLiteral("a.csv"));
-    QVERIFY(!parsed.options.setupJob() && !parsed.options.desk);
+    QVERIFY(!parsed.options.setupJob() && !parsed.options.desk && !parsed.options.remote);
+    parsed = parseOptions({QStringLiteral("headunit"), QStringLiteral("--remote")});
+    QVERIFY(parsed.options.remote);
+    QCOMPARE(parsed.options.control, QString());
+    parsed = parseOptions({QStringLiteral("headunit"), QStringLiteral("--control"), QStringLiteral("tap(1, 2)")});
+    QCOMPARE(parsed.options.control, QStringLiteral("tap(1, 2)"));
+    QVERIFY(!parsed.options.remote);
     parsed = parseOptions({QStringLiteral("headunit"), QStringLiteral("--export=a.txt")});
     QVERIFY(parsed.options.setupJob());
     QCOMPARE(parsed.options.exportTo, QStringLiteral("a.txt"));
@@ -127,6 +133,9 @@ void TestOptions::refuses_data() {
     row("script and tour", "--script a --tour b", "--tour");
     row("export and import", "--export a --import b", "--export and --import");
     row("import and script", "--import a --script b", "--script and --import");
+    row("control and script", "--control a --script b", "--script and --control");
+    row("control without a command", "--control", "--control");
+    row("remote and script", "--remote --script b", "--remote and --script");
     row("export without a file", "--export", "--export");
     row("render and measure", "--render a --measure b c", "--render and --measure");
     row("render without a second file", "--render a", "--render");
@@ -146,12 +155,12 @@ void TestOptions::refuses() {
 
 void TestOptions::helpNamesEveryOption() {
     const QString help = headunit::optionsHelp();
-    for (const char *name : {"--help",           "--version",       "--root <DIR>",    "--scale <N>",
-                             "--fullscreen",     "--language <xx>", "--open <NAME>",   "--script <FILE.js>",
-                             "--tour <DIR>",     "--play <WHAT>",   "--device <NAME>", "--map <FL=CHANNEL,...>",
-                             "--meters",         "--render <IN>",   "--measure <OUT>", "--export <FILE>",
-                             "--import <FILE>",  "--desk",          "--trace",         "--verbose",
-                             "--exit-when-shown"}) {
+    for (const char *name : {"--help",          "--version",       "--root <DIR>",        "--scale <N>",
+                             "--fullscreen",    "--language <xx>", "--open <NAME>",       "--script <FILE.js>",
+                             "--tour <DIR>",    "--play <WHAT>",   "--device <NAME>",     "--map <FL=CHANNEL,...>",
+                             "--meters",        "--render <IN>",   "--measure <OUT>",     "--export <FILE>",
+                             "--import <FILE>", "--remote",        "--control <COMMAND>", "--desk",
+                             "--trace",         "--verbose",       "--exit-when-shown"}) {
         QVERIFY2(help.contains(QLatin1String(name)), name);
     }
 }
