@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/app/hostapplication.h"
 
+#include "headunit/host/app/applicationguard.h"
 #include "headunit/settings/trace.h"
 #include "touchevent.h"
 
@@ -41,7 +42,21 @@ bool HostApplication::notify(QObject *receiver, QEvent *event) {
         // Qt goes on delivering to the widget that was pressed.
         return true;
     }
-    return QApplication::notify(receiver, event);
+    return m_guard ? notifyGuarded(receiver, event) : QApplication::notify(receiver, event);
+}
+
+bool HostApplication::notifyGuarded(QObject *receiver, QEvent *event) {
+    if (m_guard->isSilenced(receiver)) {
+        return true;
+    }
+    const char *const receiverClass = receiver->metaObject()->className();  // the receiver may be gone afterwards
+    const ApplicationGuard::Present present(m_guard, m_guard->nameOf(receiver), receiverClass);
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (...) {
+        m_guard->caught(receiverClass);
+        return true;
+    }
 }
 
 bool HostApplication::event(QEvent *event) {

@@ -5,6 +5,8 @@
 
 namespace headunit {
 
+class ApplicationGuard;
+
 /// The application object, to which applications post their touch events.
 ///
 /// It also takes the finger off what is hidden under it, by a call or by another application's request: a held key does
@@ -14,6 +16,9 @@ class HostApplication : public QApplication {
 public:
     using QApplication::QApplication;
 
+    /// Has exceptions out of event handlers end there; null: they end the process. It must outlive its use here.
+    void setGuard(ApplicationGuard *guard) { m_guard = guard; }
+
     bool notify(QObject *receiver, QEvent *event) override;
 
 Q_SIGNALS:
@@ -22,6 +27,11 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent *event) override;
+
+private:
+    bool notifyGuarded(QObject *receiver, QEvent *event);
+
+    ApplicationGuard *m_guard = nullptr;
 };
 
 }  // namespace headunit

@@ -13,6 +13,7 @@
 #include "headunit/host/app/soundlibrary.h"
 #include "headunit/host/app/tunersdesk.h"
 #include "headunit/host/app/unit.h"
+#include "headunit/host/app/watchdog.h"
 #include "headunit/host/screens/hardkeys.h"
 #include "headunit/settings/trace.h"
 #include "headunit/settings/unitroot.h"
@@ -24,6 +25,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLoggingCategory>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTime>
 #include <QTimer>
@@ -37,7 +39,8 @@ namespace {
 
 constexpr int exitGood = 0;
 constexpr int exitUnusable = 2;
-constexpr int exitSignal = 128;  // plus the number of the signal that cut a script short
+constexpr int exitSignal = 128;   // plus the number of the signal that cut a script short
+constexpr double usualWatch = 5;  // s that an application may block the unit before it is named
 
 // The time that the status bar shows wherever pictures must be the same at every run.
 const char fixedTime[] = "10:08";
@@ -99,7 +102,18 @@ int runSoundJob(const SoundJob &job) {
 }
 
 int runUnit(const Options &options, HostApplication &application, MoveTime moveTime) {
+    Watchdog watchdog(
+        std::chrono::milliseconds(qRound64(1000 * (options.watchdog < 0 ? usualWatch : options.watchdog))),
+        [](const std::string &line) { std::fprintf(stderr, "headunit: %s\n", line.c_str()); });
     PluginCatalog catalog;
+    application.setGuard(&catalog.guard());
+    const auto unguarded = qScopeGuard([&application] { application.setGuard(nullptr); });
+    if (options.watchdog >= 0 || !moveTime) {
+        catalog.guard().setWatchdog(&watchdog);
+        if (!watchdog.start()) {
+            std::fputs("headunit: no thread is to be had: an application that blocks the unit is not named\n", stderr);
+        }
+    }
     const QStringList files = options.plugins.isEmpty()
                                   ? QStringList(unitFolder() + QStringLiteral("/plugins/libaudiosetting.so"))
                                   : options.plugins;
@@ -109,6 +123,8 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
     for (const QString &failure : catalog.failures()) {
         std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(failure));
     }
+    QObject::connect(&catalog.guard(), &ApplicationGuard::failed, &application,
+                     [](const QString &line) { std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(line)); });
     // With a plug-in that failed the name may well be right; the home screen then says what is wrong.
     if (!options.open.isEmpty() && !catalog.find(options.open) && catalog.failures().isEmpty()) {
         return refuse(QStringLiteral("--open %1: there is no application of that name").arg(options.open));

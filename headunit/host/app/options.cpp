@@ -11,6 +11,8 @@ namespace {
 
 constexpr double smallestScale = 0.25;
 constexpr double largestScale = 8;
+constexpr double shortestWatch = 0.01;  // s
+constexpr double longestWatch = 3600;
 constexpr char defaultPlay[] = "music";
 
 struct OptionRow {
@@ -47,6 +49,8 @@ constexpr OptionRow optionRows[] = {
      "Have the unit that runs with --remote do a command of scripts, like 'tap(\"key_eq\")', print what it yields, and "
      "end; - takes commands from standard input, one a line."},
     {"desk", nullptr, "Open the tuner's desk at once: what each touch does, set-ups, undo. Later: F12."},
+    {"watchdog", "SECONDS",
+     "Name an application that blocks the unit for so long. Default: 5; in a script that runs offscreen, never."},
     {"trace", nullptr, "Print every call between an application and the unit, with its meaning."},
     {"verbose", nullptr, "Print debug lines."},
     {"exit-when-shown", nullptr, "End once the first screen is painted; for measuring the start."},
@@ -83,16 +87,21 @@ QString problem(const QCommandLineParser &parser) {
             return QStringLiteral("--%1 needs a value (%2)").arg(name, QString::fromLatin1(row.value));
         }
     }
-    if (parser.isSet(QStringLiteral("scale"))) {
-        const QString text = parser.value(QStringLiteral("scale"));
+    const struct {
+        const char *name;
+        double low;
+        double high;
+    } numbers[] = {{"scale", smallestScale, largestScale}, {"watchdog", shortestWatch, longestWatch}};
+    for (const auto &row : numbers) {
+        const QString name = QString::fromLatin1(row.name);
         bool isNumber = false;
-        const double scale = text.toDouble(&isNumber);
+        const double number = parser.value(name).toDouble(&isNumber);
         // Written so that "nan" fails too.
-        if (!isNumber || !(scale >= smallestScale && scale <= largestScale)) {
-            return QStringLiteral("--scale %1: a number from %2 to %3 is needed")
-                .arg(text)
-                .arg(smallestScale)
-                .arg(largestScale);
+        if (parser.isSet(name) && (!isNumber || !(number >= row.low && number <= row.high))) {
+            return QStringLiteral("--%1 %2: a number from %3 to %4 is needed")
+                .arg(name, parser.value(name))
+                .arg(row.low)
+                .arg(row.high);
         }
     }
     OutputMap map;
@@ -162,6 +171,9 @@ ParsedOptions parseOptions(const QStringList &arguments) {
     options.importFrom = parser.value(QStringLiteral("import"));
     options.remote = parser.isSet(QStringLiteral("remote"));
     options.control = parser.value(QStringLiteral("control"));
+    if (parser.isSet(QStringLiteral("watchdog"))) {
+        options.watchdog = parser.value(QStringLiteral("watchdog")).toDouble();
+    }
     options.desk = parser.isSet(QStringLiteral("desk"));
     options.trace = parser.isSet(QStringLiteral("trace"));
     options.verbose = parser.isSet(QStringLiteral("verbose"));

@@ -24,6 +24,7 @@ struct Options {
     QString importFrom;          ///< file that a set-up is taken from
     bool remote = false;         ///< let a controller in
     QString control;             ///< command for the unit that runs
+    double watchdog = -1;        ///< s that an application may block the unit; negative: as usual
     bool desk = false;           ///< open the tuner's desk at once
     bool trace = false;          ///< print each call across the contract
     bool verbose = false;        ///< print debug lines

@@ -25,6 +25,10 @@ QString idFromIid(const QString &iid) {
 
 }  // namespace
 
+PluginCatalog::PluginCatalog() {
+    QObject::connect(&m_guard, &ApplicationGuard::failed, [this](const QString &line) { m_failures << line; });
+}
+
 PluginCatalog::~PluginCatalog() {
     unload();
 }
@@ -63,24 +67,46 @@ QString PluginCatalog::tryLoad(const QString &file) {
         return QStringLiteral("an application named %1 is loaded already").arg(id);
     }
 
-    if (!loader.load()) {
+    return takeUp(info.fileName(), id, loader);
+}
+
+QString PluginCatalog::takeUp(const QString &name, const QString &id, QPluginLoader &loader) {
+    QString problem;
+    const auto runs = [&](const char *what, const std::function<void()> &step) {
+        return m_guard.callUnknown(name, what, step, &problem);
+    };
+    bool isLoaded = false;
+    QObject *root = nullptr;
+    if (!runs("its library's start", [&] { isLoaded = loader.load(); })) {
+        return problem;
+    }
+    if (!isLoaded) {
         return QStringLiteral("cannot be loaded (%1)").arg(loader.errorString());
     }
-    QObject *root = loader.instance();
-    AppPlugin *plugin = qobject_cast<AppPlugin *>(root);
+    if (!runs("its constructor", [&] { root = loader.instance(); })) {
+        return problem;
+    }
+    AppPlugin *const plugin = qobject_cast<AppPlugin *>(root);
     if (!plugin) {
         delete root;
         return QStringLiteral("offers no application interface (" AppPlugin_iid ")");
     }
-    plugin->create();
-    WindowInterface *window = plugin->windowInterfaceID().contains(applicationWindowId)
-                                  ? plugin->requestWindowInterface(applicationWindowId)
-                                  : nullptr;
+    WindowInterface *window = nullptr;
+    const bool hasStarted = runs("create", [&] { plugin->create(); }) && runs("requestWindowInterface", [&] {
+                                if (plugin->windowInterfaceID().contains(applicationWindowId)) {
+                                    window = plugin->requestWindowInterface(applicationWindowId);
+                                }
+                            });
+    if (!hasStarted) {
+        m_guard.silence(root);  // in what state it is, nobody knows
+        return problem;
+    }
     if (!window) {
         delete root;
         return QStringLiteral("offers no window %1").arg(applicationWindowId);
     }
     m_applications.push_back({id, root, plugin, window});
+    m_guard.add(name, root, window);
     return QString();
 }
 
@@ -89,6 +115,7 @@ void PluginCatalog::unload() {
         delete application.root.data();
     }
     m_applications.clear();
+    m_guard.clear();
 }
 
 const Application *PluginCatalog::find(const QString &id) const {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "headunit/host/app/applicationguard.h"
+
 #include <QPointer>
 #include <QString>
 #include <QStringList>
@@ -8,6 +10,7 @@
 #include <vector>
 
 class AppPlugin;
+class QPluginLoader;
 class WindowInterface;
 
 namespace headunit {
@@ -26,7 +29,7 @@ struct Application {
 /// The applications of the unit: loads them, and keeps a readable line for each that cannot be loaded.
 class PluginCatalog {
 public:
-    PluginCatalog() = default;
+    PluginCatalog();
     ~PluginCatalog();
     PluginCatalog(const PluginCatalog &) = delete;
     PluginCatalog &operator=(const PluginCatalog &) = delete;
@@ -40,13 +43,20 @@ public:
     const std::vector<Application> &applications() const { return m_applications; }
     /// The application of that id, or null.
     const Application *find(const QString &id) const;
-    /// One line per plug-in that could not be taken up: the file's name and the reason.
+    /// One line per plug-in that could not be taken up, or that failed since: the file's name and the reason.
     const QStringList &failures() const { return m_failures; }
+    /// Through which the applications are called.
+    ApplicationGuard &guard() { return m_guard; }
+    /// Whether the application still works.
+    bool works(const Application &application) const { return !m_guard.hasFailed(application.window); }
 
 private:
     /// Takes up the plug-in; the reason if it cannot be.
     QString tryLoad(const QString &file);
+    /// Runs the plug-in's own code; the reason if that fails.
+    QString takeUp(const QString &name, const QString &id, QPluginLoader &loader);
 
+    ApplicationGuard m_guard;
     std::vector<Application> m_applications;
     QStringList m_failures;
 };

@@ -11,6 +11,9 @@ class WindowInterface;
 
 namespace headunit {
 
+class ApplicationGuard;
+struct WindowCall;
+
 /// Drives the life cycle of the applications' windows: at most one is in front, on a stage widget that it fills.
 ///
 /// The screen that comes to the front and the one that leaves it fade into each other; the new one has the input at
@@ -24,12 +27,13 @@ public:
     static constexpr int fadeMilliseconds = 120;
 
     /// Shows windows as children of \a stage, above its other children.
-    explicit Stage(QWidget *stage, QObject *parent = nullptr);
+    /// Calls them through \a guard: a window that throws is not called again, and not shown.
+    Stage(QWidget *stage, ApplicationGuard &guard, QObject *parent = nullptr);
 
     /// The window in front, or null.
     WindowInterface *front() const { return m_front; }
 
-    /// Brings a window to the front, leaving the one that is there. False if it has no widget to show.
+    /// Brings a window to the front, leaving the one that is there. False if it has no widget to show, or throws.
     bool open(WindowInterface *window);
     /// Hides the window in front and shows it again, so that its pages read their settings anew.
     void refresh();
@@ -54,15 +58,20 @@ Q_SIGNALS:
     void frontChanged();
 
 private:
-    void takeUpWidget(QWidget *widget);
+    bool tell(WindowInterface *window, const WindowCall &call);
+    QWidget *widgetOf(WindowInterface *window);
+    void takeUpWidget(QWidget *widget, WindowInterface *window);
+    bool giveUpFront();
     void takeOffFront();
     void fadeFromPresent();
 
     QWidget *const m_stage;
+    ApplicationGuard &m_guard;
     WindowInterface *m_front = nullptr;
     QVector<WindowInterface *> m_created;
     QVector<QPointer<QWidget>> m_widgets;
     QPointer<QWidget> m_fade;
+    QPointer<QWidget> m_frontWidget;
 };
 
 }  // namespace headunit

@@ -36,12 +36,14 @@ const QLatin1String audioSettingsId("audiosetting");
 Unit::Unit(PluginCatalog &catalog, QWidget *screen, StatusBar::Clock clock)
     : m_catalog(catalog),
       m_screen(screen),
-      m_stage(new Stage(screen, this)),
+      m_stage(new Stage(screen, catalog.guard(), this)),
       m_screens(new UnitScreens(catalog, screen, std::move(clock), this)) {
     connectScreens();
     setStatusBarObserver([this](bool) { arrange(); });
     connect(&SoundModel::instance(), &SoundModel::changed, m_screens, &UnitScreens::showSound);
     connect(&SoundModel::instance(), &SoundModel::faultChanged, m_screens, &UnitScreens::showSound);
+    // Queued: it may have failed while it was painted.
+    connect(&catalog.guard(), &ApplicationGuard::failed, this, &Unit::leaveFailed, Qt::QueuedConnection);
 }
 
 void Unit::connectScreens() {
@@ -98,10 +100,13 @@ void Unit::showCar() {
 
 void Unit::showBandAdjust() {
     if (!m_bandAdjust) {
-        m_bandAdjust = createBandAdjust(m_screen);
+        const Application *const application = m_catalog.find(audioSettingsId);
+        WindowInterface *const window = application ? application->window : nullptr;
+        m_catalog.guard().call(window, "EQWidget", [this] { m_bandAdjust = createBandAdjust(m_screen); });
         if (!m_bandAdjust) {
             return;
         }
+        m_catalog.guard().own(m_bandAdjust, window);
         m_bandAdjust->setObjectName(QStringLiteral("bandadjust"));
         m_bandAdjust->move(0, StatusBar::barHeight);
     }
@@ -128,11 +133,13 @@ void Unit::arrange() {
 
 bool Unit::openApplication(const QString &id, Place origin) {
     const Application *application = m_catalog.find(id);
-    if (!application) {
+    if (!application || !m_catalog.works(*application)) {
         return false;
     }
     if (!m_stage->open(application->window)) {
-        qWarning("%s: the application has nothing to show", qUtf8Printable(id));
+        if (m_catalog.works(*application)) {
+            qWarning("%s: the application has nothing to show", qUtf8Printable(id));
+        }
         showHome();
         return false;
     }
@@ -162,6 +169,14 @@ void Unit::leaveApplication() {
     if (m_place == InApplication) {
         m_place = Nowhere;
         m_stage->leave();
+    }
+}
+
+void Unit::leaveFailed() {
+    m_screens->showApplications();
+    const WindowInterface *const front = m_stage->front();
+    if ((front && m_catalog.guard().hasFailed(front)) || (m_bandAdjust && m_catalog.guard().isSilenced(m_bandAdjust))) {
+        showHome();
     }
 }
 

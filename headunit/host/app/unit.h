@@ -72,6 +72,8 @@ private:
     void closeBandAdjust();
     void stepVolume(int by);
     void setCallActive(bool active);
+    /// Goes home from an application that no longer works, and takes its tile away.
+    void leaveFailed();
 
     PluginCatalog &m_catalog;
     QWidget *const m_screen;

@@ -41,17 +41,27 @@ UnitScreens::UnitScreens(const PluginCatalog &catalog, QWidget *screen, StatusBa
 
 QWidget *UnitScreens::home() {
     if (!m_home) {
-        QStringList ids;
-        for (const Application &application : m_catalog.applications()) {
-            ids << application.id;
-        }
-        m_home = new HomeScreen(ids, m_catalog.failures(), m_screen);
+        m_home = new HomeScreen(m_screen);
+        showApplications();
         connect(m_home, &HomeScreen::applicationChosen, this, &UnitScreens::applicationChosen);
         connect(m_home, &HomeScreen::bandAdjustChosen, this, &UnitScreens::bandAdjustChosen);
         connect(m_home, &HomeScreen::carChosen, this, &UnitScreens::carChosen);
         showSound();
     }
     return m_home;
+}
+
+void UnitScreens::showApplications() {
+    if (!m_home) {
+        return;
+    }
+    QStringList ids;
+    for (const Application &application : m_catalog.applications()) {
+        if (m_catalog.works(application)) {
+            ids << application.id;
+        }
+    }
+    m_home->setApplications(ids, m_catalog.failures());
 }
 
 QWidget *UnitScreens::car() {

@@ -27,6 +27,8 @@ public:
     QWidget *car();
     QWidget *call();
 
+    /// Shows the applications that work, and why others do not.
+    void showApplications();
     /// \a source is an index into texts::sources.
     void setSource(int source);
     void setLanguage(const QString &code);

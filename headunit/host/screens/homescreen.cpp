@@ -22,13 +22,22 @@ constexpr int footHeight = 24;   ///< free below the last line
 
 }  // namespace
 
-HomeScreen::HomeScreen(const QStringList &applications, const QStringList &failures, QWidget *parent)
-    : QWidget(parent), m_failures(failures) {
+HomeScreen::HomeScreen(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("home"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setGeometry(0, 0, look::screenWidth, look::screenHeight);
     setFont(look::font(look::captionPixels));
+}
+
+void HomeScreen::setApplications(const QStringList &applications, const QStringList &failures) {
+    for (Key *const tile : findChildren<Key *>()) {
+        tile->setObjectName(QString());
+        tile->hide();
+        tile->deleteLater();  // it may have been what was tapped
+    }
+    m_failures = failures;
     addTiles(applications);
+    update();
 }
 
 void HomeScreen::addTiles(const QStringList &applications) {
@@ -42,6 +51,7 @@ void HomeScreen::addTiles(const QStringList &applications) {
     const auto addTile = [&](const QString &name, const char *picture) {
         Key *tile = new Key(name, QRect(x, y, tileWidth, tileHeight), this);
         tile->setPicture(QString::fromLatin1(picture));
+        tile->setVisible(true);
         x += tileWidth + look::margin;
         return tile;
     };

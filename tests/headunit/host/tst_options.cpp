@@ -130,6 +130,10 @@ void TestOptions::refuses_data() {
     row("scale negative", "--scale=-1", "--scale -1");
     row("scale too large", "--scale 9", "--scale 9");
     row("scale nan", "--scale nan", "--scale nan");
+    row("watchdog no number", "--watchdog soon", "--watchdog soon");
+    row("watchdog zero", "--watchdog 0", "--watchdog 0");
+    row("watchdog too long", "--watchdog 3601", "--watchdog 3601");
+    row("watchdog nan", "--watchdog nan", "--watchdog nan");
     row("script and tour", "--script a --tour b", "--tour");
     row("export and import", "--export a --import b", "--export and --import");
     row("import and script", "--import a --script b", "--script and --import");
@@ -155,12 +159,30 @@ void TestOptions::refuses() {
 
 void TestOptions::helpNamesEveryOption() {
     const QString help = headunit::optionsHelp();
-    for (const char *name : {"--help",          "--version",       "--root <DIR>",        "--scale <N>",
-                             "--fullscreen",    "--language <xx>", "--open <NAME>",       "--script <FILE.js>",
-                             "--tour <DIR>",    "--play <WHAT>",   "--device <NAME>",     "--map <FL=CHANNEL,...>",
-                             "--meters",        "--render <IN>",   "--measure <OUT>",     "--export <FILE>",
-                             "--import <FILE>", "--remote",        "--control <COMMAND>", "--desk",
-                             "--trace",         "--verbose",       "--exit-when-shown"}) {
+    for (const char *name : {"--help",
+                             "--version",
+                             "--root <DIR>",
+                             "--scale <N>",
+                             "--fullscreen",
+                             "--language <xx>",
+                             "--open <NAME>",
+                             "--script <FILE.js>",
+                             "--tour <DIR>",
+                             "--play <WHAT>",
+                             "--device <NAME>",
+                             "--map <FL=CHANNEL,...>",
+                             "--meters",
+                             "--render <IN>",
+                             "--measure <OUT>",
+                             "--export <FILE>",
+                             "--import <FILE>",
+                             "--remote",
+                             "--control <COMMAND>",
+                             "--desk",
+                             "--watchdog <SECONDS>",
+                             "--trace",
+                             "--verbose",
+                             "--exit-when-shown"}) {
         QVERIFY2(help.contains(QLatin1String(name)), name);
     }
 }

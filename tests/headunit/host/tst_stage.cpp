@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/app/stage.h"
 
+#include "headunit/host/app/applicationguard.h"
 #include "headunit/host/screens/fadingpicture.h"
 #include "headunit/virtualtime/virtualtime.h"
 #include "keyevent.h"
@@ -81,6 +82,7 @@ private Q_SLOTS:
 
 private:
     QScopedPointer<QWidget> m_screen;
+    QScopedPointer<headunit::ApplicationGuard> m_guard;
     QScopedPointer<headunit::Stage> m_stage;
     QScopedPointer<Window> m_a;
     QScopedPointer<Window> m_b;
@@ -90,7 +92,8 @@ void TestStage::init() {
     m_screen.reset(new QWidget);
     m_screen->resize(1024, 600);
     m_screen->show();
-    m_stage.reset(new headunit::Stage(m_screen.data()));
+    m_guard.reset(new headunit::ApplicationGuard);
+    m_stage.reset(new headunit::Stage(m_screen.data(), *m_guard));
     m_a.reset(new Window(QStringLiteral("a")));
     m_b.reset(new Window(QStringLiteral("b")));
     g_calls.clear();
