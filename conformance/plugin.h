@@ -29,7 +29,7 @@ public:
     /// Brings the application to the screen; false if it has nothing to show.
     bool open();
     void leave();
-    /// The visible object of that name, or under a class of that name; null if nothing is.
+    /// The visible object of that name, or of a class of that name; null if there is none.
     QWidget *find(const QString &name);
 
 private:

@@ -6,7 +6,7 @@
 
 namespace audiosetting {
 
-/// A label for a value that changes under the finger: opaque, with the background of its own.
+/// A label for a value that changes under the finger: opaque, with a background of its own.
 class ValueLabel : public QLabel {
     Q_OBJECT
 public:

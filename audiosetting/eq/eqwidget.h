@@ -37,11 +37,11 @@ class Look;
 /// The band-adjust panel: an equaliser that a host may show by itself, 1024 x 552 px.
 ///
 /// Keys step through the curves of the audio service, sliders edit its live custom curve. The panel stores nothing;
-/// a band's value towards the service is its gain, -12 to 12 dB. Its back key posts the platform's back gesture
-/// (TouchEvent 15) to the application object, which a host answers by closing the panel. A value outside that range
-/// is shown as it is on its label. Deleting the panel empties the whole QPixmapCache of the process, so that the unit
-/// has the memory of its pictures back; others load theirs again when they next show them. onEqTypeChanged() is
-/// required; nothing here calls it.
+/// a band's value towards the service is its gain, -12 to 12 dB; one outside that range is shown as it is on its
+/// label. Its back key posts the platform's back gesture
+/// (TouchEvent 15) to the application object, which a host answers by closing the panel. Deleting the panel empties the
+/// whole QPixmapCache of the process, so that the unit has the memory of its pictures back; others load theirs again
+/// when they next show them. onEqTypeChanged() is required; nothing here calls it.
 class Q_DECL_EXPORT EQWidget : public QWidget {
     Q_OBJECT
 public:

@@ -10,8 +10,8 @@ namespace settings {
 /// The touch pad of balance (left to right) and fader (up is front), each -15 to 15.
 ///
 /// A touch is turned into values and announced; the owner answers with setValueX(), setValueY() and updatePos(),
-/// which move the marker. The pad knows nothing of the audio service but its key beep. Getters, onUpdateBalance() and
-/// setBalance() are required and have no use here.
+/// which move the marker. The pad knows nothing of the audio service but its key beep. Getters, setcircleX() to
+/// setHlineY() and onUpdateBalance() are required; nothing here calls them.
 class balanceFaderControl : public QLabel {
     Q_OBJECT
 public:

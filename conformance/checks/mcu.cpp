@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The microcontroller. Its effect on the sound is not visible here; its forbidden effects are.
+// The microcontroller. Its effect on the sound is not visible here; that it touches nothing else is.
 
 #include "audioservice.h"
 #include "audiosettingsutils.h"

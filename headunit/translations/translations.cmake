@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: Apache-2.0
 # Compiles the unit's texts and leaves a source that embeds them in headunit_translations.
-# A new language: headunit_<code>.ts and forms_<code>.ts, a row here and one in headunit/toolkit/language.cpp.
+# A new language: docs/changing.md.
 
 find_package(Qt5 5.15 REQUIRED COMPONENTS LinguistTools)
 

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-// The unit loses its power while it is used: the settings on the disk are those before or after a change.
+// The unit is killed while it is used: the settings on the disk are those before or after a change.
 class TestKilled : public QObject {
     Q_OBJECT
 private Q_SLOTS:

@@ -11,8 +11,8 @@
 
 namespace headunit {
 
-/// Designs parameters from sound states on its own thread, on a thread of its own: that costs
-/// more than all else that happens while a finger drags a slider.
+/// Designs parameters from sound states on a thread of its own: that costs more than all else that happens while a
+/// finger drags a slider.
 class ControlThread {
 public:
     using Taker = std::function<void(const SoundState &)>;

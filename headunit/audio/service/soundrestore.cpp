@@ -29,7 +29,7 @@ int storedGain(int value, const Range &range, int otherwise, const char *what) {
     return otherwise;
 }
 
-/// The meaning of a stored value out of range: its nearer end, or, where that might be loud, as never written.
+/// How a stored value out of range is read: as the nearer end, or, where that might be loud, as never written.
 enum class OutOfRange { NearerEnd, Default };
 
 template <size_t Count> std::array<int, Count> storedRow(const SettingsStore &store, const SettingKey &key,

@@ -16,8 +16,8 @@ struct CrossoverFilter {
     bool operator!=(const CrossoverFilter &o) const { return !(*this == o); }
 };
 
-/// The prompts, which sound beside the source that plays, in the order of the engine's inputs. None of it goes through
-/// equaliser, loudness, balance and fader.
+/// The prompts, which sound beside the source that plays, in the order of the engine's inputs. None of them goes
+/// through equaliser, loudness, balance and fader.
 enum class Prompt { Ringtone, Phone, Navigation, Voice, Announcement, Beep };
 
 /// Everything that shapes the sound, as one plain value: what the services were told, within its ranges.

@@ -14,7 +14,7 @@ namespace headunit {
 QString pageOf(const QWidget *widget);
 /// The page that the screen shows.
 QString frontPage(const QWidget *screen);
-/// A page's title, in the language in force; a page that is not known by the name of its class.
+/// A page's title, in the language in force; for a page that is not known, the name of its class.
 QString pageTitle(const QString &page);
 
 }  // namespace headunit

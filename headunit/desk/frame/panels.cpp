@@ -17,8 +17,8 @@ template <typename Class> Panel *make(DeskContext &context, QWidget *parent) {
 }
 
 constexpr PanelRow rows[] = {
-    {"console", DESK_TEXT("Service console"), DESK_TEXT("What happens between the applications and the unit"), "Ctrl+1",
-     true, make<ConsolePanel>},
+    {"console", DESK_TEXT("Service console"), DESK_TEXT("Calls between the applications and the unit"), "Ctrl+1", true,
+     make<ConsolePanel>},
     {"setups", DESK_TEXT("Set-ups"), DESK_TEXT("Keep, compare, undo: what is set, and what was"), "Ctrl+2", true,
      make<SetupsPanel>},
 };

@@ -77,7 +77,7 @@ void ChangeHistory::takeEntry(const TraceEntry &entry) {
     if (m_acting) {
         return;
     }
-    // Earlier work of another touch is another step.
+    // Changes by an earlier touch are a step of their own.
     if (m_commit.isActive() && m_touch != m_touches.number()) {
         commit();
     }

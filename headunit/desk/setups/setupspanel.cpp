@@ -270,8 +270,8 @@ void SetupsPanel::retranslate() {
     m_steps->setAccessibleName(deskText("Changes"));
     m_steps->setToolTip(deskText("Every change; touch one to go back or forth to it"));
     m_steps->setEmptyLabel(deskText("Before all changes"));
-    m_message->setAccessibleName(deskText("What came of it"));
-    m_preview->setAccessibleName(deskText("What the set-up changes"));
+    m_message->setAccessibleName(deskText("Result"));
+    m_preview->setAccessibleName(deskText("Changes of the set-up"));
     m_preview->setHorizontalHeaderLabels({deskText("Value"), deskText("Now"), deskText("In the set-up")});
     showComparison();
     showPreview();

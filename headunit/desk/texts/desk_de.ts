@@ -28,7 +28,7 @@
         <translation>Dienstkonsole</translation>
     </message>
     <message>
-        <source>What happens between the applications and the unit</source>
+        <source>Calls between the applications and the unit</source>
         <translation>Was zwischen den Anwendungen und dem Gerät geschieht</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@
         <translation>Vor allen Änderungen</translation>
     </message>
     <message>
-        <source>What the set-up changes</source>
+        <source>Changes of the set-up</source>
         <translation>Was die Einstellung ändert</translation>
     </message>
     <message>
@@ -432,7 +432,7 @@
         <translation>Macht die lautere von A und B so leise wie die andere, damit das Ohr den Klang vergleicht</translation>
     </message>
     <message>
-        <source>What came of it</source>
+        <source>Result</source>
         <translation>Ergebnis</translation>
     </message>
 </context>

@@ -28,7 +28,7 @@
         <translation>Consola de servicios</translation>
     </message>
     <message>
-        <source>What happens between the applications and the unit</source>
+        <source>Calls between the applications and the unit</source>
         <translation>Lo que ocurre entre las aplicaciones y la unidad</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@
         <translation>Antes de todos los cambios</translation>
     </message>
     <message>
-        <source>What the set-up changes</source>
+        <source>Changes of the set-up</source>
         <translation>Lo que cambia el ajuste</translation>
     </message>
     <message>
@@ -432,7 +432,7 @@
         <translation>Baja el más fuerte de A y B al nivel del otro, para comparar el sonido</translation>
     </message>
     <message>
-        <source>What came of it</source>
+        <source>Result</source>
         <translation>Resultado</translation>
     </message>
 </context>

@@ -28,7 +28,7 @@
         <translation>Console des services</translation>
     </message>
     <message>
-        <source>What happens between the applications and the unit</source>
+        <source>Calls between the applications and the unit</source>
         <translation>Ce qui se passe entre les applications et l’appareil</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@
         <translation>Avant tout changement</translation>
     </message>
     <message>
-        <source>What the set-up changes</source>
+        <source>Changes of the set-up</source>
         <translation>Ce que le réglage change</translation>
     </message>
     <message>
@@ -432,7 +432,7 @@
         <translation>Baisse le plus fort de A et B au niveau de l’autre, pour comparer le son</translation>
     </message>
     <message>
-        <source>What came of it</source>
+        <source>Result</source>
         <translation>Résultat</translation>
     </message>
 </context>

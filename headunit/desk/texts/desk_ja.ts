@@ -28,7 +28,7 @@
         <translation>サービスコンソール</translation>
     </message>
     <message>
-        <source>What happens between the applications and the unit</source>
+        <source>Calls between the applications and the unit</source>
         <translation>アプリケーションと本体の間のやり取り</translation>
     </message>
     <message>
@@ -404,7 +404,7 @@
         <translation>すべての変更の前</translation>
     </message>
     <message>
-        <source>What the set-up changes</source>
+        <source>Changes of the set-up</source>
         <translation>セットアップによる変更点</translation>
     </message>
     <message>
@@ -432,7 +432,7 @@
         <translation>A と B の大きい方を下げ、音質を聴き比べられるようにします</translation>
     </message>
     <message>
-        <source>What came of it</source>
+        <source>Result</source>
         <translation>結果</translation>
     </message>
 </context>

@@ -33,9 +33,8 @@ constexpr OptionRow optionRows[] = {
     {"script", "FILE.js", "Run a script (JavaScript) and end with its result."},
     {"tour", "DIR", "Visit every screen, leave a picture of each in a folder, and end."},
     {"play", "WHAT",
-     "What sounds: music, noise, sweep, loudspeakers (one by one), silence, a file, or desk: what other programs play "
-     "on "
-     "the sound devices that the unit then offers. Default: music."},
+     "Sound source: music, noise, sweep, loudspeakers (one by one), silence, a file, or desk: what other programs play "
+     "on the sound devices that the unit then offers. Default: music."},
     {"device", "NAME", "Sound device to play on, as the sound server calls it. Default: the server's own default."},
     {"map", "FL=CHANNEL,...",
      "Device's channel for each of FL, FR, RL, RR, SL and SR, like FL=aux0. Default: as usual for the device."},

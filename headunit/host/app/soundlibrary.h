@@ -7,7 +7,7 @@ class QObject;
 
 namespace headunit {
 
-/// Jobs of the sound's library and the ways they end. Sound files, plots and sound servers need libraries that take
+/// A single job for the sound's library. Sound files, plots and sound servers need libraries that take
 /// time to load, so the first screen does not wait for them.
 struct SoundJob {
     QString renderFrom;  ///< sound file to play into ...
@@ -29,8 +29,8 @@ struct PlayJob {
 /// of a job that is done goes to standard output.
 QString doSoundJob(const SoundJob &job);
 
-/// Plays on the desk, under the unit's settings, until the object that it returns is deleted. \a problem is a line that
-/// says what of it cannot be, or an empty text; then there may be no object.
+/// Plays on the desk, under the unit's settings, until the object that it returns is deleted. \a problem is empty,
+/// or one line that says why \a job cannot be played as it is; then there may be no object.
 QObject *startSound(const PlayJob &job, QString *problem);
 
 /// Exported by the library under these names.

@@ -411,7 +411,7 @@ void tst_SettingsFile::whatStandsInTheWay() {
     QVERIFY(QFileInfo::exists(path() + end + ".damaged-1"));
 }
 
-/// A file that could not be read again is no state to replace one that can.
+/// A state that could not be read again must not replace one that can.
 void tst_SettingsFile::tooMuchIsNotWritten() {
     QString problem;
     SettingsFile file(path());

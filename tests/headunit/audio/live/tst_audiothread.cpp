@@ -95,7 +95,7 @@ void free(void *memory) {
 
 #endif
 
-// Every lock of C++ and C comes to this; semaphores and futexes that wait call the system.
+// Every lock of C and C++ ends here; semaphores and futexes that wait call the system.
 extern "C" {
 int pthread_mutex_lock(pthread_mutex_t *mutex) {
     static const auto next = reinterpret_cast<int (*)(pthread_mutex_t *)>(dlsym(RTLD_NEXT, "pthread_mutex_lock"));
