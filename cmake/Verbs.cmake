@@ -59,7 +59,7 @@ set(audiosetting_test_timeout 1800)
 set(audiosetting_test_environment
     "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;TZ=UTC;QT_LOGGING_RULES=;QT_SCALE_FACTOR=1;\
 QT_SCREEN_SCALE_FACTORS=;QT_FONT_DPI=96;LANGUAGE=;QT_MESSAGE_PATTERN=;QT_LOGGING_CONF=;QT_FORCE_STDERR_LOGGING=1;\
-QTEST_FUNCTION_TIMEOUT=1800000;\
+QTEST_FUNCTION_TIMEOUT=1800000;DBUS_SYSTEM_BUS_ADDRESS=unix:path=/nonexistent;\
 LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0")
 
 # audiosetting_test(NAME SOURCES FILE... [LINK LIBRARY...] [LABELS LABEL...]): a QTest program, run by ctest.

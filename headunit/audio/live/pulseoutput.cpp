@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <cstring>
 #include <optional>
+#include <utility>
 
 namespace headunit {
 
@@ -49,6 +50,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
     std::unique_ptr<PulseStream> stream;
     bool moved = false;  ///< somebody took the stream to a device that is not the default one
     bool paused = false;
+    std::function<void()> silent;  ///< hears that nothing is heard any more
     bool saidStalled = false;
     std::string said;
     SoundFault saidFault = SoundFault::None;
@@ -135,11 +137,17 @@ struct PulseOutput::Private final : PulseStream::Listener {
             }
             const int events = PA_SUBSCRIPTION_MASK_SERVER | PA_SUBSCRIPTION_MASK_SINK;
             release(pa_context_subscribe(context, static_cast<pa_subscription_mask_t>(events), nullptr, nullptr));
-            if (settings.desk && !paused) {
-                offerDesk();
+            if (!paused) {
+                begin();
             }
-            look();
         }
+    }
+
+    void begin() {
+        if (settings.desk && !desk) {
+            offerDesk();
+        }
+        look();
     }
 
     void offerDesk() {
@@ -289,6 +297,9 @@ struct PulseOutput::Private final : PulseStream::Listener {
     void dropStream() {
         stream.reset();
         pa_threaded_mainloop_signal(loop, 0);  // somebody may wait for its end
+        if (const auto call = std::exchange(silent, nullptr)) {
+            call();
+        }
     }
 
     void streamEnded() override {
@@ -318,12 +329,16 @@ struct PulseOutput::Private final : PulseStream::Listener {
         watch.start(api(), context, stallCheck);
     }
 
-    /// Under the lock, from another thread: returns when nothing is heard any more.
+    /// Under the lock, from another thread. The last sound is still on its way when this returns.
     void fallSilent() {
         paused = true;
         if (stream) {
             stream->end();
         }
+    }
+
+    /// Likewise: returns when nothing is heard any more.
+    void waitForSilence() {
         while (stream) {
             pa_threaded_mainloop_wait(loop);
         }
@@ -348,8 +363,9 @@ PulseOutput::PulseOutput(Player &player, const Settings &settings) : d(new Priva
 }
 
 PulseOutput::~PulseOutput() {
-    pause();
     pa_threaded_mainloop_lock(d->loop);
+    d->fallSilent();
+    d->waitForSilence();
     d->removeDesk();
     pa_threaded_mainloop_unlock(d->loop);
     pa_threaded_mainloop_stop(d->loop);
@@ -357,9 +373,14 @@ PulseOutput::~PulseOutput() {
     pa_threaded_mainloop_free(d->loop);
 }
 
-void PulseOutput::pause() {
+void PulseOutput::pause(std::function<void()> silent) {
     pa_threaded_mainloop_lock(d->loop);
     d->fallSilent();
+    if (d->stream) {
+        d->silent = std::move(silent);
+    } else {
+        silent();
+    }
     pa_threaded_mainloop_unlock(d->loop);
 }
 
@@ -367,7 +388,7 @@ void PulseOutput::resume() {
     pa_threaded_mainloop_lock(d->loop);
     d->paused = false;
     if (d->context && d->isReady()) {
-        d->look();
+        d->begin();
     }
     pa_threaded_mainloop_unlock(d->loop);
 }

@@ -36,8 +36,9 @@ public:
     /// Takes as long as the sound's end is on its way to the loudspeakers, half a second at most.
     ~PulseOutput();
 
-    /// The sound falls to silence and stays silent until resume(); takes as long as the destructor.
-    void pause();
+    /// The sound falls to silence and stays silent until resume(). \a silent is called once nothing is heard any more:
+    /// on the server's thread, or at once.
+    void pause(std::function<void()> silent);
     void resume();
 
     /// The answer to the audio thread's request for real-time scheduling, in a few words; empty before it runs.

@@ -57,6 +57,7 @@ LiveSound::LiveSound(const PlayJob &job, QString *problem) {
     };
     showFault(SoundFault::None);
     m_output = std::make_unique<PulseOutput>(m_player, settings);
+    followSleep();
     if (job.meters) {
         printMeters();
     }
@@ -79,6 +80,12 @@ void LiveSound::followPrograms() {
             programs->setListener([this](bool) { QMetaObject::invokeMethod(this, "takeState", Qt::QueuedConnection); });
         }
     }
+}
+
+/// The desk's sleep would cut the sound off.
+void LiveSound::followSleep() {
+    connect(&m_bus, &SystemBus::aboutToSleep, this, [this] { m_output->pause([this] { Q_EMIT m_bus.silent(); }); });
+    connect(&m_bus, &SystemBus::woke, this, [this] { m_output->resume(); });
 }
 
 /// A touch may change many values one after the other.

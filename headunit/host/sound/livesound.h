@@ -5,6 +5,7 @@
 #include "headunit/audio/live/player.h"
 #include "headunit/audio/live/pulseoutput.h"
 #include "headunit/host/app/soundlibrary.h"
+#include "headunit/host/sound/systembus.h"
 
 #include <QObject>
 #include <QTimer>
@@ -33,6 +34,7 @@ private:
     void printMeters();
 
     void followPrograms();
+    void followSleep();
 
     bool m_statePending = false;
     SoundFault m_sourceFault = SoundFault::None;  ///< of what was to be played
@@ -44,6 +46,7 @@ private:
     unsigned m_dropouts = 0;      ///< since the start ...
     unsigned m_lastDropouts = 0;  ///< ... and until the last line
     QTimer m_meterTimer;
+    SystemBus m_bus;
     std::unique_ptr<PulseOutput> m_output;
 };
 

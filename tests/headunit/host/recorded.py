@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: Apache-2.0
 """Records what the unit plays on devices of a sound server of its own, and has scipy judge it.
 
-usage: recorded.py HEADUNIT
+usage: recorded.py HEADUNIT FAKELOGIND
 """
 import contextlib
 import os
@@ -22,7 +22,7 @@ PATIENCE = 120  # s
 TRIES = 8  # a machine that stops the server for a moment leaves a hole in the recording: then again
 SIX = "front-left,front-right,rear-left,rear-right,side-left,side-right"
 
-headunit = sys.argv[1]
+headunit, fake_logind = sys.argv[1:]
 failures = []
 
 
@@ -177,6 +177,41 @@ def ended_by(number):
     return end
 
 
+class Sleep:
+    """The desk's sleep, on a system bus of the test's own."""
+
+    def __init__(self, server):
+        configuration = server.folder / "bus.conf"
+        configuration.write_text(f"""<busconfig><listen>unix:path={server.folder}/bus</listen><auth>EXTERNAL</auth>
+            <policy context="default"><allow send_destination="*" eavesdrop="true"/><allow eavesdrop="true"/>
+            <allow own="*"/></policy></busconfig>""")
+        self.bus = subprocess.Popen(["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address"],
+                                    text=True, stdout=subprocess.PIPE)
+        server.environment["DBUS_SYSTEM_BUS_ADDRESS"] = self.bus.stdout.readline().strip()
+        self.logind = subprocess.Popen([fake_logind], text=True, env=server.environment, stdin=subprocess.PIPE,
+                                       stdout=subprocess.PIPE)
+
+    def begin(self, *_):
+        self.logind.stdin.write("\n")
+        self.logind.stdin.flush()
+        if self.logind.stdout.readline() != "asleep\n":
+            sys.exit("no sleep")
+
+    def end(self):
+        self.logind.stdin.close()
+        self.logind.wait()
+        self.bus.terminate()
+        self.bus.wait()
+
+
+def check_sleep(server, root):
+    sleep = Sleep(server)
+    try:
+        check_end(server, root, "sleep of the desk", sleep.begin, 63)
+    finally:
+        sleep.end()
+
+
 def main():
     with tempfile.TemporaryDirectory() as name:
         server = Server(Path(name))
@@ -191,6 +226,7 @@ def main():
         try:
             for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
                 check_end(server, root, number.name, ended_by(number), 63)
+            check_sleep(server, root)
             check_rate(server, root, 44100, "float32le", -110)
             check_rate(server, root, 44100, "s16le", -93)
             check_rate(server, root, 96000, "float32le", -110)

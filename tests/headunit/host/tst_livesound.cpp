@@ -3,10 +3,12 @@
 
 #include "headunit/host/sound/livesound.h"
 
+#include "fakelogind.h"
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/settings/audiokeys.h"
 #include "headunit/settings/unitroot.h"
 #include "headunit/settings/unitsettings.h"
+#include "testbus.h"
 #include "tests/headunit/audio/files/soundfiletest.h"
 #include "tests/headunit/audio/live/soundserver.h"
 
@@ -127,6 +129,7 @@ private Q_SLOTS:
     void volumesAndKeysAnswer();
     void whatCannotBePlayed();
     void saysWhyNothingIsHeard();
+    void isSilentWhileTheDeskSleeps();
 
 private:
     /// Touches, and listens. A short sound is lost where the machine stops the server for its whole length: then again.
@@ -142,6 +145,7 @@ private:
 
 void TestLiveSound::initTestCase() {
     qputenv("PULSE_SERVER", SoundServer::address(m_folder));
+    TestBus::setAddress(m_folder);
     qputenv("HOME", QFile::encodeName(m_folder.path()));  // a client keeps its cookie there
     m_tone = m_folder.filePath("tone.wav");
     soundfiletest::write(m_tone.toStdString(), soundfiletest::tone(48000, 2, 1000, 0.1, double(amplitude)));
@@ -260,6 +264,24 @@ void TestLiveSound::saysWhyNothingIsHeard() {
     WAIT_FOR(model.fault() == SoundFault::NoDevice);
     m_server->plugIn("car", SoundServer::sixChannels);
     WAIT_FOR(model.fault() == SoundFault::None);
+}
+
+void TestLiveSound::isSilentWhileTheDeskSleeps() {
+    const TestBus bus(m_folder);
+    FakeLogind logind;
+    QString problem;
+    const LiveSound sound({m_tone}, &problem);
+    const Frame expected = {amplitude, amplitude, amplitude, amplitude, 0, 0};
+    for (int night = 0; night < 2; ++night) {
+        WAIT_FOR(near(m_recording->peaks(), expected));
+        WAIT_FOR(logind.isDelayed());
+        const size_t before = m_recording->frames().size();
+        Q_EMIT logind.PrepareForSleep(true);
+        WAIT_FOR(!logind.isDelayed());
+        WAIT_FOR(m_server->streams().isEmpty());
+        Q_EMIT logind.PrepareForSleep(false);
+        WAIT_FOR(m_recording->risesAfterASilence(FrontLeft, before));
+    }
 }
 
 QTEST_GUILESS_MAIN(TestLiveSound)

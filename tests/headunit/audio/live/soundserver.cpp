@@ -3,10 +3,6 @@
 
 #include <QHash>
 
-#include <csignal>
-
-#include <sys/prctl.h>
-
 namespace {
 
 constexpr int patience = 60000;  // ms
@@ -31,15 +27,6 @@ int channelCount(const QString &channels) {
 }
 
 }  // namespace
-
-SoundServer::Process::~Process() {
-    terminate();
-    waitForFinished(patience);
-}
-
-void SoundServer::Process::setupChildProcess() {
-    prctl(PR_SET_PDEATHSIG, SIGTERM);
-}
 
 SoundServer::SoundServer(const QTemporaryDir &folder, Socket socket)
     : m_environment(QProcessEnvironment::systemEnvironment()) {
@@ -133,7 +120,7 @@ QString SoundServer::streams() const {
 }
 
 std::unique_ptr<QProcess> SoundServer::record(const QString &device, const QString &channels) const {
-    auto recorder = std::make_unique<Process>();
+    auto recorder = std::make_unique<ChildProcess>();
     recorder->setProcessEnvironment(m_environment);
     // The server keeps 4 MB for a recorder that does not run: seven seconds of six channels of 16 bits.
     recorder->start("parec", {"--raw", "--format=s16le", "--rate=48000", "--no-remix", "--latency-msec=20",
@@ -143,7 +130,7 @@ std::unique_ptr<QProcess> SoundServer::record(const QString &device, const QStri
 }
 
 QString SoundServer::control(const QStringList &arguments) const {
-    Process pactl;
+    ChildProcess pactl;
     pactl.setProcessEnvironment(m_environment);
     pactl.start("pactl", arguments);
     pactl.waitForFinished(patience);

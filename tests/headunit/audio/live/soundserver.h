@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QProcess>
+#include "childprocess.h"
+
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -50,16 +52,7 @@ private:
     QString control(const QStringList &arguments) const;
     void unload(const QString &moduleAndArguments);
 
-    /// Ends when the test does, however that ends.
-    class Process : public QProcess {
-    public:
-        ~Process() override;
-
-    protected:
-        void setupChildProcess() override;
-    };
-
     QProcessEnvironment m_environment;
     QString m_programs;  ///< the module, with its arguments, that programs connect to
-    Process m_process;
+    ChildProcess m_process;
 };

@@ -269,13 +269,20 @@ void TestPulseOutput::pausesAndResumes() {
     WAIT_FOR(server.answers());
     server.plugIn("car", SoundServer::sixChannels);
     PulseOutput output(m_player, settings());
+    std::atomic<int> silences{0};
+    const auto count = [&silences] { ++silences; };
     for (int time = 0; time < 3; ++time) {
         WAIT_FOR_STREAM("6ch on car");
-        output.pause();
+        silences = 0;
+        output.pause(count);
+        WAIT_FOR(silences == 1);
         WAIT_FOR_STREAM("");
-        output.pause();
+        output.pause(count);
+        QCOMPARE(silences, 2);
         output.resume();
     }
+    output.pause(count);
+    output.resume();  // before the sound has ended
     WAIT_FOR_STREAM("6ch on car");
 }
 
