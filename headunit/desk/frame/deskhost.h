@@ -33,4 +33,9 @@ constexpr char deskEntryName[] = "headunitOpenDesk";
 using SetupEntry = int (*)(const QString *exportTo, const QString *importFrom);
 constexpr char setupEntryName[] = "headunitSetupJob";
 
+/// Measures the outputs' responses into a file, .csv or .png; \a problem is a line that says why it cannot be done, or
+/// an empty text. Exported likewise.
+using MeasureEntry = void (*)(const QString *name, QString *problem);
+constexpr char measureEntryName[] = "headunitMeasureJob";
+
 }  // namespace headunit

@@ -4,6 +4,7 @@
 #include "headunit/desk/console/consolepanel.h"
 #include "headunit/desk/frame/desktext.h"
 #include "headunit/desk/frame/panel.h"
+#include "headunit/desk/response/responsepanel.h"
 #include "headunit/desk/setups/setupspanel.h"
 
 #include <iterator>
@@ -21,6 +22,8 @@ constexpr PanelRow rows[] = {
      make<ConsolePanel>},
     {"setups", DESK_TEXT("Set-ups"), DESK_TEXT("Keep, compare, undo: what is set, and what was"), "Ctrl+2", true,
      make<SetupsPanel>},
+    {"response", DESK_TEXT("Response"), DESK_TEXT("What the loudspeakers and their sum make of every frequency"),
+     "Ctrl+3", false, make<ResponsePanel>},
 };
 
 }  // namespace

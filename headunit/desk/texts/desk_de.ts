@@ -435,5 +435,153 @@
         <source>Result</source>
         <translation>Ergebnis</translation>
     </message>
+    <message>
+        <source>Response</source>
+        <translation>Frequenzgang</translation>
+    </message>
+    <message>
+        <source>What the loudspeakers and their sum make of every frequency</source>
+        <translation>Was die Lautsprecher und ihre Summe aus jeder Frequenz machen</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
+        <source>Shows or hides this curve</source>
+        <translation>Zeigt diese Kurve oder blendet sie aus</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>Shows the phase below the magnitude</source>
+        <translation>Zeigt die Phase unter dem Betrag</translation>
+    </message>
+    <message>
+        <source>Group delay</source>
+        <translation>Gruppenlaufzeit</translation>
+    </message>
+    <message>
+        <source>Shows the group delay below the magnitude</source>
+        <translation>Zeigt die Gruppenlaufzeit unter dem Betrag</translation>
+    </message>
+    <message>
+        <source>With delays</source>
+        <translation>Mit Laufzeiten</translation>
+    </message>
+    <message>
+        <source>Off: as if the delays made up for the distances of the loudspeakers</source>
+        <translation>Aus: als glichen die Laufzeiten die Abstände der Lautsprecher aus</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Keeps the present curves beside the coming ones</source>
+        <translation>Behält die jetzigen Kurven neben den kommenden</translation>
+    </message>
+    <message>
+        <source>Zoom back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Shows the part that was shown before; a right click, too</source>
+        <translation>Zeigt den Ausschnitt davor; auch mit Rechtsklick</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Ganz</translation>
+    </message>
+    <message>
+        <source>Shows all frequencies</source>
+        <translation>Zeigt alle Frequenzen</translation>
+    </message>
+    <message>
+        <source>Saves the diagrams as a picture, PNG or SVG</source>
+        <translation>Speichert die Diagramme als Bild, PNG oder SVG</translation>
+    </message>
+    <message>
+        <source>Save the diagrams</source>
+        <translation>Diagramme speichern</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg)</source>
+        <translation>Zeichnung (*.svg)</translation>
+    </message>
+    <message>
+        <source>Magnitude</source>
+        <translation>Betrag</translation>
+    </message>
+    <message>
+        <source>Point at a curve to read its values; draw a frame to see more of it</source>
+        <translation>Zeigen Sie auf eine Kurve, um ihre Werte zu lesen; ziehen Sie einen Rahmen, um mehr davon zu sehen</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>(held %1)</source>
+        <translation>(gehalten %1)</translation>
+    </message>
+    <message>
+        <source>The main volume is 0: nothing is heard</source>
+        <translation>Die Hauptlautstärke ist 0: es ist nichts zu hören</translation>
+    </message>
+    <message>
+        <source>Hole of %1 dB at %2 Hz</source>
+        <translation>Loch von %1 dB bei %2 Hz</translation>
+    </message>
+    <message>
+        <source>Hole of more than %1 dB at %2 Hz</source>
+        <translation>Loch von mehr als %1 dB bei %2 Hz</translation>
+    </message>
+    <message>
+        <source>Overlap of %1 dB at %2 Hz</source>
+        <translation>Überhöhung von %1 dB bei %2 Hz</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>try phase %1° for the subwoofers</source>
+        <translation>versuchen Sie Phase %1° für die Subwoofer</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the subwoofers' low-pass</source>
+        <translation>versuchen Sie %1 Hz als Tiefpass der Subwoofer</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the front high-pass</source>
+        <translation>versuchen Sie %1 Hz als Hochpass vorn</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the rear high-pass</source>
+        <translation>versuchen Sie %1 Hz als Hochpass hinten</translation>
+    </message>
+    <message>
+        <source>it comes of the delays, which differ</source>
+        <translation>es kommt von den Laufzeiten, die verschieden sind</translation>
+    </message>
 </context>
 </TS>

@@ -435,5 +435,153 @@
         <source>Result</source>
         <translation>Resultado</translation>
     </message>
+    <message>
+        <source>Response</source>
+        <translation>Respuesta</translation>
+    </message>
+    <message>
+        <source>What the loudspeakers and their sum make of every frequency</source>
+        <translation>Lo que los altavoces y su suma hacen de cada frecuencia</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Suma</translation>
+    </message>
+    <message>
+        <source>Shows or hides this curve</source>
+        <translation>Muestra u oculta esta curva</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Fase</translation>
+    </message>
+    <message>
+        <source>Shows the phase below the magnitude</source>
+        <translation>Muestra la fase debajo de la magnitud</translation>
+    </message>
+    <message>
+        <source>Group delay</source>
+        <translation>Retardo de grupo</translation>
+    </message>
+    <message>
+        <source>Shows the group delay below the magnitude</source>
+        <translation>Muestra el retardo de grupo debajo de la magnitud</translation>
+    </message>
+    <message>
+        <source>With delays</source>
+        <translation>Con retardos</translation>
+    </message>
+    <message>
+        <source>Off: as if the delays made up for the distances of the loudspeakers</source>
+        <translation>Desactivado: como si los retardos compensaran las distancias de los altavoces</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Retener</translation>
+    </message>
+    <message>
+        <source>Keeps the present curves beside the coming ones</source>
+        <translation>Mantiene las curvas actuales junto a las siguientes</translation>
+    </message>
+    <message>
+        <source>Zoom back</source>
+        <translation>Zoom atrás</translation>
+    </message>
+    <message>
+        <source>Shows the part that was shown before; a right click, too</source>
+        <translation>Muestra la parte anterior; también con clic derecho</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Shows all frequencies</source>
+        <translation>Muestra todas las frecuencias</translation>
+    </message>
+    <message>
+        <source>Saves the diagrams as a picture, PNG or SVG</source>
+        <translation>Guarda los diagramas como imagen, PNG o SVG</translation>
+    </message>
+    <message>
+        <source>Save the diagrams</source>
+        <translation>Guardar los diagramas</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>Imagen (*.png)</translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg)</source>
+        <translation>Dibujo (*.svg)</translation>
+    </message>
+    <message>
+        <source>Magnitude</source>
+        <translation>Magnitud</translation>
+    </message>
+    <message>
+        <source>Point at a curve to read its values; draw a frame to see more of it</source>
+        <translation>Señale una curva para leer sus valores; trace un marco para verla ampliada</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>(held %1)</source>
+        <translation>(retenido %1)</translation>
+    </message>
+    <message>
+        <source>The main volume is 0: nothing is heard</source>
+        <translation>El volumen principal es 0: no se oye nada</translation>
+    </message>
+    <message>
+        <source>Hole of %1 dB at %2 Hz</source>
+        <translation>Hueco de %1 dB en %2 Hz</translation>
+    </message>
+    <message>
+        <source>Hole of more than %1 dB at %2 Hz</source>
+        <translation>Hueco de más de %1 dB en %2 Hz</translation>
+    </message>
+    <message>
+        <source>Overlap of %1 dB at %2 Hz</source>
+        <translation>Solapamiento de %1 dB en %2 Hz</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>try phase %1° for the subwoofers</source>
+        <translation>pruebe la fase %1° para los subwoofers</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the subwoofers' low-pass</source>
+        <translation>pruebe %1 Hz como paso bajo de los subwoofers</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the front high-pass</source>
+        <translation>pruebe %1 Hz como paso alto delantero</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the rear high-pass</source>
+        <translation>pruebe %1 Hz como paso alto trasero</translation>
+    </message>
+    <message>
+        <source>it comes of the delays, which differ</source>
+        <translation>se debe a los retardos, que son distintos</translation>
+    </message>
 </context>
 </TS>

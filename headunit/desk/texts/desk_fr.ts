@@ -435,5 +435,153 @@
         <source>Result</source>
         <translation>Résultat</translation>
     </message>
+    <message>
+        <source>Response</source>
+        <translation>Réponse</translation>
+    </message>
+    <message>
+        <source>What the loudspeakers and their sum make of every frequency</source>
+        <translation>Ce que les haut-parleurs et leur somme font de chaque fréquence</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Somme</translation>
+    </message>
+    <message>
+        <source>Shows or hides this curve</source>
+        <translation>Affiche ou masque cette courbe</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>Shows the phase below the magnitude</source>
+        <translation>Affiche la phase sous l’amplitude</translation>
+    </message>
+    <message>
+        <source>Group delay</source>
+        <translation>Temps de groupe</translation>
+    </message>
+    <message>
+        <source>Shows the group delay below the magnitude</source>
+        <translation>Affiche le temps de groupe sous l’amplitude</translation>
+    </message>
+    <message>
+        <source>With delays</source>
+        <translation>Avec retards</translation>
+    </message>
+    <message>
+        <source>Off: as if the delays made up for the distances of the loudspeakers</source>
+        <translation>Désactivé : comme si les retards compensaient les distances des haut-parleurs</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>Keeps the present curves beside the coming ones</source>
+        <translation>Garde les courbes actuelles à côté des suivantes</translation>
+    </message>
+    <message>
+        <source>Zoom back</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <source>Shows the part that was shown before; a right click, too</source>
+        <translation>Affiche la partie précédente ; un clic droit aussi</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Tout</translation>
+    </message>
+    <message>
+        <source>Shows all frequencies</source>
+        <translation>Affiche toutes les fréquences</translation>
+    </message>
+    <message>
+        <source>Saves the diagrams as a picture, PNG or SVG</source>
+        <translation>Enregistre les diagrammes en image, PNG ou SVG</translation>
+    </message>
+    <message>
+        <source>Save the diagrams</source>
+        <translation>Enregistrer les diagrammes</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>Image (*.png)</translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg)</source>
+        <translation>Dessin (*.svg)</translation>
+    </message>
+    <message>
+        <source>Magnitude</source>
+        <translation>Amplitude</translation>
+    </message>
+    <message>
+        <source>Point at a curve to read its values; draw a frame to see more of it</source>
+        <translation>Pointez une courbe pour lire ses valeurs ; tracez un cadre pour l’agrandir</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>(held %1)</source>
+        <translation>(figé %1)</translation>
+    </message>
+    <message>
+        <source>The main volume is 0: nothing is heard</source>
+        <translation>Le volume principal est à 0 : on n’entend rien</translation>
+    </message>
+    <message>
+        <source>Hole of %1 dB at %2 Hz</source>
+        <translation>Creux de %1 dB à %2 Hz</translation>
+    </message>
+    <message>
+        <source>Hole of more than %1 dB at %2 Hz</source>
+        <translation>Creux de plus de %1 dB à %2 Hz</translation>
+    </message>
+    <message>
+        <source>Overlap of %1 dB at %2 Hz</source>
+        <translation>Recouvrement de %1 dB à %2 Hz</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>try phase %1° for the subwoofers</source>
+        <translation>essayez la phase %1° pour les caissons de basses</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the subwoofers' low-pass</source>
+        <translation>essayez %1 Hz pour le passe-bas des caissons de basses</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the front high-pass</source>
+        <translation>essayez %1 Hz pour le passe-haut avant</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the rear high-pass</source>
+        <translation>essayez %1 Hz pour le passe-haut arrière</translation>
+    </message>
+    <message>
+        <source>it comes of the delays, which differ</source>
+        <translation>il vient des retards, qui diffèrent</translation>
+    </message>
 </context>
 </TS>

@@ -435,5 +435,153 @@
         <source>Result</source>
         <translation>結果</translation>
     </message>
+    <message>
+        <source>Response</source>
+        <translation>周波数特性</translation>
+    </message>
+    <message>
+        <source>What the loudspeakers and their sum make of every frequency</source>
+        <translation>各スピーカーとその合成の周波数ごとの出力</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>合成</translation>
+    </message>
+    <message>
+        <source>Shows or hides this curve</source>
+        <translation>この曲線を表示または非表示にします</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>位相</translation>
+    </message>
+    <message>
+        <source>Shows the phase below the magnitude</source>
+        <translation>振幅の下に位相を表示します</translation>
+    </message>
+    <message>
+        <source>Group delay</source>
+        <translation>群遅延</translation>
+    </message>
+    <message>
+        <source>Shows the group delay below the magnitude</source>
+        <translation>振幅の下に群遅延を表示します</translation>
+    </message>
+    <message>
+        <source>With delays</source>
+        <translation>ディレイ込み</translation>
+    </message>
+    <message>
+        <source>Off: as if the delays made up for the distances of the loudspeakers</source>
+        <translation>オフ: ディレイがスピーカーの距離を補正しているものとして表示します</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>保持</translation>
+    </message>
+    <message>
+        <source>Keeps the present curves beside the coming ones</source>
+        <translation>現在の曲線を以後の曲線と並べて残します</translation>
+    </message>
+    <message>
+        <source>Zoom back</source>
+        <translation>前の表示</translation>
+    </message>
+    <message>
+        <source>Shows the part that was shown before; a right click, too</source>
+        <translation>前に表示していた範囲に戻します（右クリックでも可）</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>全体</translation>
+    </message>
+    <message>
+        <source>Shows all frequencies</source>
+        <translation>すべての周波数を表示します</translation>
+    </message>
+    <message>
+        <source>Saves the diagrams as a picture, PNG or SVG</source>
+        <translation>図を画像（PNG または SVG）として保存します</translation>
+    </message>
+    <message>
+        <source>Save the diagrams</source>
+        <translation>図を保存</translation>
+    </message>
+    <message>
+        <source>Picture (*.png)</source>
+        <translation>画像 (*.png)</translation>
+    </message>
+    <message>
+        <source>Drawing (*.svg)</source>
+        <translation>図面 (*.svg)</translation>
+    </message>
+    <message>
+        <source>Magnitude</source>
+        <translation>振幅</translation>
+    </message>
+    <message>
+        <source>Point at a curve to read its values; draw a frame to see more of it</source>
+        <translation>曲線を指すと値が読めます。枠を描くと拡大します</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
+    </message>
+    <message>
+        <source>%1 kHz</source>
+        <translation>%1 kHz</translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation>%1 dB</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>(held %1)</source>
+        <translation>（保持 %1）</translation>
+    </message>
+    <message>
+        <source>The main volume is 0: nothing is heard</source>
+        <translation>メイン音量が 0 のため、何も聞こえません</translation>
+    </message>
+    <message>
+        <source>Hole of %1 dB at %2 Hz</source>
+        <translation>%2 Hz に %1 dB の谷</translation>
+    </message>
+    <message>
+        <source>Hole of more than %1 dB at %2 Hz</source>
+        <translation>%2 Hz に %1 dB を超える谷</translation>
+    </message>
+    <message>
+        <source>Overlap of %1 dB at %2 Hz</source>
+        <translation>%2 Hz に重なりによる %1 dB の山</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>try phase %1° for the subwoofers</source>
+        <translation>サブウーファーの位相 %1° を試してください</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the subwoofers' low-pass</source>
+        <translation>サブウーファーのローパス %1 Hz を試してください</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the front high-pass</source>
+        <translation>フロントのハイパス %1 Hz を試してください</translation>
+    </message>
+    <message>
+        <source>try %1 Hz as the rear high-pass</source>
+        <translation>リアのハイパス %1 Hz を試してください</translation>
+    </message>
+    <message>
+        <source>it comes of the delays, which differ</source>
+        <translation>ディレイの違いによるものです</translation>
+    </message>
 </context>
 </TS>

@@ -3,11 +3,14 @@
 
 #include "desktest.h"
 
+#include "headunit/audio/service/soundmodel.h"
 #include "headunit/desk/frame/panel.h"
 #include "headunit/desk/setups/setupfile.h"
 
+#include <QAction>
 #include <QDir>
 #include <QListWidget>
+#include <QMouseEvent>
 
 namespace {
 
@@ -20,6 +23,7 @@ bool shoot(UnitOnTheDesk &unit, const QDir &folder, const QString &state) {
         for (QDockWidget *dock : desk->findChildren<QDockWidget *>()) {
             dock->setVisible(dock->objectName() == QLatin1String(row->name));
         }
+        unit.pass();  // what was docked beside it needs no room any more
         desk->resize(size);
         unit.pass(500);
         saved = desk->grab().save(folder.filePath(QStringLiteral("desk_%1_%2.png").arg(row->name, state))) && saved;
@@ -50,10 +54,24 @@ int main(int argc, char **argv) {
     auto *const names = unit.openDesk()->panel(QStringLiteral("setups"))->findChild<QListWidget *>();
     names->setCurrentRow(0);
     unit.desk->panel(QStringLiteral("console"));
+    headunit::Panel *const response = unit.desk->panel(QStringLiteral("response"));
+    for (const char *name : {"response_phase", "response_hold"}) {
+        response->findChild<QAction *>(QLatin1String(name))->trigger();
+    }
     for (const char *name : {"key_Subwoofer", "key_subvol_next", "key_subvol_next", "key_crossover", "key_freq_plus",
                              "key_freq_plus", "key_slope_plus", "key_level_minus", "key_timing", "key_general"}) {
         unit.tap(name);
     }
+    // A hole where front and subwoofers meet.
+    headunit::SoundModel &sound = headunit::SoundModel::instance();
+    sound.setFilter(headunit::FilterChannel::Front, {6, 2, 12});
+    sound.setFilter(headunit::FilterChannel::Rear, {4, 2, 12});
+    sound.setFilter(headunit::FilterChannel::Subwoofer, {4, 2, 12});
+    sound.setSubwooferLevel(13);
+    unit.pass(100);
+    const auto *const canvas = response->findChild<QWidget *>(QStringLiteral("response_magnitude_canvas"));
+    QMouseEvent pointed(QEvent::MouseMove, QPointF(0.27 * canvas->width(), 40), Qt::NoButton, Qt::NoButton, {});
+    QCoreApplication::sendEvent(const_cast<QWidget *>(canvas), &pointed);
     saved = shoot(unit, folder, QStringLiteral("busy")) && saved;
     return saved ? 0 : 1;
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "headunit/host/sound/responsetable.h"
+#include "headunit/desk/response/responsetable.h"
 
 #include "headunit/audio/live/outputnames.h"
 
