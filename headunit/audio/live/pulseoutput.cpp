@@ -3,7 +3,6 @@
 
 #include "desksinks.h"
 #include "pulsestream.h"
-#include "realtime.h"
 
 #include "player.h"
 
@@ -42,7 +41,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
     pa_threaded_mainloop *loop = nullptr;
     pa_context *context = nullptr;
     std::atomic<unsigned> dropouts{0};
-    std::string scheduling;
+    bool askedForRealTime = false;
     std::string defaultDevice;
     std::string another;                 ///< device than the default one
     std::optional<DevicePlan> plan;      ///< of the stream
@@ -132,13 +131,21 @@ struct PulseOutput::Private final : PulseStream::Listener {
         if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(context))) {
             serverMissing();
         } else if (isReady()) {
-            if (scheduling.empty()) {
-                scheduling = askForRealTime();
-            }
+            beScheduled();
             const int events = PA_SUBSCRIPTION_MASK_SERVER | PA_SUBSCRIPTION_MASK_SINK;
             release(pa_context_subscribe(context, static_cast<pa_subscription_mask_t>(events), nullptr, nullptr));
             if (!paused) {
                 begin();
+            }
+        }
+    }
+
+    void beScheduled() {
+        if (!askedForRealTime) {
+            askedForRealTime = true;
+            const Scheduling got = askForRealTime();
+            if (settings.onScheduled) {
+                settings.onScheduled(got);
             }
         }
     }
@@ -391,13 +398,6 @@ void PulseOutput::resume() {
         d->begin();
     }
     pa_threaded_mainloop_unlock(d->loop);
-}
-
-std::string PulseOutput::scheduling() const {
-    pa_threaded_mainloop_lock(d->loop);
-    const std::string words = d->scheduling;
-    pa_threaded_mainloop_unlock(d->loop);
-    return words;
 }
 
 unsigned PulseOutput::takeDropouts() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "outputmap.h"
+#include "realtime.h"
 
 #include "headunit/audio/service/soundfault.h"
 
@@ -29,6 +30,8 @@ public:
         /// Hears of what keeps the unit from being heard, and that nothing does any more, on the server's thread or
         /// within the constructor.
         std::function<void(SoundFault)> onFault{};
+        /// Hears once, on the server's thread, how that is scheduled, which is the one that fills the loudspeakers.
+        std::function<void(const Scheduling &)> onScheduled{};
     };
 
     /// Starts at once. \a player is used by the server's thread until the output is destroyed.
@@ -41,8 +44,6 @@ public:
     void pause(std::function<void()> silent);
     void resume();
 
-    /// The answer to the audio thread's request for real-time scheduling, in a few words; empty before it runs.
-    std::string scheduling() const;
     /// How often the server has had nothing left to play since the last call.
     unsigned takeDropouts();
 

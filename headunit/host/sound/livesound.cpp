@@ -55,6 +55,7 @@ LiveSound::LiveSound(const PlayJob &job, QString *problem) {
         QMetaObject::invokeMethod(
             this, [this, fault] { showFault(fault); }, Qt::QueuedConnection);
     };
+    followScheduling(&settings);
     showFault(SoundFault::None);
     m_output = std::make_unique<PulseOutput>(m_player, settings);
     followSleep();
@@ -86,6 +87,21 @@ void LiveSound::followPrograms() {
 void LiveSound::followSleep() {
     connect(&m_bus, &SystemBus::aboutToSleep, this, [this] { m_output->pause([this] { Q_EMIT m_bus.silent(); }); });
     connect(&m_bus, &SystemBus::woke, this, [this] { m_output->resume(); });
+}
+
+/// What the process's own limits refuse, RealtimeKit may give.
+void LiveSound::followScheduling(PulseOutput::Settings *settings) {
+    settings->onScheduled = [this](const Scheduling &got) {
+        const QString words = QString::fromStdString(got.words);
+        QMetaObject::invokeMethod(
+            this, [this, words] { m_scheduling = words; }, Qt::QueuedConnection);
+        if (!got.isRealTime) {
+            m_bus.askForRealTime(got.thread);
+        }
+    };
+    connect(&m_bus, &SystemBus::answeredRealTime, this, [this](bool granted, const QString &words) {
+        m_scheduling = granted ? words : m_scheduling + QStringLiteral("; ") + words;
+    });
 }
 
 /// A touch may change many values one after the other.
@@ -124,16 +140,23 @@ QVariantMap LiveSound::readings() {
             {QStringLiteral("dropouts"), m_dropouts}};
 }
 
+void LiveSound::printScheduling() {
+    if (hasLostRealTime()) {
+        m_scheduling = QStringLiteral("real time lost, as it worked for too long without a pause");
+    }
+    if (m_scheduling != m_saidScheduling) {
+        m_saidScheduling = m_scheduling;
+        std::printf("audio thread: %s\n", qUtf8Printable(m_scheduling));
+    }
+}
+
 void LiveSound::printMeters() {
     constexpr int period = 1000;  // ms
     connect(&m_meterTimer, &QTimer::timeout, this, [this] {
         if (!takeReadings()) {
             return;
         }
-        if (!m_saidScheduling) {
-            m_saidScheduling = true;
-            std::printf("audio thread: %s\n", m_output->scheduling().c_str());
-        }
+        printScheduling();
         const unsigned dropouts = m_dropouts - m_lastDropouts;
         const QByteArray holes = dropouts > 0 ? ", dropouts " + QByteArray::number(dropouts) : QByteArray();
         std::printf("%s%s\n", meterText(m_unprinted).constData(), holes.constData());

@@ -35,10 +35,13 @@ private:
 
     void followPrograms();
     void followSleep();
+    void followScheduling(PulseOutput::Settings *settings);
+    void printScheduling();
 
     bool m_statePending = false;
     SoundFault m_sourceFault = SoundFault::None;  ///< of what was to be played
-    bool m_saidScheduling = false;
+    QString m_scheduling;                         ///< of the audio thread
+    QString m_saidScheduling;
     Player m_player;
     ControlThread m_control{[this](const SoundState &state) { m_player.setState(state); }};
     engine::Meters m_unread;      ///< played since the last readings() ...

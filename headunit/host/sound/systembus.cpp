@@ -2,6 +2,7 @@
 #include "headunit/host/sound/systembus.h"
 
 #include "headunit/host/sound/desksleep.h"
+#include "headunit/host/sound/realtimekit.h"
 
 namespace headunit {
 
@@ -15,6 +16,11 @@ SystemBus::~SystemBus() {
     wait();
 }
 
+void SystemBus::askForRealTime(int thread) {
+    m_wanted = thread;
+    Q_EMIT wantsRealTime();
+}
+
 void SystemBus::run() {
     const QString name = QStringLiteral("headunit-%1").arg(reinterpret_cast<quintptr>(this));
     {
@@ -24,6 +30,15 @@ void SystemBus::run() {
             connect(&sleep, &DeskSleep::aboutToSleep, this, &SystemBus::aboutToSleep);
             connect(&sleep, &DeskSleep::woke, this, &SystemBus::woke);
             connect(this, &SystemBus::silent, &sleep, &DeskSleep::letSleep);
+            RealtimeKit kit(bus);
+            connect(&kit, &RealtimeKit::answered, this, &SystemBus::answeredRealTime);
+            const auto ask = [this, &kit] {
+                if (const int thread = m_wanted.exchange(0)) {
+                    kit.ask(thread);
+                }
+            };
+            connect(this, &SystemBus::wantsRealTime, &kit, ask);
+            ask();  // it may have been wanted before
             exec();
         }
     }
