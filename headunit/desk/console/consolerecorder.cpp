@@ -7,6 +7,7 @@
 
 #include <QDateTime>
 #include <QKeySequence>
+#include <QList>
 #include <QMutex>
 
 namespace headunit {
@@ -15,14 +16,14 @@ namespace {
 
 // The message handler is a plain function, and lines come from any thread.
 QMutex logMutex;
-ConsoleRecorder *logReader = nullptr;
+QList<ConsoleRecorder *> logReaders;
 QtMessageHandler nextHandler = nullptr;
 
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &text) {
     nextHandler(type, context, text);
     const QMutexLocker lock(&logMutex);
-    if (logReader) {
-        QMetaObject::invokeMethod(logReader, "takeLogLine", Qt::QueuedConnection, Q_ARG(QString, text));
+    for (ConsoleRecorder *reader : qAsConst(logReaders)) {
+        QMetaObject::invokeMethod(reader, "takeLogLine", Qt::QueuedConnection, Q_ARG(QString, text));
     }
 }
 
@@ -73,14 +74,18 @@ ConsoleRecorder::ConsoleRecorder(DeskContext &context, ConsoleModel &model)
     : m_context(context), m_model(model), m_listener([this](const TraceEntry &entry) { takeEntry(entry); }) {
     connect(&context.touches, &TouchLog::touched, this, &ConsoleRecorder::takeTouch);
     const QMutexLocker lock(&logMutex);
-    logReader = this;
-    nextHandler = qInstallMessageHandler(handleMessage);
+    if (logReaders.isEmpty()) {
+        nextHandler = qInstallMessageHandler(handleMessage);
+    }
+    logReaders << this;
 }
 
 ConsoleRecorder::~ConsoleRecorder() {
     const QMutexLocker lock(&logMutex);
-    logReader = nullptr;
-    qInstallMessageHandler(nextHandler);
+    logReaders.removeOne(this);
+    if (logReaders.isEmpty()) {
+        qInstallMessageHandler(nextHandler);
+    }
 }
 
 void ConsoleRecorder::setReads(bool on) {

@@ -20,6 +20,8 @@ public:
     virtual QWidget *screen() = 0;
     /// Has what is in front show what is stored now, as when it is opened.
     virtual void refreshFront() = 0;
+    /// Ends the applications and makes them anew, with the home screen in front, as after power-up.
+    virtual void restart() = 0;
 };
 
 /// Opens the desk, and one of its windows: \a panel is its name (see panels.cpp), or empty for those that were open

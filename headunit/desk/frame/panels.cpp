@@ -4,6 +4,7 @@
 #include "headunit/desk/console/consolepanel.h"
 #include "headunit/desk/frame/desktext.h"
 #include "headunit/desk/frame/panel.h"
+#include "headunit/desk/recording/recordingpanel.h"
 #include "headunit/desk/response/responsepanel.h"
 #include "headunit/desk/setups/setupspanel.h"
 
@@ -24,6 +25,8 @@ constexpr PanelRow rows[] = {
      make<SetupsPanel>},
     {"response", DESK_TEXT("Response"), DESK_TEXT("What the loudspeakers and their sum make of every frequency"),
      "Ctrl+3", false, make<ResponsePanel>},
+    {"recording", DESK_TEXT("Recording"), DESK_TEXT("What is touched as a script, and reports of problems"), "Ctrl+6",
+     false, make<RecordingPanel>},
 };
 
 }  // namespace

@@ -27,7 +27,7 @@ void ask(QFileDialog *dialog, const QStringList &kinds, const std::function<void
 
 /// The suffix of "Text (*.txt)".
 QString suffixOf(const QString &kind) {
-    static const QRegularExpression pattern(QStringLiteral("\\*\\.(\\w+)"));
+    static const QRegularExpression pattern(QStringLiteral("\\*\\.([\\w.]+)"));
     return pattern.match(kind).captured(1);
 }
 

@@ -126,7 +126,7 @@ void ChangeHistory::change(const char *name, int id, const SettingsMap &keys, co
     commit();
     {
         const QScopedValueRollback<bool> acting(m_acting, true);
-        putInForce(keys, sound, &m_host);
+        putInForce(keys, sound, [this] { m_host.refreshFront(); });
     }
     const UnitState now = currentState();
     if (!sameReadings(now.keys, m_last.keys)) {
@@ -135,6 +135,7 @@ void ChangeHistory::change(const char *name, int id, const SettingsMap &keys, co
     }
     m_last = now;
     m_silentTouch = -1;
+    Q_EMIT changedByDesk();
 }
 
 void ChangeHistory::putBack(const UnitState &side) {
@@ -143,10 +144,11 @@ void ChangeHistory::putBack(const UnitState &side) {
     }
     {
         const QScopedValueRollback<bool> acting(m_acting, true);
-        putInForce(side.keys, &side.sound, &m_host);
+        putInForce(side.keys, &side.sound, [this] { m_host.refreshFront(); });
     }
     m_last = currentState();
     m_silentTouch = -1;
+    Q_EMIT changedByDesk();
 }
 
 void ChangeHistory::retranslate() {

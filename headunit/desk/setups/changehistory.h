@@ -40,6 +40,8 @@ public:
 Q_SIGNALS:
     /// A step was made, or grew.
     void stepped(const QString &text);
+    /// The desk itself changed the settings: a set-up, an undo.
+    void changedByDesk();
 
 private:
     void takeEntry(const TraceEntry &entry);

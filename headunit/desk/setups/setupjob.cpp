@@ -42,7 +42,7 @@ int importSetup(const QString &path) {
         std::printf("%s\n", qUtf8Printable(setupChangeText(change)));
     }
     std::printf("%d values changed\n", int(changes.size()));
-    putInForce(file.values, nullptr, nullptr);
+    putInForce(file.values, nullptr, {});
     return flushSettings() ? exitGood : refuse(QStringLiteral("--import %1: the settings cannot be saved").arg(path));
 }
 

@@ -2,7 +2,6 @@
 #include "headunit/desk/setups/unitstate.h"
 
 #include "headunit/audio/service/soundmodel.h"
-#include "headunit/desk/frame/deskhost.h"
 #include "headunit/settings/audiokeys.h"
 #include "headunit/settings/trace.h"
 #include "headunit/settings/unitsettings.h"
@@ -16,7 +15,7 @@ UnitState currentState() {
     return {audioStore().values(), SoundModel::instance().state()};
 }
 
-void putInForce(const SettingsMap &keys, const SoundState *sound, DeskHost *host) {
+void putInForce(const SettingsMap &keys, const SoundState *sound, const std::function<void()> &refreshFront) {
     SettingsStore &store = audioStore();
     QStringList names = keys.keys();
     names.sort();
@@ -33,8 +32,8 @@ void putInForce(const SettingsMap &keys, const SoundState *sound, DeskHost *host
     }
     SoundModel &model = SoundModel::instance();
     model.restore();
-    if (host) {
-        host->refreshFront();
+    if (refreshFront) {
+        refreshFront();
     }
     if (sound) {
         model.adopt(*sound);  // after the page, which may have sent what is stored

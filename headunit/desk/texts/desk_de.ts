@@ -32,6 +32,82 @@
         <translation>Was zwischen den Anwendungen und dem Gerät geschieht</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>What is touched as a script, and reports of problems</source>
+        <translation>Was berührt wird, als Skript, und Problemberichte</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufzeichnen</translation>
+    </message>
+    <message>
+        <source>%1 touches, %2 s</source>
+        <translation>%1 Berührungen, %2 s</translation>
+    </message>
+    <message>
+        <source>Recording: %1</source>
+        <translation>Zeichnet auf: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded yet</source>
+        <translation>Noch nichts aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>Save the recording</source>
+        <translation>Aufzeichnung speichern</translation>
+    </message>
+    <message>
+        <source>Script (*.js)</source>
+        <translation>Skript (*.js)</translation>
+    </message>
+    <message>
+        <source>Saved in %1; headunit --script plays it</source>
+        <translation>Gespeichert in %1; headunit --script spielt es ab</translation>
+    </message>
+    <message>
+        <source>Report a problem</source>
+        <translation>Problem melden</translation>
+    </message>
+    <message>
+        <source>Report a problem…</source>
+        <translation>Problem melden…</translation>
+    </message>
+    <message>
+        <source>Archive (*.tar.gz)</source>
+        <translation>Archiv (*.tar.gz)</translation>
+    </message>
+    <message>
+        <source>Saved in %1; look into it before you send it</source>
+        <translation>Gespeichert in %1; vor dem Versenden hineinsehen</translation>
+    </message>
+    <message>
+        <source>Records what is touched as a script. The unit starts anew, at its home screen.</source>
+        <translation>Zeichnet auf, was berührt wird, als Skript. Das Gerät beginnt neu, mit dem Startbildschirm.</translation>
+    </message>
+    <message>
+        <source>Saves the recording as a script that headunit --script plays</source>
+        <translation>Speichert die Aufzeichnung als Skript, das headunit --script abspielt</translation>
+    </message>
+    <message>
+        <source>Packs set-up, recording, console and versions into one archive that does not name you</source>
+        <translation>Packt Einstellung, Aufzeichnung, Konsole und Versionen in ein Archiv, das Sie nicht nennt</translation>
+    </message>
+    <message>
+        <source>Recording as a script</source>
+        <translation>Aufzeichnung als Skript</translation>
+    </message>
+    <message>
+        <source>A recording starts as the unit does: on the home screen, with what is set now.</source>
+        <translation>Eine Aufzeichnung beginnt wie das Gerät: auf dem Startbildschirm, mit dem, was jetzt eingestellt ist.</translation>
+    </message>
+    <message>
+        <source>What went wrong, for the report</source>
+        <translation>Was schiefging, für den Bericht</translation>
+    </message>
+    <message>
         <source>Reset</source>
         <translation>Zurücksetzen</translation>
     </message>

@@ -32,6 +32,82 @@
         <translation>Lo que ocurre entre las aplicaciones y la unidad</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>What is touched as a script, and reports of problems</source>
+        <translation>Lo que se toca, como script, e informes de problemas</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Grabar</translation>
+    </message>
+    <message>
+        <source>%1 touches, %2 s</source>
+        <translation>%1 toques, %2 s</translation>
+    </message>
+    <message>
+        <source>Recording: %1</source>
+        <translation>Grabando: %1</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded yet</source>
+        <translation>Aún no se ha grabado nada</translation>
+    </message>
+    <message>
+        <source>Save the recording</source>
+        <translation>Guardar la grabación</translation>
+    </message>
+    <message>
+        <source>Script (*.js)</source>
+        <translation>Script (*.js)</translation>
+    </message>
+    <message>
+        <source>Saved in %1; headunit --script plays it</source>
+        <translation>Guardado en %1; headunit --script lo reproduce</translation>
+    </message>
+    <message>
+        <source>Report a problem</source>
+        <translation>Informar de un problema</translation>
+    </message>
+    <message>
+        <source>Report a problem…</source>
+        <translation>Informar de un problema…</translation>
+    </message>
+    <message>
+        <source>Archive (*.tar.gz)</source>
+        <translation>Archivo comprimido (*.tar.gz)</translation>
+    </message>
+    <message>
+        <source>Saved in %1; look into it before you send it</source>
+        <translation>Guardado en %1; revíselo antes de enviarlo</translation>
+    </message>
+    <message>
+        <source>Records what is touched as a script. The unit starts anew, at its home screen.</source>
+        <translation>Graba lo que se toca como script. El equipo empieza de nuevo, en la pantalla de inicio.</translation>
+    </message>
+    <message>
+        <source>Saves the recording as a script that headunit --script plays</source>
+        <translation>Guarda la grabación como script que headunit --script reproduce</translation>
+    </message>
+    <message>
+        <source>Packs set-up, recording, console and versions into one archive that does not name you</source>
+        <translation>Reúne ajustes, grabación, consola y versiones en un archivo que no le nombra</translation>
+    </message>
+    <message>
+        <source>Recording as a script</source>
+        <translation>Grabación como script</translation>
+    </message>
+    <message>
+        <source>A recording starts as the unit does: on the home screen, with what is set now.</source>
+        <translation>Una grabación empieza como el equipo: en la pantalla de inicio, con los ajustes actuales.</translation>
+    </message>
+    <message>
+        <source>What went wrong, for the report</source>
+        <translation>Qué ha fallado, para el informe</translation>
+    </message>
+    <message>
         <source>Reset</source>
         <translation>Restablecer</translation>
     </message>

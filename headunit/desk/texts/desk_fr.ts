@@ -32,6 +32,82 @@
         <translation>Ce qui se passe entre les applications et l’appareil</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>What is touched as a script, and reports of problems</source>
+        <translation>Ce qui est touché, sous forme de script, et rapports de problèmes</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>%1 touches, %2 s</source>
+        <translation>%1 touches, %2 s</translation>
+    </message>
+    <message>
+        <source>Recording: %1</source>
+        <translation>Enregistrement en cours : %1</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded yet</source>
+        <translation>Rien n’est encore enregistré</translation>
+    </message>
+    <message>
+        <source>Save the recording</source>
+        <translation>Enregistrer le script</translation>
+    </message>
+    <message>
+        <source>Script (*.js)</source>
+        <translation>Script (*.js)</translation>
+    </message>
+    <message>
+        <source>Saved in %1; headunit --script plays it</source>
+        <translation>Enregistré dans %1 ; headunit --script le rejoue</translation>
+    </message>
+    <message>
+        <source>Report a problem</source>
+        <translation>Signaler un problème</translation>
+    </message>
+    <message>
+        <source>Report a problem…</source>
+        <translation>Signaler un problème…</translation>
+    </message>
+    <message>
+        <source>Archive (*.tar.gz)</source>
+        <translation>Archive (*.tar.gz)</translation>
+    </message>
+    <message>
+        <source>Saved in %1; look into it before you send it</source>
+        <translation>Enregistré dans %1 ; à relire avant l’envoi</translation>
+    </message>
+    <message>
+        <source>Records what is touched as a script. The unit starts anew, at its home screen.</source>
+        <translation>Enregistre ce qui est touché dans un script. L’appareil repart de son écran d’accueil.</translation>
+    </message>
+    <message>
+        <source>Saves the recording as a script that headunit --script plays</source>
+        <translation>Enregistre le script, que headunit --script rejoue</translation>
+    </message>
+    <message>
+        <source>Packs set-up, recording, console and versions into one archive that does not name you</source>
+        <translation>Réunit réglages, enregistrement, console et versions dans une archive qui ne vous nomme pas</translation>
+    </message>
+    <message>
+        <source>Recording as a script</source>
+        <translation>Enregistrement sous forme de script</translation>
+    </message>
+    <message>
+        <source>A recording starts as the unit does: on the home screen, with what is set now.</source>
+        <translation>Un enregistrement commence comme l’appareil : à l’écran d’accueil, avec les réglages actuels.</translation>
+    </message>
+    <message>
+        <source>What went wrong, for the report</source>
+        <translation>Ce qui n’a pas marché, pour le rapport</translation>
+    </message>
+    <message>
         <source>Reset</source>
         <translation>Réinitialisation</translation>
     </message>

@@ -32,6 +32,82 @@
         <translation>アプリケーションと本体の間のやり取り</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>記録</translation>
+    </message>
+    <message>
+        <source>What is touched as a script, and reports of problems</source>
+        <translation>操作をスクリプトに記録し、問題を報告します</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>記録開始</translation>
+    </message>
+    <message>
+        <source>%1 touches, %2 s</source>
+        <translation>%1 回の操作、%2 秒</translation>
+    </message>
+    <message>
+        <source>Recording: %1</source>
+        <translation>記録中：%1</translation>
+    </message>
+    <message>
+        <source>Nothing is recorded yet</source>
+        <translation>まだ記録はありません</translation>
+    </message>
+    <message>
+        <source>Save the recording</source>
+        <translation>記録を保存</translation>
+    </message>
+    <message>
+        <source>Script (*.js)</source>
+        <translation>スクリプト (*.js)</translation>
+    </message>
+    <message>
+        <source>Saved in %1; headunit --script plays it</source>
+        <translation>%1 に保存しました。headunit --script で再生できます</translation>
+    </message>
+    <message>
+        <source>Report a problem</source>
+        <translation>問題を報告</translation>
+    </message>
+    <message>
+        <source>Report a problem…</source>
+        <translation>問題を報告…</translation>
+    </message>
+    <message>
+        <source>Archive (*.tar.gz)</source>
+        <translation>アーカイブ (*.tar.gz)</translation>
+    </message>
+    <message>
+        <source>Saved in %1; look into it before you send it</source>
+        <translation>%1 に保存しました。送る前に内容を確認してください</translation>
+    </message>
+    <message>
+        <source>Records what is touched as a script. The unit starts anew, at its home screen.</source>
+        <translation>操作をスクリプトとして記録します。本機はホーム画面から新たに始まります。</translation>
+    </message>
+    <message>
+        <source>Saves the recording as a script that headunit --script plays</source>
+        <translation>headunit --script で再生できるスクリプトとして保存します</translation>
+    </message>
+    <message>
+        <source>Packs set-up, recording, console and versions into one archive that does not name you</source>
+        <translation>設定・記録・コンソール・バージョンを、あなたの名前を含まないアーカイブにまとめます</translation>
+    </message>
+    <message>
+        <source>Recording as a script</source>
+        <translation>スクリプトとしての記録</translation>
+    </message>
+    <message>
+        <source>A recording starts as the unit does: on the home screen, with what is set now.</source>
+        <translation>記録は本機の起動と同じく、ホーム画面から今の設定で始まります。</translation>
+    </message>
+    <message>
+        <source>What went wrong, for the report</source>
+        <translation>何が起きたか（報告用）</translation>
+    </message>
+    <message>
         <source>Reset</source>
         <translation>リセット</translation>
     </message>

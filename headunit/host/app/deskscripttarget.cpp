@@ -46,6 +46,10 @@ void DeskScriptTarget::setInterrupt(std::function<void()> interrupt) {
     }
 }
 
+void DeskScriptTarget::refreshFront() {
+    m_unit.refreshFront();
+}
+
 bool DeskScriptTarget::openApplication(const QString &id) {
     return m_unit.openApplication(id, Unit::Home);
 }

@@ -22,6 +22,7 @@ public:
     QWidget *screen() override;
     void wait(int ms) override;
     void setInterrupt(std::function<void()> interrupt) override;
+    void refreshFront() override;
     bool openApplication(const QString &id) override;
     void showHome() override;
     void showCar() override;

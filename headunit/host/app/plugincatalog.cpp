@@ -7,6 +7,8 @@
 #include <QJsonObject>
 #include <QPluginLoader>
 
+#include <utility>
+
 namespace headunit {
 
 namespace {
@@ -34,6 +36,7 @@ PluginCatalog::~PluginCatalog() {
 }
 
 void PluginCatalog::load(const QString &file) {
+    m_files << file;
     const QString reason = tryLoad(file);
     if (!reason.isEmpty()) {
         m_failures << QStringLiteral("%1: %2").arg(QFileInfo(file).fileName(), reason);
@@ -116,6 +119,14 @@ void PluginCatalog::unload() {
     }
     m_applications.clear();
     m_guard.clear();
+}
+
+void PluginCatalog::reload() {
+    unload();
+    m_failures.clear();
+    for (const QString &file : QStringList(std::exchange(m_files, {}))) {
+        load(file);
+    }
 }
 
 const Application *PluginCatalog::find(const QString &id) const {

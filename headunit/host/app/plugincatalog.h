@@ -39,6 +39,8 @@ public:
     void load(const QString &file);
     /// Deletes the applications and their windows; the code stays loaded.
     void unload();
+    /// Ends the applications and makes them anew, as after power-up.
+    void reload();
 
     const std::vector<Application> &applications() const { return m_applications; }
     /// The application of that id, or null.
@@ -57,6 +59,7 @@ private:
     QString takeUp(const QString &name, const QString &id, QPluginLoader &loader);
 
     ApplicationGuard m_guard;
+    QStringList m_files;  ///< in the order of load()
     std::vector<Application> m_applications;
     QStringList m_failures;
 };

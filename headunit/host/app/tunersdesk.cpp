@@ -55,4 +55,8 @@ void TunersDesk::refreshFront() {
     m_unit.refreshFront();
 }
 
+void TunersDesk::restart() {
+    m_unit.restart();
+}
+
 }  // namespace headunit

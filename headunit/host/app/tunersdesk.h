@@ -27,6 +27,7 @@ private:
     QWidget *window() override;
     QWidget *screen() override;
     void refreshFront() override;
+    void restart() override;
 
     DeskWindow &m_window;
     Unit &m_unit;

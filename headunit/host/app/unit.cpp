@@ -337,6 +337,15 @@ void Unit::restoreLanguage() {
     }
 }
 
+void Unit::restart() {
+    endCall();
+    shutDown();
+    m_windowBeforeCall = nullptr;
+    m_catalog.reload();
+    m_screens->showApplications();
+    showHome();
+}
+
 void Unit::shutDown() {
     m_place = Nowhere;
     closeBandAdjust();

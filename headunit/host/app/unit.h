@@ -59,6 +59,9 @@ public:
     /// Does what an application asks for with a touch event.
     void touch(int code);
 
+    /// Ends the applications and makes them anew, and shows the home screen, as after power-up; what is set and what
+    /// plays stay.
+    void restart();
     /// Ends the applications and deletes them. The unit shows nothing afterwards.
     void shutDown();
 

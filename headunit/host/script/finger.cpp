@@ -12,6 +12,9 @@ QT_BEGIN_NAMESPACE
 Q_GUI_EXPORT void qt_handleMouseEvent(QWindow *window, const QPointF &local, const QPointF &global,
                                       Qt::MouseButtons state, Qt::MouseButton button, QEvent::Type type,
                                       Qt::KeyboardModifiers mods, int timestamp);
+// The same for a key.
+Q_GUI_EXPORT void qt_handleKeyEvent(QWindow *window, QEvent::Type type, int key, Qt::KeyboardModifiers mods,
+                                    const QString &text, bool autoRepeat, ushort count);
 QT_END_NAMESPACE
 
 namespace headunit {
@@ -41,9 +44,25 @@ void Finger::moveTo(QPoint position) {
     }
 }
 
+void Finger::slideTo(QPoint position) {
+    m_position = position;
+    send(QEvent::MouseMove);
+}
+
 void Finger::release() {
     m_down = false;
     send(QEvent::MouseButtonRelease);
+}
+
+void Finger::releaseAt(QPoint position) {
+    m_position = position;
+    release();
+}
+
+void Finger::key(int key, bool down) {
+    qt_handleKeyEvent(m_target.window()->windowHandle(), down ? QEvent::KeyPress : QEvent::KeyRelease, key,
+                      Qt::NoModifier, QString(), false, 1);
+    m_target.wait(0);
 }
 
 void Finger::wait(int ms) {

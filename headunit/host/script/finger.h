@@ -17,7 +17,12 @@ public:
     void press(QPoint position);
     /// Passes every position on the way, at the pace of a touch screen.
     void moveTo(QPoint position);
+    /// Is at once where the screen sees it next.
+    void slideTo(QPoint position);
     void release();
+    void releaseAt(QPoint position);
+    /// A key of the keyboard.
+    void key(int key, bool down);
     /// Lets \a ms milliseconds pass.
     void wait(int ms);
 

@@ -4,6 +4,7 @@
 #include "audioservice.h"
 #include "headunit/audio/engine/layout.h"
 #include "headunit/audio/service/soundtext.h"
+#include "headunit/host/script/scriptsetup.h"
 #include "headunit/host/script/scripttarget.h"
 #include "headunit/host/script/soundobject.h"
 #include "headunit/settings/unitsettings.h"
@@ -12,6 +13,7 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QJSEngine>
+#include <QKeySequence>
 #include <QMetaMethod>
 #include <QPixmap>
 #include <QWidget>
@@ -64,24 +66,30 @@ QWidget *ScriptApi::find(const QString &name) {
     return nullptr;
 }
 
-bool ScriptApi::locate(const QJSValue &place, const QJSValue &y, QPoint *position) {
-    if (place.isNumber() && y.isNumber()) {
-        *position = QPoint(place.toInt(), y.toInt());
+bool ScriptApi::locate(const QJSValue &place, const QJSValue &x, const QJSValue &y, QPoint *position) {
+    if (place.isNumber() && x.isNumber()) {
+        *position = QPoint(place.toInt(), x.toInt());
         if (!m_target.window()->rect().contains(*position)) {
             fail(QStringLiteral("%1, %2 is outside the screen").arg(position->x()).arg(position->y()));
             return false;
         }
         return true;
     }
-    if (!place.isString()) {
-        fail(QStringLiteral("a place is a name, or x and y"));
+    const bool inside = x.isNumber() && y.isNumber();
+    if (!place.isString() || !(inside || x.isUndefined())) {
+        fail(QStringLiteral("a place is a name, x and y, or a name with x and y inside of it"));
         return false;
     }
     QWidget *const widget = find(place.toString());
     if (!widget) {
         return false;
     }
-    *position = widget->mapTo(m_target.window(), widget->rect().center());
+    const QPoint local = inside ? QPoint(x.toInt(), y.toInt()) : widget->rect().center();
+    if (!widget->rect().contains(local)) {
+        fail(QStringLiteral("%1, %2 is outside \"%3\"").arg(local.x()).arg(local.y()).arg(place.toString()));
+        return false;
+    }
+    *position = widget->mapTo(m_target.window(), local);
     QWidget *const top = m_target.window()->childAt(*position);
     if (top != widget && !widget->isAncestorOf(top)) {
         fail(QStringLiteral("\"%1\" is covered by \"%2\"")
@@ -98,11 +106,11 @@ void ScriptApi::tap(const QJSValue &place, const QJSValue &y) {
     }
 }
 
-void ScriptApi::press(const QJSValue &place, const QJSValue &y) {
+void ScriptApi::press(const QJSValue &place, const QJSValue &x, const QJSValue &y) {
     QPoint position;
     if (m_finger.isDown()) {
         fail(QStringLiteral("the finger is down already"));
-    } else if (locate(place, y, &position)) {
+    } else if (locate(place, x, y, &position)) {
         m_finger.press(position);
     }
 }
@@ -115,12 +123,39 @@ void ScriptApi::move(int x, int y) {
     }
 }
 
-void ScriptApi::release() {
+void ScriptApi::slide(int x, int y) {
     if (m_finger.isDown()) {
-        m_finger.release();
+        m_finger.slideTo(QPoint(x, y));
     } else {
         fail(QStringLiteral("the finger is not down"));
     }
+}
+
+void ScriptApi::release(const QJSValue &x, const QJSValue &y) {
+    if (!m_finger.isDown()) {
+        fail(QStringLiteral("the finger is not down"));
+    } else if (x.isNumber() && y.isNumber()) {
+        m_finger.releaseAt(QPoint(x.toInt(), y.toInt()));
+    } else {
+        m_finger.release();
+    }
+}
+
+void ScriptApi::sendKey(const QString &name, bool down) {
+    const QKeySequence key(name, QKeySequence::PortableText);
+    if (key.count() != 1 || key[0] == Qt::Key_unknown) {
+        fail(QStringLiteral("there is no key \"%1\"").arg(name));
+        return;
+    }
+    m_finger.key(key[0], down);
+}
+
+void ScriptApi::keyDown(const QString &name) {
+    sendKey(name, true);
+}
+
+void ScriptApi::keyUp(const QString &name) {
+    sendKey(name, false);
 }
 
 void ScriptApi::lift() {
@@ -241,6 +276,16 @@ QJSValue ScriptApi::store(const QString &key) {
 void ScriptApi::setStore(const QString &key, const QJSValue &value) {
     // Numbers of scripts are real ones; the unit's settings are whole ones.
     audioStore().set(key, value.isNumber() ? QVariant(value.toInt()) : value.toVariant());
+}
+
+void ScriptApi::setup(const QJSValue &settings, const QJSValue &sound, const QJSValue &shared) {
+    if (!settings.isObject() || !sound.isArray() || !shared.isObject()) {
+        fail(QStringLiteral("a set-up is two objects of settings, with an array of numbers between them"));
+        return;
+    }
+    restoreSetup(settings.toVariant().toMap(), sound.toVariant().toList(), shared.toVariant().toMap(),
+                 [this] { m_target.refreshFront(); });
+    m_target.wait(0);
 }
 
 QJSValue ScriptApi::sound() {

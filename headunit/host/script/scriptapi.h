@@ -34,9 +34,16 @@ public:
 
     // The finger.
     Q_INVOKABLE void tap(const QJSValue &place, const QJSValue &y = QJSValue());
-    Q_INVOKABLE void press(const QJSValue &place, const QJSValue &y = QJSValue());
+    /// press(name), press(x, y) or press(name, x, y): a position inside the widget.
+    Q_INVOKABLE void press(const QJSValue &place, const QJSValue &x = QJSValue(), const QJSValue &y = QJSValue());
     Q_INVOKABLE void move(int x, int y);
-    Q_INVOKABLE void release();
+    /// A move without the positions on its way, and without the time that it takes.
+    Q_INVOKABLE void slide(int x, int y);
+    /// Where it is, or at x and y.
+    Q_INVOKABLE void release(const QJSValue &x = QJSValue(), const QJSValue &y = QJSValue());
+    /// Keys of the keyboard, by name: "Esc", "+".
+    Q_INVOKABLE void keyDown(const QString &name);
+    Q_INVOKABLE void keyUp(const QString &name);
     /// drag(name, x1, y1, x2, y2) or drag(name, [[x, y], ...]): positions inside the widget.
     Q_INVOKABLE void drag(const QString &name, const QJSValue &from, const QJSValue &y1 = QJSValue(),
                           const QJSValue &x2 = QJSValue(), const QJSValue &y2 = QJSValue());
@@ -61,6 +68,8 @@ public:
     Q_INVOKABLE void log(const QJSValue &text);
 
     // The rest of the car.
+    /// A whole set-up: every key of the store, the numbers of the sound state, the keys of the shared store.
+    Q_INVOKABLE void setup(const QJSValue &settings, const QJSValue &sound, const QJSValue &shared);
     Q_INVOKABLE void setStore(const QString &key, const QJSValue &value);
     Q_INVOKABLE void language(const QString &code);
     Q_INVOKABLE void request();
@@ -82,7 +91,8 @@ private:
     /// A property's value; false with a script error if there is none.
     bool read(const QString &name, const QString &property, QJSValue *value);
     /// The position in the window; false with a script error if there is none.
-    bool locate(const QJSValue &place, const QJSValue &y, QPoint *position);
+    bool locate(const QJSValue &place, const QJSValue &x, const QJSValue &y, QPoint *position);
+    void sendKey(const QString &name, bool down);
 
     ScriptTarget &m_target;
     QJSEngine *const m_engine;

@@ -29,6 +29,8 @@ public:
     /// From now on \a interrupt is called, on another thread, when the process is to end; an empty one ends that.
     virtual void setInterrupt(std::function<void()> interrupt) = 0;
 
+    /// Has what is in front read its settings again, as when it is opened.
+    virtual void refreshFront() = 0;
     virtual bool openApplication(const QString &id) = 0;
     virtual void showHome() = 0;
     virtual void showCar() = 0;

@@ -25,7 +25,9 @@
 /// A unit with Audio Settings in front and the tuner's desk above it, in virtual time.
 class UnitOnTheDesk : public headunit::DeskHost {
 public:
-    UnitOnTheDesk() {
+    enum Start { InAudioSettings, AtHome };
+
+    explicit UnitOnTheDesk(Start start = InAudioSettings) {
         headunit::setDeskClock([] { return headunit::VirtualTime::instance()->now(); });
         headunit::setUnitRoot(root.path());
         headunit::openSettings();
@@ -36,7 +38,11 @@ public:
         QObject::connect(car->hardKeys(), &headunit::HardKeys::keyPressed, unit.get(), &headunit::Unit::pressHardKey);
         QObject::connect(car->hardKeys(), &headunit::HardKeys::keyReleased, unit.get(),
                          &headunit::Unit::releaseHardKey);
-        unit->openApplication(QStringLiteral("audiosetting"), headunit::Unit::Home);
+        if (start == AtHome) {
+            unit->showHome();
+        } else {
+            unit->openApplication(QStringLiteral("audiosetting"), headunit::Unit::Home);
+        }
         car->show();
         pass();
     }
@@ -52,6 +58,7 @@ public:
     QWidget *window() override { return car.get(); }
     QWidget *screen() override { return car->screen(); }
     void refreshFront() override { unit->refreshFront(); }
+    void restart() override { unit->restart(); }
 
     headunit::Desk *openDesk(const QString &panel = QString()) {
         if (!desk) {
