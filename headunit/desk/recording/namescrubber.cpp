@@ -34,6 +34,9 @@ PersonalNames personalNames() {
         // Full name, office and phone numbers stand here with commas between them.
         names.fullName = QString::fromLocal8Bit(account->pw_gecos).section(QLatin1Char(','), 0, 0);
     }
+    if (names.fullName.compare(names.user, Qt::CaseInsensitive) == 0) {
+        names.fullName.clear();
+    }
     names.host = QSysInfo::machineHostName();
     return names;
 }

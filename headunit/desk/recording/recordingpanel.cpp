@@ -156,7 +156,7 @@ void RecordingPanel::retranslate() {
         deskText("A recording starts as the unit does: on the home screen, with what is set now."));
     m_wordsTitle->setText(deskText("What went wrong, for the report"));
     m_words->setAccessibleName(deskText("What went wrong, for the report"));
-    m_message->setAccessibleName(deskText("What came of it"));
+    m_message->setAccessibleName(deskText("Result"));
     showState();
 }
 

@@ -77,7 +77,7 @@ bool ScriptApi::locate(const QJSValue &place, const QJSValue &x, const QJSValue 
     }
     const bool inside = x.isNumber() && y.isNumber();
     if (!place.isString() || !(inside || x.isUndefined())) {
-        fail(QStringLiteral("a place is a name, x and y, or a name with x and y inside of it"));
+        fail(QStringLiteral("a place is a name, or x and y, or both"));
         return false;
     }
     QWidget *const widget = find(place.toString());

@@ -58,6 +58,9 @@ int main(int argc, char **argv) {
     for (const char *name : {"response_phase", "response_hold"}) {
         response->findChild<QAction *>(QLatin1String(name))->trigger();
     }
+    unit.desk->panel(QStringLiteral("recording"))->findChild<QAction *>(QStringLiteral("recording_record"))->trigger();
+    unit.pass(500);
+    unit.tap("tile_audiosetting");
     for (const char *name : {"key_Subwoofer", "key_subvol_next", "key_subvol_next", "key_crossover", "key_freq_plus",
                              "key_freq_plus", "key_slope_plus", "key_level_minus", "key_timing", "key_general"}) {
         unit.tap(name);

@@ -2,12 +2,19 @@
 #include "desktest.h"
 
 #include "headunit/audio/service/soundmodel.h"
+#include "headunit/desk/frame/panel.h"
+#include "headunit/desk/recording/archive.h"
+#include "headunit/desk/recording/namescrubber.h"
 #include "headunit/desk/recording/touchrecorder.h"
 #include "headunit/host/app/deskscripttarget.h"
 #include "headunit/host/script/finger.h"
 #include "headunit/settings/trace.h"
 
 #include <QAction>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QRegularExpression>
@@ -49,8 +56,16 @@ private Q_SLOTS:
     void keysOfTheKeyboard();
     void undoMeanwhileIsPartOfIt();
     void objectThatIsGone();
+    void panelRecordsAndSaves();
+    void namesAreReplaced_data();
+    void namesAreReplaced();
+    void reportNamesNoUser();
+    void reportThatCannotBeWritten();
 
 private:
+    void answerDialog(const QString &path);
+    QString message() const { return m_panel->findChild<QLabel *>("recording_message")->text(); }
+    QByteArray unpacked(const QString &archive, const QString &name) const;
     struct Recorded {
         QString script;
         QStringList calls;
@@ -64,6 +79,7 @@ private:
     static QString beginning(const QString &script);
 
     QScopedPointer<UnitOnTheDesk> m_unit;
+    headunit::Panel *m_panel = nullptr;
     QTemporaryDir m_folder;
 };
 
@@ -282,6 +298,128 @@ void TestRecording::objectThatIsGone() {
     QCOMPARE(process.exitCode(), 1);
     QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
              QString("%1:%2: Error: nothing named \"key_Woofer\" is visible\n").arg(file.fileName()).arg(line));
+}
+
+void TestRecording::answerDialog(const QString &path) {
+    auto *const dialog = m_panel->findChild<QFileDialog *>("file_dialog");
+    QVERIFY(dialog);
+    auto *const edit = dialog->findChild<QLineEdit *>("fileNameEdit");
+    edit->clear();
+    QTest::keyClicks(edit, path);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    m_unit->pass();
+}
+
+void TestRecording::panelRecordsAndSaves() {
+    m_panel = m_unit->openDesk("recording")->panel("recording");
+    auto *const state = m_panel->findChild<QLabel *>("recording_state");
+    auto *const save = m_panel->findChild<QWidget *>("recording_key_save");
+    auto *const script = m_panel->findChild<QPlainTextEdit *>("recording_script");
+    QCOMPARE(state->text(), QString("Nothing is recorded yet"));
+    QVERIFY(!save->isEnabled());
+    QTest::mouseClick(m_panel->findChild<QWidget *>("recording_key_record"), Qt::LeftButton);
+    m_unit->pass(500);
+    QCOMPARE(m_unit->unit->place(), headunit::Unit::Home);
+    QVERIFY(m_unit->tap("tile_audiosetting"));
+    QVERIFY(m_unit->tap("key_Subwoofer"));
+    QVERIFY2(state->text().startsWith("Recording: 2 touches, 0.7 s"), qPrintable(state->text()));
+    QVERIFY(script->toPlainText().contains("key_Subwoofer"));
+    m_unit->car->activateWindow();
+    QTest::keyClick(m_unit->car.get(), Qt::Key_F9);  // with the unit in front
+    QCOMPARE(state->text(), QString("2 touches, 0.7 s"));
+    QVERIFY(!m_panel->findChild<QAction *>("recording_record")->isChecked());
+    QTest::mouseClick(save, Qt::LeftButton);
+    answerDialog(m_folder.filePath("kept"));
+    QVERIFY(message().startsWith("Saved in "));
+    QFile file(m_folder.filePath("kept.js"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QString kept = QString::fromUtf8(file.readAll());
+    QVERIFY(kept.startsWith("// A recording of the unit"));
+    QVERIFY(kept.contains(script->toPlainText().section('\n', -1)));
+    // A second one begins anew.
+    m_unit->desk->activateWindow();
+    m_unit->pass();
+    QTest::keyClick(m_unit->desk, Qt::Key_F9);
+    QVERIFY2(!script->toPlainText().contains("press("), qPrintable(script->toPlainText()));
+    QVERIFY(m_panel->findChild<QAction *>("recording_record")->isChecked());
+}
+
+void TestRecording::namesAreReplaced_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char *text, const char *expected) { QTest::newRow(text) << text << expected; };
+    row("/home/eve/music.wav", "~/music.wav");
+    row("/home/evelyn", "/home/evelyn");
+    row("/media/eve/stick", "/media/user/stick");
+    row("eve_music, EVE", "user_music, user");
+    row("level, never, Eve1", "level, never, Eve1");
+    row("Eve Adams on nutshell.example.org", "somebody on host");
+    row("nutshell: a nutshells", "host: a nutshells");
+}
+
+void TestRecording::namesAreReplaced() {
+    QFETCH(QString, text);
+    QTEST(headunit::withoutNames(text, {"/home/eve", "eve", "Eve Adams", "nutshell.example.org"}), "expected");
+}
+
+QByteArray TestRecording::unpacked(const QString &archive, const QString &name) const {
+    QProcess process;
+    process.start("tar", {"-xzOf", archive, name});
+    process.waitForFinished(600000);
+    return process.readAllStandardOutput();
+}
+
+/// With this machine's own names in what is packed.
+void TestRecording::reportNamesNoUser() {
+    const headunit::PersonalNames names = headunit::personalNames();
+    QVERIFY(!names.home.isEmpty() && !names.user.isEmpty() && !names.host.isEmpty());
+    m_panel = m_unit->openDesk("recording")->panel("recording");
+    QTest::keyClick(m_unit->desk, Qt::Key_F9);
+    QVERIFY(m_unit->tap("tile_audiosetting"));
+    QVERIFY(m_unit->tap("key_Subwoofer"));
+    QTest::keyClick(m_unit->desk, Qt::Key_F9);
+    qWarning("%s/secret of %s at %s", qPrintable(names.home), qPrintable(names.user), qPrintable(names.host));
+    m_unit->pass(100);
+    auto *const words = m_panel->findChild<QPlainTextEdit *>("recording_words");
+    QTest::keyClicks(words, "No bass in " + names.home + "/x, says " + names.user);
+    QTest::mouseClick(m_panel->findChild<QWidget *>("recording_key_report"), Qt::LeftButton);
+    answerDialog(m_folder.filePath("report"));
+    QVERIFY2(message().startsWith("Saved in "), qPrintable(message()));
+    const QString archive = m_folder.filePath("report.tar.gz");
+    QProcess tar;
+    tar.start("tar", {"-tvzf", archive});
+    QVERIFY(tar.waitForFinished(600000));
+    const QString list = QString::fromUtf8(tar.readAllStandardOutput());
+    QCOMPARE(list.count('\n'), 5);
+    for (const QString &line : list.split('\n', Qt::SkipEmptyParts)) {
+        QVERIFY2(line.section(' ', 1, 1, QString::SectionSkipEmpty) == "0/0", qPrintable(line));  // no owner
+    }
+    const auto named = [](const QString &text, const QString &name) {
+        const QRegularExpression word("\\b" + QRegularExpression::escape(name) + "\\b");
+        return text.contains(word);
+    };
+    for (const char *file : {"problem.txt", "setup.txt", "recording.js", "trace.jsonl", "versions.txt"}) {
+        const QString text = QString::fromUtf8(unpacked(archive, QString("report/") + file));
+        QVERIFY2(!text.isEmpty(), file);
+        QVERIFY2(!text.contains(names.home + '/'), file);
+        QVERIFY2(!named(text, names.user), file);
+        QVERIFY2(!named(text, names.host), file);
+    }
+    QCOMPARE(unpacked(archive, "report/problem.txt"), QByteArray("No bass in ~/x, says user\n"));
+    const QByteArray trace = unpacked(archive, "report/trace.jsonl");
+    QVERIFY(trace.contains("~/secret of user at host"));
+    QVERIFY(trace.contains("setSubwoofer"));
+    QVERIFY(unpacked(archive, "report/recording.js").contains("key_Subwoofer"));
+    QVERIFY(unpacked(archive, "report/setup.txt").contains("subwoofer.on = on\n"));
+    QVERIFY(unpacked(archive, "report/versions.txt").contains("headunit: "));
+}
+
+void TestRecording::reportThatCannotBeWritten() {
+    const QString path = m_folder.filePath("nowhere/report.tar.gz");
+    const QString problem = headunit::writeArchive(path, {{"a", "b"}});
+    QVERIFY2(problem.startsWith(path + ": "), qPrintable(problem));
+    QVERIFY(!QFile::exists(path));
 }
 
 DESK_TEST_MAIN(TestRecording)
