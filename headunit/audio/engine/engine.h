@@ -36,6 +36,8 @@ public:
     void process(const Inputs &inputs, float *out, size_t frames);
     /// The limiter's lowest gain of each pair since the last call, 0 to 1.
     std::array<double, pairCount> takeLimiterGains() { return m_limiter.takeLowestGains(); }
+    /// How often each output has gone beyond full scale since the last call, had no limiter held it.
+    std::array<unsigned, outputCount> takeOvers() { return m_limiter.takeOvers(); }
 
 private:
     void takeParameters();

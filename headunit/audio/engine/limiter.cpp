@@ -19,9 +19,10 @@ constexpr double ceiling = 0.985;
 
 }  // namespace
 
-double Limiter::wantedGain(size_t pair) const {
+double Limiter::wantedGain(size_t pair) {
     const auto highest = [pair](const auto &a, const auto &b) { return a[pair] < b[pair]; };
     if ((*std::max_element(m_highest.begin(), m_highest.end(), highest))[pair] <= m_truePeak.harmlessSample()) {
+        m_isOver[stereo * pair] = m_isOver[stereo * pair + 1] = false;
         return 1;
     }
     TruePeak::Reading highestReading;
@@ -32,6 +33,9 @@ double Limiter::wantedGain(size_t pair) const {
             samples[i] = static_cast<float>(m_samples[(first + i) % length * outputCount + output]);
         }
         const TruePeak::Reading reading = m_truePeak.read(samples);
+        const bool isOver = reading.peak > 1;
+        m_overs[output] += isOver && !m_isOver[output];
+        m_isOver[output] = isOver;
         highestReading.peak = std::max(highestReading.peak, reading.peak);
         highestReading.unread = std::max(highestReading.unread, reading.unread);
     }

@@ -4,6 +4,8 @@
 #include "limitergain.h"
 #include "truepeak.h"
 
+#include <utility>
+
 namespace headunit::engine {
 
 /// Keeps the outputs within full scale, between the samples, too: each pair has a gain of its own, which is lowered
@@ -22,6 +24,8 @@ public:
 
     /// The lowest gain of each pair since the last call, 0 to 1.
     std::array<double, pairCount> takeLowestGains();
+    /// How often each output has gone beyond full scale since the last call, before it was limited.
+    std::array<unsigned, outputCount> takeOvers() { return std::exchange(m_overs, {}); }
 
 private:
     static constexpr size_t length = 512;  ///< of the samples kept, in frames
@@ -29,7 +33,7 @@ private:
     static_assert(group == TruePeak::frames && TruePeak::behind <= group, "a group is read when the next one is there");
 
     void analyse();
-    double wantedGain(size_t pair) const;
+    double wantedGain(size_t pair);
     void limit(const double *delayed, float *out, size_t frames);
 
     TruePeak m_truePeak;
@@ -38,6 +42,8 @@ private:
     /// Of the last three groups: the one that is read, and those beside it.
     std::array<std::array<double, pairCount>, 3> m_highest{};
     std::array<LimiterGain, pairCount> m_gains;
+    std::array<bool, outputCount> m_isOver{};  ///< in the group that was read last
+    std::array<unsigned, outputCount> m_overs{};
 };
 
 }  // namespace headunit::engine

@@ -109,6 +109,7 @@ void Player::fill(float *out, size_t frames) {
     Meters reading;
     reading.add(out, frames);
     reading.limiterGain = m_engine.takeLimiterGains();
+    reading.overs = m_engine.takeOvers();
     publishMeters(reading);
 }
 

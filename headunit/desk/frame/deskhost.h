@@ -8,6 +8,8 @@ class QWidget;
 
 namespace headunit {
 
+class SoundMonitor;
+
 /// The unit as the tuner's desk knows it. The desk is a library of its own, loaded only when it is
 /// opened; this is all that it knows of the host.
 class DeskHost {
@@ -22,6 +24,8 @@ public:
     virtual void refreshFront() = 0;
     /// Ends the applications and makes them anew, with the home screen in front, as after power-up.
     virtual void restart() = 0;
+    /// The sound that plays now; null while there is none.
+    virtual SoundMonitor *sound() { return nullptr; }
 };
 
 /// Opens the desk, and one of its windows: \a panel is its name (see panels.cpp), or empty for those that were open

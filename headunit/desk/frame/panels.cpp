@@ -4,6 +4,7 @@
 #include "headunit/desk/console/consolepanel.h"
 #include "headunit/desk/frame/desktext.h"
 #include "headunit/desk/frame/panel.h"
+#include "headunit/desk/meters/meterspanel.h"
 #include "headunit/desk/recording/recordingpanel.h"
 #include "headunit/desk/response/responsepanel.h"
 #include "headunit/desk/setups/setupspanel.h"
@@ -25,6 +26,8 @@ constexpr PanelRow rows[] = {
      make<SetupsPanel>},
     {"response", DESK_TEXT("Response"), DESK_TEXT("What the loudspeakers and their sum make of every frequency"),
      "Ctrl+3", false, make<ResponsePanel>},
+    {"meters", DESK_TEXT("Meters"), DESK_TEXT("How loud each loudspeaker is, and what its limiter takes away"),
+     "Ctrl+4", false, make<MetersPanel>},
     {"recording", DESK_TEXT("Recording"), DESK_TEXT("What is touched as a script, and reports of problems"), "Ctrl+6",
      false, make<RecordingPanel>},
 };

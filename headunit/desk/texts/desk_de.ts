@@ -659,5 +659,105 @@
         <source>it comes of the delays, which differ</source>
         <translation>es kommt von den Laufzeiten, die verschieden sind</translation>
     </message>
+    <message>
+        <source>Meters</source>
+        <translation>Pegel</translation>
+    </message>
+    <message>
+        <source>How loud each loudspeaker is, and what its limiter takes away</source>
+        <translation>Wie laut jeder Lautsprecher ist und was sein Begrenzer wegnimmt</translation>
+    </message>
+    <message>
+        <source>Limiter front</source>
+        <translation>Begrenzer vorn</translation>
+    </message>
+    <message>
+        <source>Limiter rear</source>
+        <translation>Begrenzer hinten</translation>
+    </message>
+    <message>
+        <source>Limiter sub</source>
+        <translation>Begrenzer Sub</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>Nichts spielt</translation>
+    </message>
+    <message>
+        <source>Nothing plays: no sound server answers</source>
+        <translation>Nichts spielt: kein Tonserver antwortet</translation>
+    </message>
+    <message>
+        <source>Nothing plays: there is no sound device</source>
+        <translation>Nichts spielt: es gibt kein Tongerät</translation>
+    </message>
+    <message>
+        <source>Nothing plays: the unit makes no sound here</source>
+        <translation>Nichts spielt: das Gerät macht hier keinen Ton</translation>
+    </message>
+    <message>
+        <source>Nothing plays: what was to be played cannot be read</source>
+        <translation>Nichts spielt: was gespielt werden soll, lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Es spielt</translation>
+    </message>
+    <message>
+        <source>%1 Hz, %2</source>
+        <translation>%1 Hz, %2</translation>
+    </message>
+    <message>
+        <source>+%1 dB at %2: turn down by %1 dB or expect the limiter</source>
+        <translation>+%1 dB bei %2: um %1 dB leiser stellen oder mit dem Begrenzer rechnen</translation>
+    </message>
+    <message>
+        <source>Headroom of %1 dB; least of it at %2</source>
+        <translation>Reserve von %1 dB; am kleinsten bei %2</translation>
+    </message>
+    <message>
+        <source>Forgets the highest values and the clips</source>
+        <translation>Vergisst die höchsten Werte und die Übersteuerungen</translation>
+    </message>
+    <message>
+        <source>What the limiter takes away, in dB</source>
+        <translation>Was der Begrenzer wegnimmt, in dB</translation>
+    </message>
+    <message>
+        <source>Peak of the samples, held for 1.5 s, falling by 20 dB in 1.7 s (IEC 60268-18); within it the mean of 300 ms</source>
+        <translation>Spitze der Abtastwerte, 1,5 s gehalten, fällt um 20 dB in 1,7 s (IEC 60268-18); darin der Mittelwert über 300 ms</translation>
+    </message>
+    <message>
+        <source>The most that the limiter took away since the reset, in dB</source>
+        <translation>Das meiste, was der Begrenzer seit dem Zurücksetzen wegnahm, in dB</translation>
+    </message>
+    <message>
+        <source>Highest sample since the reset, in dB of full scale</source>
+        <translation>Höchster Abtastwert seit dem Zurücksetzen, in dB der Vollaussteuerung</translation>
+    </message>
+    <message>
+        <source>Mean of 300 ms in dB; a sine of full scale reads 0 dB (AES17)</source>
+        <translation>Mittelwert über 300 ms in dB; ein Sinus mit Vollaussteuerung zeigt 0 dB (AES17)</translation>
+    </message>
+    <message>
+        <source>How often the sound went beyond full scale since the reset, and the limiter caught it</source>
+        <translation>Wie oft der Ton seit dem Zurücksetzen über die Vollaussteuerung ging und der Begrenzer ihn auffing</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>Höchster</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Übersteuert</translation>
+    </message>
+    <message>
+        <source>For a tone of full scale at the frequency that the settings raise most</source>
+        <translation>Für einen Ton mit Vollaussteuerung bei der Frequenz, die die Einstellungen am meisten anheben</translation>
+    </message>
 </context>
 </TS>

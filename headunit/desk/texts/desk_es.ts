@@ -659,5 +659,105 @@
         <source>it comes of the delays, which differ</source>
         <translation>se debe a los retardos, que son distintos</translation>
     </message>
+    <message>
+        <source>Meters</source>
+        <translation>Medidores</translation>
+    </message>
+    <message>
+        <source>How loud each loudspeaker is, and what its limiter takes away</source>
+        <translation>Qué nivel tiene cada altavoz y cuánto quita su limitador</translation>
+    </message>
+    <message>
+        <source>Limiter front</source>
+        <translation>Limitador delantero</translation>
+    </message>
+    <message>
+        <source>Limiter rear</source>
+        <translation>Limitador trasero</translation>
+    </message>
+    <message>
+        <source>Limiter sub</source>
+        <translation>Limitador sub</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>No suena nada</translation>
+    </message>
+    <message>
+        <source>Nothing plays: no sound server answers</source>
+        <translation>No suena nada: ningún servidor de sonido responde</translation>
+    </message>
+    <message>
+        <source>Nothing plays: there is no sound device</source>
+        <translation>No suena nada: no hay ningún dispositivo de sonido</translation>
+    </message>
+    <message>
+        <source>Nothing plays: the unit makes no sound here</source>
+        <translation>No suena nada: el equipo no emite sonido aquí</translation>
+    </message>
+    <message>
+        <source>Nothing plays: what was to be played cannot be read</source>
+        <translation>No suena nada: no se puede leer lo que debía sonar</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Suena</translation>
+    </message>
+    <message>
+        <source>%1 Hz, %2</source>
+        <translation>%1 Hz, %2</translation>
+    </message>
+    <message>
+        <source>+%1 dB at %2: turn down by %1 dB or expect the limiter</source>
+        <translation>+%1 dB en %2: baje %1 dB o cuente con el limitador</translation>
+    </message>
+    <message>
+        <source>Headroom of %1 dB; least of it at %2</source>
+        <translation>Margen de %1 dB; el menor en %2</translation>
+    </message>
+    <message>
+        <source>Forgets the highest values and the clips</source>
+        <translation>Olvida los valores máximos y las saturaciones</translation>
+    </message>
+    <message>
+        <source>What the limiter takes away, in dB</source>
+        <translation>Lo que quita el limitador, en dB</translation>
+    </message>
+    <message>
+        <source>Peak of the samples, held for 1.5 s, falling by 20 dB in 1.7 s (IEC 60268-18); within it the mean of 300 ms</source>
+        <translation>Pico de las muestras, retenido 1,5 s, cae 20 dB en 1,7 s (IEC 60268-18); dentro, la media de 300 ms</translation>
+    </message>
+    <message>
+        <source>The most that the limiter took away since the reset, in dB</source>
+        <translation>Lo máximo que quitó el limitador desde el restablecimiento, en dB</translation>
+    </message>
+    <message>
+        <source>Highest sample since the reset, in dB of full scale</source>
+        <translation>Muestra máxima desde el restablecimiento, en dB de plena escala</translation>
+    </message>
+    <message>
+        <source>Mean of 300 ms in dB; a sine of full scale reads 0 dB (AES17)</source>
+        <translation>Media de 300 ms en dB; un seno de plena escala marca 0 dB (AES17)</translation>
+    </message>
+    <message>
+        <source>How often the sound went beyond full scale since the reset, and the limiter caught it</source>
+        <translation>Cuántas veces el sonido superó la plena escala desde el restablecimiento y el limitador lo contuvo</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>Máximo</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Saturaciones</translation>
+    </message>
+    <message>
+        <source>For a tone of full scale at the frequency that the settings raise most</source>
+        <translation>Para un tono de plena escala en la frecuencia que los ajustes más elevan</translation>
+    </message>
 </context>
 </TS>

@@ -659,5 +659,105 @@
         <source>it comes of the delays, which differ</source>
         <translation>il vient des retards, qui diffèrent</translation>
     </message>
+    <message>
+        <source>Meters</source>
+        <translation>Indicateurs</translation>
+    </message>
+    <message>
+        <source>How loud each loudspeaker is, and what its limiter takes away</source>
+        <translation>Le niveau de chaque haut-parleur et ce que retire son limiteur</translation>
+    </message>
+    <message>
+        <source>Limiter front</source>
+        <translation>Limiteur avant</translation>
+    </message>
+    <message>
+        <source>Limiter rear</source>
+        <translation>Limiteur arrière</translation>
+    </message>
+    <message>
+        <source>Limiter sub</source>
+        <translation>Limiteur caisson</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>Rien ne joue</translation>
+    </message>
+    <message>
+        <source>Nothing plays: no sound server answers</source>
+        <translation>Rien ne joue : aucun serveur de son ne répond</translation>
+    </message>
+    <message>
+        <source>Nothing plays: there is no sound device</source>
+        <translation>Rien ne joue : il n’y a pas de périphérique audio</translation>
+    </message>
+    <message>
+        <source>Nothing plays: the unit makes no sound here</source>
+        <translation>Rien ne joue : l’appareil n’émet pas de son ici</translation>
+    </message>
+    <message>
+        <source>Nothing plays: what was to be played cannot be read</source>
+        <translation>Rien ne joue : ce qui devait être joué est illisible</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>Lecture</translation>
+    </message>
+    <message>
+        <source>%1 Hz, %2</source>
+        <translation>%1 Hz, %2</translation>
+    </message>
+    <message>
+        <source>+%1 dB at %2: turn down by %1 dB or expect the limiter</source>
+        <translation>+%1 dB à %2 : baissez de %1 dB ou attendez-vous au limiteur</translation>
+    </message>
+    <message>
+        <source>Headroom of %1 dB; least of it at %2</source>
+        <translation>Réserve de %1 dB ; la plus faible à %2</translation>
+    </message>
+    <message>
+        <source>Forgets the highest values and the clips</source>
+        <translation>Oublie les maximums et les saturations</translation>
+    </message>
+    <message>
+        <source>What the limiter takes away, in dB</source>
+        <translation>Ce que retire le limiteur, en dB</translation>
+    </message>
+    <message>
+        <source>Peak of the samples, held for 1.5 s, falling by 20 dB in 1.7 s (IEC 60268-18); within it the mean of 300 ms</source>
+        <translation>Crête des échantillons, tenue 1,5 s, retombe de 20 dB en 1,7 s (CEI 60268-18) ; à l’intérieur la moyenne sur 300 ms</translation>
+    </message>
+    <message>
+        <source>The most that the limiter took away since the reset, in dB</source>
+        <translation>Le maximum retiré par le limiteur depuis la réinitialisation, en dB</translation>
+    </message>
+    <message>
+        <source>Highest sample since the reset, in dB of full scale</source>
+        <translation>Échantillon maximal depuis la réinitialisation, en dB pleine échelle</translation>
+    </message>
+    <message>
+        <source>Mean of 300 ms in dB; a sine of full scale reads 0 dB (AES17)</source>
+        <translation>Moyenne sur 300 ms en dB ; un sinus pleine échelle indique 0 dB (AES17)</translation>
+    </message>
+    <message>
+        <source>How often the sound went beyond full scale since the reset, and the limiter caught it</source>
+        <translation>Combien de fois le son a dépassé la pleine échelle depuis la réinitialisation et le limiteur l’a retenu</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Saturations</translation>
+    </message>
+    <message>
+        <source>For a tone of full scale at the frequency that the settings raise most</source>
+        <translation>Pour un son pleine échelle à la fréquence que les réglages relèvent le plus</translation>
+    </message>
 </context>
 </TS>

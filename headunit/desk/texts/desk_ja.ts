@@ -659,5 +659,105 @@
         <source>it comes of the delays, which differ</source>
         <translation>ディレイの違いによるものです</translation>
     </message>
+    <message>
+        <source>Meters</source>
+        <translation>メーター</translation>
+    </message>
+    <message>
+        <source>How loud each loudspeaker is, and what its limiter takes away</source>
+        <translation>各スピーカーのレベルとリミッターの減衰量</translation>
+    </message>
+    <message>
+        <source>Limiter front</source>
+        <translation>リミッター フロント</translation>
+    </message>
+    <message>
+        <source>Limiter rear</source>
+        <translation>リミッター リア</translation>
+    </message>
+    <message>
+        <source>Limiter sub</source>
+        <translation>リミッター サブ</translation>
+    </message>
+    <message>
+        <source>Nothing plays</source>
+        <translation>再生していません</translation>
+    </message>
+    <message>
+        <source>Nothing plays: no sound server answers</source>
+        <translation>再生していません: サウンドサーバーが応答しません</translation>
+    </message>
+    <message>
+        <source>Nothing plays: there is no sound device</source>
+        <translation>再生していません: 音声デバイスがありません</translation>
+    </message>
+    <message>
+        <source>Nothing plays: the unit makes no sound here</source>
+        <translation>再生していません: この環境では音を出しません</translation>
+    </message>
+    <message>
+        <source>Nothing plays: what was to be played cannot be read</source>
+        <translation>再生していません: 再生するものを読み込めません</translation>
+    </message>
+    <message>
+        <source>Playing</source>
+        <translation>再生中</translation>
+    </message>
+    <message>
+        <source>%1 Hz, %2</source>
+        <translation>%1 Hz、%2</translation>
+    </message>
+    <message>
+        <source>+%1 dB at %2: turn down by %1 dB or expect the limiter</source>
+        <translation>%2 で +%1 dB: %1 dB 下げないとリミッターが働きます</translation>
+    </message>
+    <message>
+        <source>Headroom of %1 dB; least of it at %2</source>
+        <translation>ヘッドルーム %1 dB（最小は %2）</translation>
+    </message>
+    <message>
+        <source>Forgets the highest values and the clips</source>
+        <translation>最大値とクリップ数を消去します</translation>
+    </message>
+    <message>
+        <source>What the limiter takes away, in dB</source>
+        <translation>リミッターの減衰量（dB）</translation>
+    </message>
+    <message>
+        <source>Peak of the samples, held for 1.5 s, falling by 20 dB in 1.7 s (IEC 60268-18); within it the mean of 300 ms</source>
+        <translation>サンプルのピーク。1.5 秒保持し、1.7 秒で 20 dB 下がります（IEC 60268-18）。内側は 300 ms の平均</translation>
+    </message>
+    <message>
+        <source>The most that the limiter took away since the reset, in dB</source>
+        <translation>リセット後のリミッター最大減衰量（dB）</translation>
+    </message>
+    <message>
+        <source>Highest sample since the reset, in dB of full scale</source>
+        <translation>リセット後の最大サンプル（dBFS）</translation>
+    </message>
+    <message>
+        <source>Mean of 300 ms in dB; a sine of full scale reads 0 dB (AES17)</source>
+        <translation>300 ms の平均（dB）。フルスケールの正弦波が 0 dB です（AES17）</translation>
+    </message>
+    <message>
+        <source>How often the sound went beyond full scale since the reset, and the limiter caught it</source>
+        <translation>リセット後にフルスケールを超え、リミッターが抑えた回数</translation>
+    </message>
+    <message>
+        <source>Highest</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>RMS</source>
+        <translation>RMS</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>クリップ</translation>
+    </message>
+    <message>
+        <source>For a tone of full scale at the frequency that the settings raise most</source>
+        <translation>設定が最も持ち上げる周波数のフルスケールの音に対する値</translation>
+    </message>
 </context>
 </TS>

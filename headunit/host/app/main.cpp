@@ -174,10 +174,12 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
         std::unique_ptr<QObject> sound;
         if (!options.exitWhenShown) {
             // After the first screen
-            QTimer::singleShot(0, &application, [&sound, &target, &options] {
+            QTimer::singleShot(0, &application, [&sound, &target, &desk, &options] {
                 QString silentBecause;
-                sound.reset(startSound(options.playJob, &silentBecause));
+                SoundMonitor *monitor = nullptr;
+                sound.reset(startSound(options.playJob, &silentBecause, &monitor));
                 target.setSound(sound.get());
+                desk.setSound(sound.get(), monitor);
                 if (!silentBecause.isEmpty()) {
                     std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
                 }

@@ -32,9 +32,9 @@ QString doSoundJob(const SoundJob &job) {
     return problem;
 }
 
-QObject *startSound(const PlayJob &job, QString *problem) {
+QObject *startSound(const PlayJob &job, QString *problem, SoundMonitor **monitor) {
     const auto entry = resolve<StartSoundEntry>(startSoundEntryName, problem);
-    return entry ? entry(&job, problem) : nullptr;
+    return entry ? entry(&job, problem, monitor) : nullptr;
 }
 
 }  // namespace headunit

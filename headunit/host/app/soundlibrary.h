@@ -7,6 +7,8 @@ class QObject;
 
 namespace headunit {
 
+class SoundMonitor;
+
 /// A single job for the sound's library. Sound files, plots and sound servers need libraries that take
 /// time to load, so the first screen does not wait for them.
 struct SoundJob {
@@ -31,12 +33,13 @@ QString doSoundJob(const SoundJob &job);
 
 /// Plays on the desk, under the unit's settings, until the object that it returns is deleted. \a problem is empty,
 /// or one line that says why \a job cannot be played as it is; then there may be no object.
-QObject *startSound(const PlayJob &job, QString *problem);
+/// \a monitor is a part of it.
+QObject *startSound(const PlayJob &job, QString *problem, SoundMonitor **monitor);
 
 /// Exported by the library under these names.
 using SoundEntry = void (*)(const SoundJob *job, QString *problem);
 constexpr char soundEntryName[] = "headunitDoSoundJob";
-using StartSoundEntry = QObject *(*)(const PlayJob *job, QString *problem);
+using StartSoundEntry = QObject *(*)(const PlayJob *job, QString *problem, SoundMonitor **monitor);
 constexpr char startSoundEntryName[] = "headunitStartSound";
 
 }  // namespace headunit

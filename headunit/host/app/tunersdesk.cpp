@@ -43,6 +43,11 @@ int doSetupJob(const QString &exportTo, const QString &importFrom) {
     return entry ? entry(&exportTo, &importFrom) : exitUnusable;
 }
 
+void TunersDesk::setSound(QObject *sound, SoundMonitor *monitor) {
+    m_sound = sound;
+    m_monitor = monitor;
+}
+
 QWidget *TunersDesk::window() {
     return &m_window;
 }

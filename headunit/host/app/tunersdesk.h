@@ -23,15 +23,21 @@ public:
     /// is one line on standard error.
     void open(const QString &panel = QString());
 
+    /// What plays from now on, and the part of it that the desk watches; it may end before the desk does.
+    void setSound(QObject *sound, SoundMonitor *monitor);
+
 private:
     QWidget *window() override;
     QWidget *screen() override;
     void refreshFront() override;
     void restart() override;
+    SoundMonitor *sound() override { return m_sound ? m_monitor : nullptr; }
 
     DeskWindow &m_window;
     Unit &m_unit;
     QPointer<QObject> m_desk;
+    QPointer<QObject> m_sound;
+    SoundMonitor *m_monitor = nullptr;
 };
 
 /// Set-ups without a screen, see SetupEntry.

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 namespace headunit {
 
@@ -112,16 +113,20 @@ void LiveSound::takeStateSoon() {
     }
 }
 
-/// Adds what was played to all who wait for it; false if nothing was.
-bool LiveSound::takeReadings() {
-    const engine::Meters *const meters = m_player.takeMeters();
-    if (!meters) {
-        return false;
+/// Adds what was played to all who wait for it.
+void LiveSound::takeReadings() {
+    if (const engine::Meters *const meters = m_player.takeMeters()) {
+        for (engine::Meters *const waiting : {&m_unread, &m_unwatched, &m_unprinted}) {
+            waiting->add(*meters);
+        }
+        m_dropouts += m_output->takeDropouts() + m_player.takeDeskDropouts();
     }
-    m_unread.add(*meters);
-    m_unprinted.add(*meters);
-    m_dropouts += m_output->takeDropouts() + m_player.takeDeskDropouts();
-    return true;
+}
+
+bool LiveSound::takeReading(engine::Meters *reading) {
+    takeReadings();
+    *reading = std::exchange(m_unwatched, engine::Meters());
+    return reading->frames > 0;
 }
 
 QVariantMap LiveSound::readings() {
@@ -153,7 +158,8 @@ void LiveSound::printScheduling() {
 void LiveSound::printMeters() {
     constexpr int period = 1000;  // ms
     connect(&m_meterTimer, &QTimer::timeout, this, [this] {
-        if (!takeReadings()) {
+        takeReadings();
+        if (m_unprinted.frames == 0) {
             return;
         }
         printScheduling();
@@ -168,6 +174,9 @@ void LiveSound::printMeters() {
 
 }  // namespace headunit
 
-extern "C" Q_DECL_EXPORT QObject *headunitStartSound(const headunit::PlayJob *job, QString *problem) {
-    return new headunit::LiveSound(*job, problem);
+extern "C" Q_DECL_EXPORT QObject *headunitStartSound(const headunit::PlayJob *job, QString *problem,
+                                                     headunit::SoundMonitor **monitor) {
+    auto *const sound = new headunit::LiveSound(*job, problem);
+    *monitor = sound;
+    return sound;
 }

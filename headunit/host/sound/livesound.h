@@ -4,6 +4,7 @@
 #include "headunit/audio/live/controlthread.h"
 #include "headunit/audio/live/player.h"
 #include "headunit/audio/live/pulseoutput.h"
+#include "headunit/audio/live/soundmonitor.h"
 #include "headunit/host/app/soundlibrary.h"
 #include "headunit/host/sound/systembus.h"
 
@@ -14,7 +15,7 @@
 namespace headunit {
 
 /// The sound of the running unit: plays through the desk's sound server what the sound model says. GUI thread.
-class LiveSound : public QObject {
+class LiveSound : public QObject, public SoundMonitor {
     Q_OBJECT
 public:
     /// Starts to play. \a problem is a line that says what cannot be; the rest is heard all the same.
@@ -23,6 +24,7 @@ public:
     /// What was played since the last call, for scripts: peak of each output and limiter of each pair in dB, and how
     /// often there was nothing to play in time since the start.
     Q_INVOKABLE QVariantMap readings();
+    bool takeReading(engine::Meters *reading) override;
 
 private Q_SLOTS:
     void takeState();
@@ -30,7 +32,7 @@ private Q_SLOTS:
 private:
     void takeStateSoon();
     void showFault(SoundFault fault);
-    bool takeReadings();
+    void takeReadings();
     void printMeters();
 
     void followPrograms();
@@ -45,6 +47,7 @@ private:
     Player m_player;
     ControlThread m_control{[this](const SoundState &state) { m_player.setState(state); }};
     engine::Meters m_unread;      ///< played since the last readings() ...
+    engine::Meters m_unwatched;   ///< ... since the last takeReading()
     engine::Meters m_unprinted;   ///< ... and since the last line
     unsigned m_dropouts = 0;      ///< since the start ...
     unsigned m_lastDropouts = 0;  ///< ... and until the last line

@@ -59,6 +59,7 @@ public:
     QWidget *screen() override { return car->screen(); }
     void refreshFront() override { unit->refreshFront(); }
     void restart() override { unit->restart(); }
+    headunit::SoundMonitor *sound() override { return monitor; }
 
     headunit::Desk *openDesk(const QString &panel = QString()) {
         if (!desk) {
@@ -105,6 +106,7 @@ public:
     std::unique_ptr<headunit::DeskWindow> car;
     std::unique_ptr<headunit::Unit> unit;
     QPointer<headunit::Desk> desk;
+    headunit::SoundMonitor *monitor = nullptr;  ///< of what plays, where a test plays something
 
 private:
     void mouse(QTest::MouseAction action, const QPoint &position) {

@@ -2,6 +2,7 @@
 // Makes the pictures of docs/tuning.md: desk_pictures FOLDER LANGUAGE. Every panel at rest and after a few touches.
 
 #include "desktest.h"
+#include "playermonitor.h"
 
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/desk/frame/panel.h"
@@ -16,7 +17,7 @@ namespace {
 
 constexpr QSize size(1180, 640);
 
-bool shoot(UnitOnTheDesk &unit, const QDir &folder, const QString &state) {
+bool shoot(UnitOnTheDesk &unit, PlayerMonitor &sound, const QDir &folder, const QString &state) {
     bool saved = true;
     for (const headunit::PanelRow *row = headunit::panelsBegin(); row != headunit::panelsEnd(); ++row) {
         headunit::Desk *const desk = unit.openDesk(QLatin1String(row->name));
@@ -25,7 +26,11 @@ bool shoot(UnitOnTheDesk &unit, const QDir &folder, const QString &state) {
         }
         unit.pass();  // what was docked beside it needs no room any more
         desk->resize(size);
-        unit.pass(500);
+        for (int frame = 0; unit.monitor && frame < 60; ++frame) {
+            sound.play(30);
+            unit.pass(33);
+        }
+        unit.pass(unit.monitor ? 0 : 500);
         saved = desk->grab().save(folder.filePath(QStringLiteral("desk_%1_%2.png").arg(row->name, state))) && saved;
     }
     return saved;
@@ -46,7 +51,8 @@ int main(int argc, char **argv) {
     UnitOnTheDesk unit;
     unit.unit->setLanguage(QString::fromLocal8Bit(argv[2]));
     const QDir folder(QString::fromLocal8Bit(argv[1]));
-    bool saved = shoot(unit, folder, QStringLiteral("rest"));
+    PlayerMonitor sound("noise");
+    bool saved = shoot(unit, sound, folder, QStringLiteral("rest"));
     const QString setups = unit.root.filePath(QStringLiteral("desk/setups"));
     QDir().mkpath(setups);
     headunit::writeSetup(setups + QStringLiteral("/flat.txt"), headunit::SettingsMap());
@@ -66,15 +72,19 @@ int main(int argc, char **argv) {
         unit.tap(name);
     }
     // A hole where front and subwoofers meet.
-    headunit::SoundModel &sound = headunit::SoundModel::instance();
-    sound.setFilter(headunit::FilterChannel::Front, {6, 2, 12});
-    sound.setFilter(headunit::FilterChannel::Rear, {4, 2, 12});
-    sound.setFilter(headunit::FilterChannel::Subwoofer, {4, 2, 12});
-    sound.setSubwooferLevel(13);
+    headunit::SoundModel &model = headunit::SoundModel::instance();
+    model.setFilter(headunit::FilterChannel::Front, {6, 2, 12});
+    model.setFilter(headunit::FilterChannel::Rear, {4, 2, 12});
+    model.setFilter(headunit::FilterChannel::Subwoofer, {4, 2, 12});
+    model.setSubwooferLevel(13);
+    model.setChannelLevel(0, 40);
+    model.setSourceGain(0, 20);
+    model.setSubwooferLevel(15);
+    unit.monitor = &sound;
     unit.pass(100);
     const auto *const canvas = response->findChild<QWidget *>(QStringLiteral("response_magnitude_canvas"));
     QMouseEvent pointed(QEvent::MouseMove, QPointF(0.27 * canvas->width(), 40), Qt::NoButton, Qt::NoButton, {});
     QCoreApplication::sendEvent(const_cast<QWidget *>(canvas), &pointed);
-    saved = shoot(unit, folder, QStringLiteral("busy")) && saved;
+    saved = shoot(unit, sound, folder, QStringLiteral("busy")) && saved;
     return saved ? 0 : 1;
 }

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void anyBlockSizeGivesTheSame();
     void gainComesBackExactly();
     void reportsItsGain();
+    void countsWhatGoesBeyond();
     void holdsThroughLowTones();
     void holdsNoLongerThanItMust();
 };
@@ -81,6 +82,23 @@ void TestLimiter::neverBeyondFullScale() {
         }
         QVERIFY(highest(limited(limiter, in)) <= 1.0F);
     }
+}
+
+/// Each crest of an output by itself, its neighbour's not.
+void TestLimiter::countsWhatGoesBeyond() {
+    Limiter limiter(bestKernel());
+    constexpr double hz = 100;
+    std::vector<double> in = tone(0, static_cast<size_t>(sampleRate));
+    for (size_t frame = 0; frame < in.size() / outputCount; ++frame) {
+        in[frame * outputCount + RearRight] = 1.5 * std::sin(2 * pi * hz * static_cast<double>(frame) / sampleRate);
+        in[frame * outputCount + SubLeft] = in[frame * outputCount + RearRight] / 2;
+    }
+    limited(limiter, in);
+    const std::array<unsigned, outputCount> overs = limiter.takeOvers();
+    QVERIFY2(overs[RearRight] >= 199 && overs[RearRight] <= 201, qPrintable(QString::number(overs[RearRight])));
+    QCOMPARE(overs[RearLeft], 0U);
+    QCOMPARE(overs[SubLeft], 0U);
+    QVERIFY((limiter.takeOvers() == std::array<unsigned, outputCount>{}));
 }
 
 /// Only its pair goes down.
