@@ -2,14 +2,15 @@
 #include "pulseoutput.h"
 
 #include "desksinks.h"
+#include "devicechoice.h"
 #include "pulsestream.h"
+#include "serverconnection.h"
 
 #include "player.h"
 
-#include <pulse/pulseaudio.h>
+#include <pulse/error.h>
 
 #include <cstdio>
-#include <cstring>
 #include <optional>
 #include <utility>
 
@@ -24,44 +25,48 @@ constexpr char noServer[] = "no sound server answers, so the unit is silent unti
 constexpr char noDevice[] = "the sound server has no device, so the unit is silent until it has one";
 constexpr char stalled[] = "the sound server asks for no sound, so the unit is silent until it does";
 
-void release(pa_operation *operation) {
-    if (operation) {
-        pa_operation_unref(operation);
+/// The mark that the connection of a unit with devices of its own carries.
+class Properties {
+public:
+    explicit Properties(const std::string &mark) {
+        if (!mark.empty()) {
+            pa_proplist_sets(m_list, DeskSinks::markProperty, mark.c_str());
+        }
     }
-}
+    ~Properties() { pa_proplist_free(m_list); }
+    Properties(const Properties &) = delete;
+    Properties &operator=(const Properties &) = delete;
+
+    operator pa_proplist *() const { return m_list; }
+
+private:
+    pa_proplist *const m_list = pa_proplist_new();
+};
 
 }  // namespace
 
 /// Everything here happens on the server's thread or under its lock, or before it starts and after it ended.
-struct PulseOutput::Private final : PulseStream::Listener {
+struct PulseOutput::Private final : ServerConnection::Listener, DeviceChoice::Listener, PulseStream::Listener {
     Private(Player &played, const Settings &wanted) : player(played), settings(wanted) {}
 
     Player &player;
     const Settings settings;
-    pa_threaded_mainloop *loop = nullptr;
-    pa_context *context = nullptr;
-    std::atomic<unsigned> dropouts{0};
-    bool askedForRealTime = false;
-    std::string defaultDevice;
-    std::string another;                 ///< device than the default one
+    const std::string mark = settings.desk ? DeskSinks::newMark() : std::string();
+    ServerConnection server{Properties(mark), settings.retryAfter, *this};
+    DeviceChoice choice{{settings.device, settings.map, settings.desk}, *this};
+    std::unique_ptr<PulseStream> stream;
     std::optional<DevicePlan> plan;      ///< of the stream
     std::optional<DevicePlan> nextPlan;  ///< once the stream has ended
-    std::unique_ptr<PulseStream> stream;
-    bool moved = false;  ///< somebody took the stream to a device that is not the default one
+    std::optional<DeskSinks> desk;
+    LoopTimer removal{[this] { dropDesk(); }};
+    LoopTimer watch{[this] { watchStream(); }};
+    std::atomic<unsigned> dropouts{0};
+    bool askedForRealTime = false;
     bool paused = false;
     std::function<void()> silent;  ///< hears that nothing is heard any more
     bool saidStalled = false;
     std::string said;
     SoundFault saidFault = SoundFault::None;
-    LoopTimer retry{[this] { context &&isReady() ? look() : connect(); }};
-    const std::string mark = settings.desk ? DeskSinks::newMark() : std::string();
-    std::optional<DeskSinks> desk;
-    LoopTimer removal{[this] { dropDesk(); }};
-    LoopTimer watch{[this] { watchStream(); }};
-
-    static Private &self(void *data) { return *static_cast<Private *>(data); }
-    pa_mainloop_api *api() { return pa_threaded_mainloop_get_api(loop); }
-    bool isReady() const { return pa_context_get_state(context) == PA_CONTEXT_READY; }
 
     void say(const std::string &news, SoundFault fault) {
         if (fault != saidFault && settings.onFault) {
@@ -74,71 +79,29 @@ struct PulseOutput::Private final : PulseStream::Listener {
         said = news;
     }
 
-    void connect() {
-        disconnect();
-        pa_proplist *const properties = pa_proplist_new();
-        pa_proplist_sets(properties, PA_PROP_APPLICATION_NAME, "Head unit");
-        pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, "com.norvale.headunit");
-        pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, "com.norvale.headunit");
-        if (settings.desk) {
-            pa_proplist_sets(properties, DeskSinks::markProperty, mark.c_str());
-        }
-        context = pa_context_new_with_proplist(api(), nullptr, properties);
-        pa_proplist_free(properties);
-        pa_context_set_state_callback(
-            context, [](pa_context *, void *data) { self(data).contextChanged(); }, this);
-        pa_context_set_subscribe_callback(
-            context,
-            [](pa_context *, pa_subscription_event_type_t event, uint32_t index, void *data) {
-                self(data).serverChanged(event, index);
-            },
-            this);
-        if (pa_context_connect(context, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) {
-            serverMissing();
+    void connected() override {
+        beScheduled();
+        if (!paused) {
+            begin();
         }
     }
 
-    void disconnect() {
-        retry.stop();
-        watch.stop();
-        removal.stop();
-        desk.reset();
-        stream.reset();
-        nextPlan.reset();
-        if (context) {
-            pa_context_set_state_callback(context, nullptr, nullptr);
-            pa_context_set_subscribe_callback(context, nullptr, nullptr);
-            pa_context_disconnect(context);
-            pa_context_unref(context);
-            context = nullptr;
-        }
-    }
-
-    void tryLater() {
-        if (!retry.isRunning()) {
-            retry.start(api(), context, static_cast<pa_usec_t>(settings.retryAfter.count()) * PA_USEC_PER_MSEC);
-        }
-    }
-
-    void serverMissing() {
+    void disconnected() override {
         say(noServer, SoundFault::NoServer);
-        dropDesk();
-        dropStream();
-        tryLater();
+        drop();
     }
 
-    void contextChanged() {
-        if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(context))) {
-            serverMissing();
-        } else if (isReady()) {
-            beScheduled();
-            const int events = PA_SUBSCRIPTION_MASK_SERVER | PA_SUBSCRIPTION_MASK_SINK;
-            release(pa_context_subscribe(context, static_cast<pa_subscription_mask_t>(events), nullptr, nullptr));
-            if (!paused) {
-                begin();
-            }
+    void changed(pa_subscription_event_type_t event, uint32_t index) override {
+        const bool isServer = (event & PA_SUBSCRIPTION_EVENT_FACILITY_MASK) == PA_SUBSCRIPTION_EVENT_SERVER;
+        const int type = event & PA_SUBSCRIPTION_EVENT_TYPE_MASK;
+        // The default device, a new one, or the rate or channels of the one that plays
+        if (isServer || (type == PA_SUBSCRIPTION_EVENT_NEW && !stream) ||
+            (type == PA_SUBSCRIPTION_EVENT_CHANGE && stream && stream->deviceIndex() == index)) {
+            look();
         }
     }
+
+    void tryAgain() override { look(); }
 
     void beScheduled() {
         if (!askedForRealTime) {
@@ -152,114 +115,31 @@ struct PulseOutput::Private final : PulseStream::Listener {
 
     void begin() {
         if (settings.desk && !desk) {
-            offerDesk();
+            DeskInputs inputs{};
+            for (size_t input = 0; input < engine::inputCount; ++input) {
+                inputs[input] = player.deskInput(static_cast<engine::Input>(input));
+            }
+            desk.emplace(server.context(), mark, inputs);
         }
         look();
     }
 
-    void offerDesk() {
-        DeskInputs inputs{};
-        for (size_t input = 0; input < engine::inputCount; ++input) {
-            inputs[input] = player.deskInput(static_cast<engine::Input>(input));
-        }
-        desk.emplace(context, mark, inputs);
-    }
+    void look() { choice.look(server.context(), stream ? plan->device : std::string()); }
 
-    void serverChanged(pa_subscription_event_type_t event, uint32_t index) {
-        const int facility = event & PA_SUBSCRIPTION_EVENT_FACILITY_MASK;
-        const int type = event & PA_SUBSCRIPTION_EVENT_TYPE_MASK;
-        if (facility == PA_SUBSCRIPTION_EVENT_SERVER) {
-            look();
-        } else if (type == PA_SUBSCRIPTION_EVENT_NEW && !stream) {
-            look();
-        } else if (type == PA_SUBSCRIPTION_EVENT_CHANGE && stream && stream->deviceIndex() == index) {
-            lookAt(plan->device);  // its rate or channels may be others now
-        }
-    }
-
-    /// Finds the device that the stream belongs on.
-    void look() {
-        if (!settings.device.empty()) {
-            lookAt(settings.device);
-            return;
-        }
-        release(pa_context_get_server_info(
-            context,
-            [](pa_context *, const pa_server_info *info, void *data) {
-                if (info) {
-                    self(data).defaultFound(info->default_sink_name ? info->default_sink_name : "");
-                }
-            },
-            this));
-    }
-
-    void defaultFound(const std::string &device) {
-        const bool changed = device != defaultDevice;
-        defaultDevice = device;
-        if (stream && (nextPlan ? nextPlan : plan)->device == device) {
-            moved = false;
-        } else if (device.empty()) {
-            deviceMissing();
-        } else if (!stream || (changed && !moved)) {
-            lookAt(device);
-        }
-    }
-
-    void lookAt(const std::string &device) {
-        release(pa_context_get_sink_info_by_name(
-            context, device.c_str(),
-            [](pa_context *, const pa_sink_info *found, int end, void *data) {
-                if (end == 0) {
-                    self(data).deviceFound(*found);
-                } else if (end < 0) {
-                    self(data).deviceMissing();
-                }
-            },
-            this));
-    }
-
-    void deviceMissing() {
+    void deviceMissing() override {
         if (!stream) {
             say(settings.device.empty()
                     ? noDevice
                     : "there is no sound device \"" + settings.device + "\", so the unit is silent until there is",
                 SoundFault::NoDevice);
-            tryLater();
+            server.tryLater();
         }
     }
 
-    /// The default device may be one that a unit offers, so that all programs are heard through it; the unit itself
-    /// plays on another one.
-    void lookForAnother() {
-        another.clear();
-        release(pa_context_get_sink_info_list(
-            context,
-            [](pa_context *, const pa_sink_info *device, int end, void *data) {
-                std::string &name = self(data).another;
-                if (end == 0) {
-                    if (name.empty() && !DeskSinks::isUnits(*device)) {
-                        name = device->name;
-                    }
-                } else if (!name.empty()) {
-                    self(data).lookAt(name);
-                } else {
-                    self(data).deviceMissing();
-                }
-            },
-            this));
-    }
-
-    void deviceFound(const pa_sink_info &device) {
+    void deviceFound(const DevicePlan &found) override {
         if (paused) {
             return;
         }
-        if (settings.desk && DeskSinks::isUnits(device)) {
-            if (!stream) {
-                lookForAnother();
-            }
-            return;
-        }
-        const DevicePlan found(device, settings.map);
         if (!stream) {
             open(found);
         } else if (stream->isEnding() || !(found == *plan)) {
@@ -268,59 +148,64 @@ struct PulseOutput::Private final : PulseStream::Listener {
         }
     }
 
-    /// With programs of the desk the stream is never taken anywhere by the server: it could be to a device of the
-    /// unit's own, where the unit would hear itself.
     PulseStream::Manner manner() const {
         constexpr pa_usec_t ms = PA_USEC_PER_MSEC;
-        return settings.desk ? PulseStream::Manner{24 * ms, 6 * ms, true}
-                             : PulseStream::Manner{60 * ms, 0, !settings.device.empty()};
+        return settings.desk ? PulseStream::Manner{24 * ms, 6 * ms} : PulseStream::Manner{60 * ms, 0};
     }
 
     void open(const DevicePlan &found) {
-        say(found.remark(), found.isNone() ? SoundFault::NoDevice : SoundFault::None);
         plan = found;
-        moved = moved && found.device != defaultDevice;
-        stream = std::make_unique<PulseStream>(api(), context, found, manner(), player, dropouts, *this);
+        nextPlan.reset();
+        stream =
+            std::make_unique<PulseStream>(server.api(), server.context(), found, manner(), player, dropouts, *this);
         if (stream->isGood()) {
-            watch.start(api(), context, stallCheck);
+            watch.start(server.api(), server.context(), stallCheck);
         } else {
-            streamLost();
+            streamRefused();
         }
     }
 
-    void streamPlaced(const char *device) override {
-        if (plan->device != device) {
-            plan->device = device;
-            moved = plan->device != defaultDevice;
-            lookAt(plan->device);
-        }
+    void drop() {
+        watch.stop();
+        removal.stop();
+        dropDesk();
+        dropStream();
     }
 
     void dropDesk() {
         desk.reset();
-        pa_threaded_mainloop_signal(loop, 0);
+        server.signal();
     }
 
     void dropStream() {
         stream.reset();
-        pa_threaded_mainloop_signal(loop, 0);  // somebody may wait for its end
+        server.signal();  // somebody may wait for its end
         if (const auto call = std::exchange(silent, nullptr)) {
             call();
         }
     }
 
+    void streamBegun() override { say(plan->remark(), plan->isNone() ? SoundFault::NoDevice : SoundFault::None); }
+
     void streamEnded() override {
+        const std::optional<DevicePlan> next = std::exchange(nextPlan, std::nullopt);
         dropStream();
-        if (nextPlan && !paused) {
-            const DevicePlan next = *nextPlan;
-            nextPlan.reset();
-            open(next);
+        if (next && !paused) {
+            open(*next);
         }
     }
 
+    /// Its device may be gone, and another one be there.
     void streamLost() override {
         dropStream();
-        tryLater();
+        look();
+    }
+
+    void streamRefused() override {
+        const std::string reason = pa_strerror(pa_context_errno(server.context()));
+        dropStream();
+        say("the sound device " + plan->device + " cannot be played on: " + reason, SoundFault::NoDevice);
+        server.tryLater();
     }
 
     /// A server that is stopped, or a device that sleeps
@@ -333,7 +218,7 @@ struct PulseOutput::Private final : PulseStream::Listener {
             std::fprintf(stderr, "headunit: %s\n", stalled);
         }
         saidStalled = isStalled;
-        watch.start(api(), context, stallCheck);
+        watch.start(server.api(), server.context(), stallCheck);
     }
 
     /// Under the lock, from another thread. The last sound is still on its way when this returns.
@@ -344,60 +229,51 @@ struct PulseOutput::Private final : PulseStream::Listener {
         }
     }
 
-    /// Likewise: returns when nothing is heard any more.
-    void waitForSilence() {
-        while (stream) {
-            pa_threaded_mainloop_wait(loop);
-        }
-    }
-
     /// Likewise: the programs find no devices any more.
     void removeDesk() {
         if (desk) {
-            removal.start(api(), context, longestRemoval);
-            desk->remove([this] { removal.start(api(), context, 0); });
-        }
-        while (desk) {
-            pa_threaded_mainloop_wait(loop);
+            removal.start(server.api(), server.context(), longestRemoval);
+            desk->remove([this] { removal.start(server.api(), server.context(), 0); });
         }
     }
 };
 
 PulseOutput::PulseOutput(Player &player, const Settings &settings) : d(new Private(player, settings)) {
-    d->loop = pa_threaded_mainloop_new();
-    d->connect();
-    pa_threaded_mainloop_start(d->loop);
+    d->server.start();
 }
 
 PulseOutput::~PulseOutput() {
-    pa_threaded_mainloop_lock(d->loop);
-    d->fallSilent();
-    d->waitForSilence();
-    d->removeDesk();
-    pa_threaded_mainloop_unlock(d->loop);
-    pa_threaded_mainloop_stop(d->loop);
-    d->disconnect();
-    pa_threaded_mainloop_free(d->loop);
+    {
+        ServerConnection::Lock lock(d->server);
+        d->fallSilent();
+        while (d->stream) {
+            lock.wait();
+        }
+        d->removeDesk();
+        while (d->desk) {
+            lock.wait();
+        }
+    }
+    d->server.stop();
+    d->drop();
 }
 
 void PulseOutput::pause(std::function<void()> silent) {
-    pa_threaded_mainloop_lock(d->loop);
+    const ServerConnection::Lock lock(d->server);
     d->fallSilent();
     if (d->stream) {
         d->silent = std::move(silent);
     } else {
         silent();
     }
-    pa_threaded_mainloop_unlock(d->loop);
 }
 
 void PulseOutput::resume() {
-    pa_threaded_mainloop_lock(d->loop);
+    const ServerConnection::Lock lock(d->server);
     d->paused = false;
-    if (d->context && d->isReady()) {
+    if (d->server.isReady()) {
         d->begin();
     }
-    pa_threaded_mainloop_unlock(d->loop);
 }
 
 unsigned PulseOutput::takeDropouts() {

@@ -16,7 +16,7 @@ namespace headunit {
 class Player;
 
 /// Plays on the desk's sound server (PulseAudio's protocol, which PipeWire answers, too), at the device's own rate, on
-/// its channels, in its format. Follows the server's default device, and whoever moves the stream to another one. A
+/// its channels, in its format. Follows the server's default device; nobody can take the stream to another one. A
 /// server or a device that is not there, or goes, is looked for until it is. Every end that is not the server's doing
 /// is a fall of the sound, not a cut. Its messages go to standard error: each state of affairs once, when it
 /// begins.

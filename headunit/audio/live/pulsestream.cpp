@@ -50,7 +50,6 @@ PulseStream::~PulseStream() {
     if (m_stream) {
         pa_stream_set_state_callback(m_stream, nullptr, nullptr);
         pa_stream_set_write_callback(m_stream, nullptr, nullptr);
-        pa_stream_set_moved_callback(m_stream, nullptr, nullptr);
         pa_stream_set_underflow_callback(m_stream, nullptr, nullptr);
         pa_stream_disconnect(m_stream);
         pa_stream_unref(m_stream);
@@ -60,8 +59,6 @@ PulseStream::~PulseStream() {
 void PulseStream::connect(const DevicePlan &plan, const Manner &manner) {
     pa_stream_set_state_callback(
         m_stream, [](pa_stream *, void *data) { self(data).stateChanged(); }, this);
-    pa_stream_set_moved_callback(
-        m_stream, [](pa_stream *, void *data) { self(data).placed(); }, this);
     pa_stream_set_write_callback(
         m_stream, [](pa_stream *, size_t bytes, void *data) { self(data).write(bytes); }, this);
     pa_stream_set_underflow_callback(
@@ -72,8 +69,9 @@ void PulseStream::connect(const DevicePlan &plan, const Manner &manner) {
     if (manner.requestTime > 0) {
         buffer.minreq = static_cast<uint32_t>(pa_usec_to_bytes(manner.requestTime, &plan.spec));
     }
-    // Each loudspeaker is to sound from its own channel, and none from another one that the device may have.
-    const int flags = PA_STREAM_ADJUST_LATENCY | PA_STREAM_NO_REMIX_CHANNELS | (manner.stays ? PA_STREAM_DONT_MOVE : 0);
+    // Each loudspeaker is to sound from its own channel, and none from another one that the device may have. The server
+    // would take the stream to another device, as when the default one changes, by a cut, before the unit hears of it.
+    const int flags = PA_STREAM_ADJUST_LATENCY | PA_STREAM_NO_REMIX_CHANNELS | PA_STREAM_DONT_MOVE;
     pa_stream_connect_playback(m_stream, plan.device.c_str(), &buffer, static_cast<pa_stream_flags_t>(flags), nullptr,
                                nullptr);
 }
@@ -82,10 +80,11 @@ void PulseStream::connect(const DevicePlan &plan, const Manner &manner) {
 /// context ends too: by then it has been deleted.
 void PulseStream::stateChanged() {
     const pa_stream_state_t state = pa_stream_get_state(m_stream);
-    if (!PA_STREAM_IS_GOOD(state)) {
-        m_listener.streamLost();
-    } else if (state == PA_STREAM_READY) {
-        placed();
+    if (state == PA_STREAM_READY) {
+        m_begun = true;
+        m_listener.streamBegun();
+    } else if (!PA_STREAM_IS_GOOD(state)) {
+        m_begun ? m_listener.streamLost() : m_listener.streamRefused();
     }
 }
 

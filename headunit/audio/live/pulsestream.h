@@ -15,12 +15,14 @@ class PulseStream {
 public:
     class Listener {
     public:
-        /// The stream plays on that device, maybe not the one that it was meant for.
-        virtual void streamPlaced(const char *device) = 0;
+        /// From now on it is heard.
+        virtual void streamBegun() = 0;
         /// The end has been heard. The stream may be deleted.
         virtual void streamEnded() = 0;
         /// The server ended it. The stream may be deleted.
         virtual void streamLost() = 0;
+        /// The server would not begin it; the context tells why. The stream may be deleted.
+        virtual void streamRefused() = 0;
 
     protected:
         ~Listener() = default;
@@ -30,7 +32,6 @@ public:
     struct Manner {
         pa_usec_t bufferedTime;
         pa_usec_t requestTime;  ///< how much the server asks for at a time; 0: as it likes
-        bool stays;             ///< on its device: rather no sound than on another one
     };
 
     /// Begins to play. \a dropouts counts the times when the server had nothing left to play.
@@ -55,7 +56,6 @@ public:
 private:
     void connect(const DevicePlan &plan, const Manner &manner);
     void stateChanged();
-    void placed() { m_listener.streamPlaced(pa_stream_get_device_name(m_stream)); }
     void write(size_t bytes);
     void drain();
 
@@ -69,6 +69,7 @@ private:
     pa_stream *m_stream = nullptr;
     pa_operation *m_drain = nullptr;
     pa_usec_t m_lastWrite;
+    bool m_begun = false;
     bool m_ending = false;
 };
 

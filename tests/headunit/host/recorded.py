@@ -212,6 +212,12 @@ def check_sleep(server, root):
         sleep.end()
 
 
+def change_default_device(server, _):
+    server.control("set-default-source", "car.monitor")  # or else the recording would be taken along
+    server.plug_in("headphones", "front-left,front-right", 44100, "s16le")
+    server.control("set-default-sink", "headphones")
+
+
 def main():
     with tempfile.TemporaryDirectory() as name:
         server = Server(Path(name))
@@ -227,6 +233,7 @@ def main():
             for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
                 check_end(server, root, number.name, ended_by(number), 63)
             check_sleep(server, root)
+            check_end(server, root, "another default device", change_default_device, 63)
             check_rate(server, root, 44100, "float32le", -110)
             check_rate(server, root, 44100, "s16le", -93)
             check_rate(server, root, 96000, "float32le", -110)
