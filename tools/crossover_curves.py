@@ -56,8 +56,8 @@ def path(points):
 def drawing(order, corner, pixels_per_octave):
     points = curve(order, corner, pixels_per_octave)
     return f"""<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {WIDTH} {HEIGHT}">
-  <!-- Written by tools/crossover_curves.py. -->
-  <path class="curve" d="{path(points)}"/>
+  <!-- Written by tools/crossover_curves.py. Not smoothed: nobody sees the picture, and two colours are cheap to read. -->
+  <path class="curve" shape-rendering="crispEdges" d="{path(points)}"/>
 </svg>
 """
 

@@ -3,8 +3,8 @@
 """Renders one picture family: an SVG source in several states and sizes, at 1:1 and at 2:1.
 
 The renderer is librsvg, called in this process; the PNGs are written for cheap decoding: unfiltered, stored but for those
-that shrink to almost nothing, without colour chunks, with a palette where 256 colours do, RGB where nothing is
-transparent. The same sources give the same bytes on every run.
+that shrink to almost nothing, without colour chunks, with a palette where 256 colours do, a bit a pixel where two do, RGB
+where nothing is transparent. The same sources give the same bytes on every run.
 """
 
 import argparse
@@ -123,7 +123,14 @@ def palette_of(planes):
     return colours, bytes(index[pixel] for pixel in pixels)
 
 
+def packed(line):
+    """A line of zeros and ones, eight a byte from the highest bit on, filled up with zeros."""
+    digits = "".join(map(str, line)).ljust((len(line) + 7) // 8 * 8, "0")
+    return int(digits, 2).to_bytes(len(digits) // 8, "big")
+
+
 def png(bgra, width, height):
+    """The PNG file of a premultiplied BGRA picture."""
     planes = channels(bgra)
     opaque = planes[3].count(255) == width * height
     palette = palette_of(planes)
@@ -140,12 +147,16 @@ def png(bgra, width, height):
         for offset in range(depth):
             pixels[offset::depth] = planes[offset]
     line = width * depth
+    bits = 8
+    if palette and len(colours) <= 2:
+        bits, line = 1, (width + 7) // 8
+        pixels = b"".join(packed(pixels[y * width:(y + 1) * width]) for y in range(height))
     raw = b"".join(b"\0" + pixels[y * line:(y + 1) * line] for y in range(height))
 
     def chunk(name, data):
         return struct.pack(">I", len(data)) + name + data + struct.pack(">I", zlib.crc32(name + data))
 
-    header = struct.pack(">IIBBBBB", width, height, 8, kind, 0, 0, 0)
+    header = struct.pack(">IIBBBBB", width, height, bits, kind, 0, 0, 0)
     data = zlib.compress(raw, 1)
     if len(data) * WORTH_DEFLATING > len(raw):
         data = zlib.compress(raw, 0)

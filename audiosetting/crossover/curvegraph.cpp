@@ -7,7 +7,9 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
+#include <QtMath>
 
+#include <algorithm>
 #include <cmath>
 
 using audiosetting::crossover::CurveLine;
@@ -33,38 +35,67 @@ const double brightWidth = 4;
 const double dotRadius = 7;
 const double dotHole = 3;
 
+const int figuresMargin = 8;
+
 // Of the fill: from this to nothing, over this share of the label's height.
 const double fillOpacity = 0.26;
 const double fillShare = 0.3;
+
+/// The part of a line that is not level: its first and its last point. The pass band is level, at one end or the other.
+struct Bend {
+    int first;
+    int last;
+};
+
+Bend bendOf(const QPolygonF &line) {
+    Bend bend = {0, line.size() - 1};
+    const auto isLevel = [&line](int from, int to) { return line[from].y() == line[to].y(); };
+    while (bend.first < bend.last && isLevel(bend.first, bend.first + 1)) {
+        ++bend.first;
+    }
+    while (bend.last > bend.first && isLevel(bend.last - 1, bend.last)) {
+        --bend.last;
+    }
+    return bend;
+}
 
 void drawLine(QPainter &painter, QPolygonF line, QRgb colour, double width) {
     if (line.isEmpty()) {
         return;
     }
-    // The pass band is level, and most of the line: a rectangle is much cheaper than a stroke. They meet between two
-    // pixels, so that no seam is seen.
-    int first = 0;
-    int last = line.size() - 1;
-    const auto isLevel = [&line](int from, int to) { return from < to && line[from].y() == line[to].y(); };
-    while (first < last && isLevel(first, first + 1)) {
-        ++first;
-    }
-    while (last > first && isLevel(last - 1, last)) {
-        --last;
-    }
+    // The level part is most of the line: a rectangle is much cheaper than a stroke. They meet between two pixels, so
+    // that no seam is seen.
     const auto drawLevel = [&](const QPointF &from, double to) {
         painter.fillRect(QRectF(from.x(), from.y() - width / 2, to - from.x(), width), QColor::fromRgb(colour));
     };
-    if (first > 0) {
-        line[first].setX(std::floor(line[first].x()));
-        drawLevel(line.first(), line[first].x());
+    const Bend bend = bendOf(line);
+    QPointF &first = line[bend.first];
+    QPointF &last = line[bend.last];
+    if (bend.first > 0) {
+        first.setX(std::floor(first.x()));
+        drawLevel(line.first(), first.x());
     }
-    if (last < line.size() - 1) {
-        line[last].setX(std::ceil(line[last].x()));
-        drawLevel(line[last], line.last().x());
+    if (bend.last < line.size() - 1) {
+        last.setX(std::ceil(last.x()));
+        drawLevel(last, line.last().x());
     }
     painter.setPen(QPen(QColor::fromRgb(colour), width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    painter.drawPolyline(line.constData() + first, last - first + 1);
+    painter.drawPolyline(line.constData() + bend.first, bend.last - bend.first + 1);
+}
+
+/// From where to where two lines with the same fill differ.
+QRectF differenceOf(const QPolygonF &a, const QPolygonF &b) {
+    if (a.isEmpty() || b.isEmpty()) {
+        return a.boundingRect() | b.boundingRect();
+    }
+    const Bend bendA = bendOf(a);
+    const Bend bendB = bendOf(b);
+    QRectF difference;
+    difference.setLeft(a.first() == b.first() ? qMin(a[bendA.first].x(), b[bendB.first].x())
+                                              : qMin(a.first().x(), b.first().x()));
+    difference.setRight(a.last() == b.last() ? qMax(a[bendA.last].x(), b[bendB.last].x())
+                                             : qMax(a.last().x(), b.last().x()));
+    return difference;
 }
 
 /// Makes \a pixmap one of that size and density, if it is not yet.
@@ -76,6 +107,12 @@ void prepare(QPixmap &pixmap, const QSize &size, qreal density) {
 }
 
 }  // namespace
+
+/// True if what is below the line looks the same, wherever both are as high.
+bool CurveGraph::Shown::hasFillOf(const Shown &other) const {
+    return line && other.line && line->colour == other.line->colour && place.top() == other.place.top() &&
+           place.height() == other.place.height();
+}
 
 CurveGraph::CurveGraph(QWidget *parent) : QFrame(parent) {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -105,13 +142,27 @@ void CurveGraph::compose() {
     if (!shown.empty() && m_composedOf == shown) {
         return;
     }
-    m_composedOf = shown;
     const CurveLabel *const uppermost = labels.empty() ? nullptr : labels.back();
+    QPolygonF bright = uppermost ? uppermost->seenLine() : QPolygonF();
+    const qreal density = m_figures.isNull() ? 1 : m_figures.devicePixelRatio();
+    QRect changed = rect();
+    if (uppermost) {
+        const bool onlyItsLine = m_composed.size() == size() * density && m_composedOf.size() == shown.size() &&
+                                 std::equal(m_dimOf.begin(), m_dimOf.end(), shown.begin()) &&
+                                 m_composedOf.back().hasFillOf(shown.back());
+        if (onlyItsLine) {
+            const QRectF difference = differenceOf(m_bright, bright);
+            const double reach = dotRadius + 1;
+            changed.setLeft(qFloor(difference.left() - reach));
+            changed.setRight(qCeil(difference.right() + reach) - 1);
+        }
+    }
+    m_bright.swap(bright);
+    m_composedOf = shown;
     if (uppermost) {
         labels.pop_back();
         shown.pop_back();
     }
-    const qreal density = m_figures.isNull() ? 1 : m_figures.devicePixelRatio();
     if (shown.empty() || m_dimOf != shown) {
         m_dimOf = shown;
         prepare(m_dim, size(), density);
@@ -128,13 +179,15 @@ void CurveGraph::compose() {
     // Painted, not copied: that takes the lines one by one into the pixels that are there already.
     prepare(m_composed, size(), density);
     QPainter painter(&m_composed);
+    painter.setClipRect(changed);
     painter.drawPixmap(0, 0, m_dim);
-    if (uppermost && uppermost->line()) {
-        painter.setClipRect(uppermost->geometry());
+    if (!m_bright.isEmpty()) {
+        painter.setClipRect(changed & uppermost->geometry());
         paintBright(painter, *uppermost);
-        painter.setClipping(false);
+        painter.setClipRect(changed);
     }
-    painter.drawPixmap(QPointF(width() - m_figures.width() / m_figures.devicePixelRatio(), 0), m_figures);
+    painter.drawPixmap(QPointF(width() - figuresMargin - m_figures.width() / m_figures.devicePixelRatio(), 0),
+                       m_figures);
 }
 
 void CurveGraph::paintBackground(QPainter &painter) {
@@ -160,10 +213,6 @@ void CurveGraph::paintBackground(QPainter &painter) {
 
 void CurveGraph::paintBright(QPainter &painter, const CurveLabel &label) {
     const QColor colour = QColor::fromRgb(label.line()->colour);
-    const QPolygonF line = label.seenLine();
-    if (line.isEmpty()) {
-        return;
-    }
     QColor from = colour;
     from.setAlphaF(fillOpacity);
     QColor to = colour;
@@ -173,16 +222,16 @@ void CurveGraph::paintBright(QPainter &painter, const CurveLabel &label) {
     fill.setColorAt(0, from);
     fill.setColorAt(1, to);
     QPolygonF below;
-    for (const QPointF &point : line) {
+    for (const QPointF &point : m_bright) {
         below << QPointF(point.x(), qMin(point.y(), end));  // nothing is seen of it further down
     }
-    below << QPointF(line.last().x(), end) << QPointF(line.first().x(), end);
+    below << QPointF(m_bright.last().x(), end) << QPointF(m_bright.first().x(), end);
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
     painter.drawPolygon(below);  // its edge lies under the line: no need to smooth it
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    drawLine(painter, line, label.line()->colour, brightWidth);
+    drawLine(painter, m_bright, label.line()->colour, brightWidth);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colour);
     painter.drawEllipse(label.corner(), dotRadius, dotRadius);

@@ -18,13 +18,14 @@ struct CurveLine;
 /// Shows the curves of its CurveLabel children over a grid: the uppermost, which is the one that is set,
 /// bright, with what lies below it filled and a dot at its corner; the others dim behind it; the figures before all.
 ///
-/// The background with the dim curves and the whole are kept: a step draws one curve anew, and a showing none.
+/// The background with the dim curves and the whole are kept: a step draws one curve anew, only around its bend if it
+/// stays as high as it was, and a showing none.
 class CurveGraph : public QFrame {
     Q_OBJECT
 public:
     explicit CurveGraph(QWidget *parent);
 
-    /// Sets what lies before the curves, at the graph's right edge.
+    /// Sets what lies before the curves, near the graph's right edge.
     void setFigures(const QPixmap &figures);
 
 protected:
@@ -35,6 +36,7 @@ private:
         const audiosetting::crossover::CurveLine *line;
         QRect place;
         bool operator==(const Shown &other) const { return line == other.line && place == other.place; }
+        bool hasFillOf(const Shown &other) const;
     };
 
     void compose();
@@ -47,4 +49,5 @@ private:
     // The curves that they show, from the lowest to the uppermost.
     std::vector<Shown> m_dimOf;
     std::vector<Shown> m_composedOf;
+    QPolygonF m_bright;  ///< the uppermost's line
 };

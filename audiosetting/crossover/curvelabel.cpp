@@ -49,6 +49,11 @@ QPolygonF CurveLabel::seenLine() const {
         return seen;
     }
     const QRectF area = QRectF(parentWidget()->rect()).adjusted(-outside, -outside, outside, outside);
+    const auto add = [&seen](const QPointF &point) {
+        if (seen.isEmpty() || seen.last() != point) {
+            seen << point;
+        }
+    };
     const auto along = [&area](const QPointF &point) {
         return QPointF(point.x(), qBound(area.top(), point.y(), area.bottom()));
     };
@@ -58,12 +63,13 @@ QPolygonF CurveLabel::seenLine() const {
         if (!cut(part, part.x1(), part.dx(), area.left(), area.right())) {
             continue;
         }
-        seen << along(part.p1());
+        add(along(part.p1()));
         QLineF within = part;
         if (cut(within, part.y1(), part.dy(), area.top(), area.bottom())) {
-            seen << within.p1() << within.p2();
+            add(within.p1());
+            add(within.p2());
         }
-        seen << along(part.p2());
+        add(along(part.p2()));
     }
     return seen;
 }

@@ -25,7 +25,7 @@ const Family lowPassFamily = {756, -36};
 // inside the pass band of a filter of first order; one of order n bends n times as fast.
 const double bendBegins = -4.4;
 const double bendEnds = 6;
-const double bendStep = 1 / 6.0;  // a chord this long leaves the line by less than 0.2 px
+const int bendChords = 24;  // no chord leaves the line by more than 0.1 px
 
 const QRgb yellow = qRgb(0xff, 0xd2, 0x3f);
 const QRgb green = qRgb(0x3f, 0xd9, 0x7f);
@@ -54,9 +54,14 @@ double attenuation(int order, double octavesInside) {
 
 QPolygonF CurveLine::points() const {
     const Family &family = highPass ? highPassFamily : lowPassFamily;
+    // The nearer to the corner, the more it bends: places that are even in the angle are uneven in octaves, and each
+    // chord leaves the line by as much as the next.
+    const double ln2 = std::log(2);
+    const double first = std::atan(std::sinh(bendBegins * ln2));
+    const double last = std::atan(std::sinh(bendEnds * ln2));
     QPolygonF bend;
-    for (double step = bendBegins; step <= bendEnds; step += bendStep) {
-        const double octaves = step / order;
+    for (int i = 0; i <= bendChords; ++i) {
+        const double octaves = std::asinh(std::tan(first + (last - first) * i / bendChords)) / ln2 / order;
         bend << QPointF(family.corner + octaves * family.perOctave, yOf(attenuation(order, octaves)));
     }
     bend.last().setY(passBand);

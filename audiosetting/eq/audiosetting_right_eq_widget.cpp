@@ -28,7 +28,7 @@ const int selectionDelay = 20;  // ms from showing a factory curve to the select
 const int resetBandCount = 10;
 
 const int scaleLines[] = {82, 149, 219};  // px: the knob's middle at +12, 0 and -12 dB
-const int dragValueY = 40;                // px: between the up key and the slider
+const int dragValueY = 42;                // px, among the bands: between the up key and the slider
 const int anywhere = 1000;                // px: further down than a knob goes
 
 qvaudio::AudioService *audio() {
@@ -75,7 +75,8 @@ void Audiosetting_right_eq_widget::initUi() {
 
     BandScale *scale = new BandScale(m_ui->widget, scaleLines);
     scale->setGeometry(m_ui->widget->rect());
-    DragValue *dragValue = new DragValue(m_ui->widget, dragValueY, anywhere);
+    // On the page, which is wider than the bands: also the first one's value stands above the finger.
+    DragValue *dragValue = new DragValue(this, m_ui->widget->y() + dragValueY, anywhere);
     for (int band = 0; band < eqBandCount; ++band) {
         m_levels.append(0);
         m_bands.append(EqBand(band, m_ui->widget, m_knobImage));

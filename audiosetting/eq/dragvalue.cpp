@@ -11,7 +11,7 @@ namespace audiosetting {
 
 namespace {
 
-const QSize valueSize(92, 28);  // px: "+12 dB"
+const QSize valueSize(82, 26);  // px: "+12 dB"
 const int pointSize = 18;
 const int radius = 8;        // px
 const double edgeWidth = 2;  // px

@@ -2,6 +2,7 @@
 #include "sliderpage.h"
 
 #include "horizontalslider.h"
+#include "listfade.h"
 #include "scrollbar.h"
 #include "scrollmanage.h"
 
@@ -30,6 +31,8 @@ cm::ScrollBar *addScrollBar(QWidget *page, QScrollArea *area) {
     // The scroll area has laid the bar out at its own edge, and a new parent hides a widget.
     bar->setGeometry(geometry);
     bar->setVisible(true);
+    new ListFade(area, ListFade::Top, geometry.right() + 1);
+    new ListFade(area, ListFade::Bottom, geometry.right() + 1);
     return bar;
 }
 

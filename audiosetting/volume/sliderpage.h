@@ -24,7 +24,7 @@ QRect sliderPageGeometry();
 /// Lets a finger scroll \a area, and lets the screen's background shine through it.
 cm::ScrollManage *makeScrollable(QScrollArea *area);
 /// Gives \a area the toolkit's scroll bar, which stands on the \a page itself, to the left of the rows, and belongs to
-/// it.
+/// it; and lets the rows fade out where there are more of them.
 cm::ScrollBar *addScrollBar(QWidget *page, QScrollArea *area);
 
 /// Pictures and values of a slider.

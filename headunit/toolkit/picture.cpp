@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QPixmapCache>
 
 namespace headunit {
@@ -11,12 +12,31 @@ namespace {
 
 constexpr qreal denseRatio = 2;
 
+/// The picture of a file, from the application's cache if it is there.
+QPixmap read(const QString &path) {
+    const QString key = QStringLiteral("headunit/picture/") + path;
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        if (path.endsWith(QLatin1String(".png"))) {
+            // With the format given, Qt does not ask each of its plug-ins first: that takes as long as a small picture.
+            QImageReader reader(path, "png");
+            reader.setAutoDetectImageFormat(false);
+            picture = QPixmap::fromImageReader(&reader);
+        }
+        if (picture.isNull()) {
+            picture = QPixmap(path);
+        }
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
+}
+
 /// The dense picture made for a display of another density, once: a painter would drop some of its lines.
 QPixmap fitted(const QString &path, qreal ratio) {
     const QString key = QStringLiteral("headunit/fitted/%1/%2").arg(path).arg(ratio);
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
-        const QPixmap dense(path);
+        const QPixmap dense = read(path);
         picture = dense.scaled(dense.size() * (ratio / denseRatio), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         picture.setDevicePixelRatio(ratio);
         QPixmapCache::insert(key, picture);
@@ -43,10 +63,10 @@ QPixmap loadPicture(const QString &path) {
         const int dot = dense.lastIndexOf(QLatin1Char('.'));
         dense.insert(dot < 0 ? dense.size() : dot, QStringLiteral("@2x"));
         if (QFile::exists(dense)) {
-            return ratio == denseRatio ? QPixmap(dense) : fitted(dense, ratio);
+            return ratio == denseRatio ? read(dense) : fitted(dense, ratio);
         }
     }
-    return QPixmap(path);
+    return read(path);
 }
 
 }  // namespace headunit

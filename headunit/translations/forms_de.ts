@@ -147,7 +147,7 @@
     </message>
     <message>
         <source>Voice Volume</source>
-        <translation>Sprachlautstärke</translation>
+        <translation>Assistentenlautstärke</translation>
     </message>
     <message>
         <source>Navigation Volume</source>

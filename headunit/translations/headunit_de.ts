@@ -229,7 +229,7 @@
     </message>
     <message id="20032">
         <source>Traffic</source>
-        <translation>Verkehr</translation>
+        <translation>Verkehrsfunk</translation>
     </message>
     <message id="20033">
         <source>Key Beep</source>
