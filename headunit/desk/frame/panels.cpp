@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The table of the desk's windows. A new one: a folder beside frame/, a class derived from Panel, a row here.
 
+#include "headunit/desk/bridges/curvespanel.h"
 #include "headunit/desk/console/consolepanel.h"
 #include "headunit/desk/frame/desktext.h"
 #include "headunit/desk/frame/panel.h"
@@ -8,6 +9,7 @@
 #include "headunit/desk/recording/recordingpanel.h"
 #include "headunit/desk/response/responsepanel.h"
 #include "headunit/desk/setups/setupspanel.h"
+#include "headunit/desk/tape/tapepanel.h"
 
 #include <iterator>
 
@@ -30,6 +32,10 @@ constexpr PanelRow rows[] = {
      "Ctrl+4", false, make<MetersPanel>},
     {"recording", DESK_TEXT("Recording"), DESK_TEXT("What is touched as a script, and reports of problems"), "Ctrl+6",
      false, make<RecordingPanel>},
+    {"curves", DESK_TEXT("Curves of other programs"), DESK_TEXT("Filter lists in, responses and the curve out"),
+     "Ctrl+7", false, make<CurvesPanel>},
+    {"tape", DESK_TEXT("Tape measure"), DESK_TEXT("Distances of the loudspeakers become their delays"), "Ctrl+8", false,
+     make<TapePanel>},
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/desk/setups/setupfile.h"
 
+#include "headunit/desk/bridges/curvefile.h"
 #include "headunit/desk/setups/setuptable.h"
 
 #include <QFile>
@@ -146,19 +147,27 @@ SetupFile parseSetup(const QByteArray &text) {
     return file;
 }
 
-SetupFile readSetup(const QString &path) {
-    SetupFile read;
+QByteArray readText(const QString &path, QString *problem) {
     QFile file(path);
     if (!QFileInfo(path).isFile()) {
-        read.problem =
+        *problem =
             QFileInfo::exists(path) ? QStringLiteral("this is no file") : QStringLiteral("there is no such file");
     } else if (!file.open(QIODevice::ReadOnly)) {
-        read.problem = file.errorString();
-    } else {
-        read = parseSetup(file.read(sizeLimit + 1));
+        *problem = file.errorString();
     }
-    if (!read.problem.isEmpty()) {
-        read.problem = QStringLiteral("%1: %2").arg(path, read.problem);
+    if (!problem->isEmpty()) {
+        *problem = QStringLiteral("%1: %2").arg(path, *problem);
+        return QByteArray();
+    }
+    return file.read(sizeLimit + 1);
+}
+
+SetupFile readSetup(const QString &path) {
+    SetupFile read;
+    const QByteArray text = readText(path, &read.problem);
+    if (read.problem.isEmpty()) {
+        read = isForeignCurve(text) ? parseCurve(text) : parseSetup(text);
+        read.problem = read.problem.isEmpty() ? QString() : QStringLiteral("%1: %2").arg(path, read.problem);
     }
     return read;
 }

@@ -26,7 +26,10 @@ struct SetupChange {
 /// The file of the set-up in \a settings: see docs/setups.md.
 QByteArray setupText(const SettingsMap &settings);
 SetupFile parseSetup(const QByteArray &text);
+/// A set-up, or a curve of another program (see headunit/desk/bridges/curvefile.h).
 SetupFile readSetup(const QString &path);
+/// What stands in a file, but not more than is enough to see that it is too large; a problem where it cannot be read.
+QByteArray readText(const QString &path, QString *problem);
 /// Returns what went wrong, or an empty text. The file is replaced whole or not at all.
 QString writeSetup(const QString &path, const SettingsMap &settings);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Set-ups without a screen: --export and --import.
 
+#include "headunit/audio/service/soundmodel.h"
+#include "headunit/desk/bridges/curvefile.h"
 #include "headunit/desk/frame/deskhost.h"
 #include "headunit/desk/setups/setupfile.h"
 #include "headunit/desk/setups/unitstate.h"
@@ -21,7 +23,10 @@ int refuse(const QString &reason) {
 }
 
 int exportSetup(const QString &path) {
-    const QString problem = writeSetup(path, audioStore().values());
+    const SoundState &state = SoundModel::instance().state();
+    const QString problem = path.endsWith(QLatin1String(".frd"))   ? writeResponses(path, state)
+                            : path.endsWith(QLatin1String(".peq")) ? writeCurve(path, state)
+                                                                   : writeSetup(path, audioStore().values());
     return problem.isEmpty() ? exitGood : refuse(QStringLiteral("--export ") + problem);
 }
 

@@ -72,6 +72,174 @@
         <translation>Problem melden</translation>
     </message>
     <message>
+        <source>Curves of other programs</source>
+        <translation>Kurven anderer Programme</translation>
+    </message>
+    <message>
+        <source>Filter lists in, responses and the curve out</source>
+        <translation>Filterlisten herein, Frequenzgänge und die Kurve hinaus</translation>
+    </message>
+    <message>
+        <source>"%1": %2 dB remain on average, %3 dB at most, at %4 Hz</source>
+        <translation>„%1“: im Mittel bleiben %2 dB, höchstens %3 dB, bei %4 Hz</translation>
+    </message>
+    <message>
+        <source>Import a filter list of Equalizer APO or REW to see what the bands make of it</source>
+        <translation>Filterliste von Equalizer APO oder REW importieren, um zu sehen, was die Bänder daraus machen</translation>
+    </message>
+    <message>
+        <source>Import a curve</source>
+        <translation>Kurve importieren</translation>
+    </message>
+    <message>
+        <source>Filter list (*.txt)</source>
+        <translation>Filterliste (*.txt)</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>Export the curve for Equalizer APO</source>
+        <translation>Kurve für Equalizer APO exportieren</translation>
+    </message>
+    <message>
+        <source>Export the responses of the outputs</source>
+        <translation>Frequenzgänge der Ausgänge exportieren</translation>
+    </message>
+    <message>
+        <source>Response (*.frd)</source>
+        <translation>Frequenzgang (*.frd)</translation>
+    </message>
+    <message>
+        <source>Response, REW (*.txt)</source>
+        <translation>Frequenzgang, REW (*.txt)</translation>
+    </message>
+    <message>
+        <source>Shows what the bands make of a filter list; Apply puts it in force</source>
+        <translation>Zeigt, was die Bänder aus einer Filterliste machen; Anwenden setzt es in Kraft</translation>
+    </message>
+    <message>
+        <source>Makes the curve that is shown the custom curve</source>
+        <translation>Macht die gezeigte Kurve zur eigenen Kurve</translation>
+    </message>
+    <message>
+        <source>Export the curve…</source>
+        <translation>Kurve exportieren…</translation>
+    </message>
+    <message>
+        <source>Writes the equaliser in force as filters</source>
+        <translation>Schreibt den Equalizer, wie er ist, als Filter</translation>
+    </message>
+    <message>
+        <source>Export the responses…</source>
+        <translation>Frequenzgänge exportieren…</translation>
+    </message>
+    <message>
+        <source>Writes the response of each output and of their sum, a file each: Hz, dB, degrees</source>
+        <translation>Schreibt den Frequenzgang jedes Ausgangs und der Summe, je eine Datei: Hz, dB, Grad</translation>
+    </message>
+    <message>
+        <source>Bands of the equaliser</source>
+        <translation>Bänder des Equalizers</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Band</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>In der Datei</translation>
+    </message>
+    <message>
+        <source>Taken as</source>
+        <translation>Genommen als</translation>
+    </message>
+    <message>
+        <source>Left at the band</source>
+        <translation>Bleibt am Band</translation>
+    </message>
+    <message>
+        <source>Tape measure</source>
+        <translation>Maßband</translation>
+    </message>
+    <message>
+        <source>Distances of the loudspeakers become their delays</source>
+        <translation>Aus den Abständen der Lautsprecher werden ihre Verzögerungen</translation>
+    </message>
+    <message>
+        <source>Measure from the listener's head to each loudspeaker</source>
+        <translation>Vom Kopf des Hörers zu jedem Lautsprecher messen</translation>
+    </message>
+    <message>
+        <source>Front left</source>
+        <translation>Vorn links</translation>
+    </message>
+    <message>
+        <source>Front right</source>
+        <translation>Vorn rechts</translation>
+    </message>
+    <message>
+        <source>Rear left</source>
+        <translation>Hinten links</translation>
+    </message>
+    <message>
+        <source>Rear right</source>
+        <translation>Hinten rechts</translation>
+    </message>
+    <message>
+        <source>Subwoofer left</source>
+        <translation>Subwoofer links</translation>
+    </message>
+    <message>
+        <source>Subwoofer right</source>
+        <translation>Subwoofer rechts</translation>
+    </message>
+    <message>
+        <source>Loudspeaker</source>
+        <translation>Lautsprecher</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Zentimeter</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Zoll</translation>
+    </message>
+    <message>
+        <source>Exact delay</source>
+        <translation>Genaue Verzögerung</translation>
+    </message>
+    <message>
+        <source>Rounding</source>
+        <translation>Rundung</translation>
+    </message>
+    <message>
+        <source>A loudspeaker is too near for the rest: no delay is longer than %1 ms</source>
+        <translation>Ein Lautsprecher ist den anderen zu weit voraus: keine Verzögerung ist länger als %1 ms</translation>
+    </message>
+    <message>
+        <source>Sets the six delays, as one step</source>
+        <translation>Stellt die sechs Verzögerungen ein, als ein Schritt</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatur</translation>
+    </message>
+    <message>
+        <source>Of the air in the car: sound is faster where it is warm</source>
+        <translation>Der Luft im Auto: Schall ist schneller, wo es warm ist</translation>
+    </message>
+    <message>
+        <source>%1 in centimetres</source>
+        <translation>%1 in Zentimetern</translation>
+    </message>
+    <message>
+        <source>%1 in inches</source>
+        <translation>%1 in Zoll</translation>
+    </message>
+    <message>
         <source>Report a problem…</source>
         <translation>Problem melden…</translation>
     </message>

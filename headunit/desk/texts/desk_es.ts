@@ -72,6 +72,174 @@
         <translation>Informar de un problema</translation>
     </message>
     <message>
+        <source>Curves of other programs</source>
+        <translation>Curvas de otros programas</translation>
+    </message>
+    <message>
+        <source>Filter lists in, responses and the curve out</source>
+        <translation>Entran listas de filtros, salen respuestas y la curva</translation>
+    </message>
+    <message>
+        <source>"%1": %2 dB remain on average, %3 dB at most, at %4 Hz</source>
+        <translation>«%1»: quedan %2 dB de media, %3 dB como máximo, a %4 Hz</translation>
+    </message>
+    <message>
+        <source>Import a filter list of Equalizer APO or REW to see what the bands make of it</source>
+        <translation>Importe una lista de filtros de Equalizer APO o REW para ver qué hacen de ella las bandas</translation>
+    </message>
+    <message>
+        <source>Import a curve</source>
+        <translation>Importar una curva</translation>
+    </message>
+    <message>
+        <source>Filter list (*.txt)</source>
+        <translation>Lista de filtros (*.txt)</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Curva</translation>
+    </message>
+    <message>
+        <source>Export the curve for Equalizer APO</source>
+        <translation>Exportar la curva para Equalizer APO</translation>
+    </message>
+    <message>
+        <source>Export the responses of the outputs</source>
+        <translation>Exportar las respuestas de las salidas</translation>
+    </message>
+    <message>
+        <source>Response (*.frd)</source>
+        <translation>Respuesta (*.frd)</translation>
+    </message>
+    <message>
+        <source>Response, REW (*.txt)</source>
+        <translation>Respuesta, REW (*.txt)</translation>
+    </message>
+    <message>
+        <source>Shows what the bands make of a filter list; Apply puts it in force</source>
+        <translation>Muestra qué hacen las bandas de una lista de filtros; Aplicar la pone en vigor</translation>
+    </message>
+    <message>
+        <source>Makes the curve that is shown the custom curve</source>
+        <translation>Convierte la curva mostrada en la curva propia</translation>
+    </message>
+    <message>
+        <source>Export the curve…</source>
+        <translation>Exportar la curva…</translation>
+    </message>
+    <message>
+        <source>Writes the equaliser in force as filters</source>
+        <translation>Escribe el ecualizador en vigor como filtros</translation>
+    </message>
+    <message>
+        <source>Export the responses…</source>
+        <translation>Exportar las respuestas…</translation>
+    </message>
+    <message>
+        <source>Writes the response of each output and of their sum, a file each: Hz, dB, degrees</source>
+        <translation>Escribe la respuesta de cada salida y de la suma, un archivo cada una: Hz, dB, grados</translation>
+    </message>
+    <message>
+        <source>Bands of the equaliser</source>
+        <translation>Bandas del ecualizador</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Banda</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>En el archivo</translation>
+    </message>
+    <message>
+        <source>Taken as</source>
+        <translation>Tomado como</translation>
+    </message>
+    <message>
+        <source>Left at the band</source>
+        <translation>Resta en la banda</translation>
+    </message>
+    <message>
+        <source>Tape measure</source>
+        <translation>Cinta métrica</translation>
+    </message>
+    <message>
+        <source>Distances of the loudspeakers become their delays</source>
+        <translation>Las distancias de los altavoces se convierten en retardos</translation>
+    </message>
+    <message>
+        <source>Measure from the listener's head to each loudspeaker</source>
+        <translation>Mida desde la cabeza del oyente hasta cada altavoz</translation>
+    </message>
+    <message>
+        <source>Front left</source>
+        <translation>Delantero izquierdo</translation>
+    </message>
+    <message>
+        <source>Front right</source>
+        <translation>Delantero derecho</translation>
+    </message>
+    <message>
+        <source>Rear left</source>
+        <translation>Trasero izquierdo</translation>
+    </message>
+    <message>
+        <source>Rear right</source>
+        <translation>Trasero derecho</translation>
+    </message>
+    <message>
+        <source>Subwoofer left</source>
+        <translation>Subwoofer izquierdo</translation>
+    </message>
+    <message>
+        <source>Subwoofer right</source>
+        <translation>Subwoofer derecho</translation>
+    </message>
+    <message>
+        <source>Loudspeaker</source>
+        <translation>Altavoz</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centímetros</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pulgadas</translation>
+    </message>
+    <message>
+        <source>Exact delay</source>
+        <translation>Retardo exacto</translation>
+    </message>
+    <message>
+        <source>Rounding</source>
+        <translation>Redondeo</translation>
+    </message>
+    <message>
+        <source>A loudspeaker is too near for the rest: no delay is longer than %1 ms</source>
+        <translation>Un altavoz está demasiado cerca respecto a los demás: ningún retardo supera %1 ms</translation>
+    </message>
+    <message>
+        <source>Sets the six delays, as one step</source>
+        <translation>Ajusta los seis retardos en un solo paso</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Temperatura</translation>
+    </message>
+    <message>
+        <source>Of the air in the car: sound is faster where it is warm</source>
+        <translation>Del aire en el coche: el sonido es más rápido con calor</translation>
+    </message>
+    <message>
+        <source>%1 in centimetres</source>
+        <translation>%1 en centímetros</translation>
+    </message>
+    <message>
+        <source>%1 in inches</source>
+        <translation>%1 en pulgadas</translation>
+    </message>
+    <message>
         <source>Report a problem…</source>
         <translation>Informar de un problema…</translation>
     </message>

@@ -72,6 +72,174 @@
         <translation>Signaler un problème</translation>
     </message>
     <message>
+        <source>Curves of other programs</source>
+        <translation>Courbes d’autres programmes</translation>
+    </message>
+    <message>
+        <source>Filter lists in, responses and the curve out</source>
+        <translation>Importe des listes de filtres, exporte réponses et courbe</translation>
+    </message>
+    <message>
+        <source>"%1": %2 dB remain on average, %3 dB at most, at %4 Hz</source>
+        <translation>« %1 » : il reste %2 dB en moyenne, %3 dB au plus, à %4 Hz</translation>
+    </message>
+    <message>
+        <source>Import a filter list of Equalizer APO or REW to see what the bands make of it</source>
+        <translation>Importez une liste de filtres d’Equalizer APO ou de REW pour voir ce qu’en font les bandes</translation>
+    </message>
+    <message>
+        <source>Import a curve</source>
+        <translation>Importer une courbe</translation>
+    </message>
+    <message>
+        <source>Filter list (*.txt)</source>
+        <translation>Liste de filtres (*.txt)</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Courbe</translation>
+    </message>
+    <message>
+        <source>Export the curve for Equalizer APO</source>
+        <translation>Exporter la courbe pour Equalizer APO</translation>
+    </message>
+    <message>
+        <source>Export the responses of the outputs</source>
+        <translation>Exporter les réponses des sorties</translation>
+    </message>
+    <message>
+        <source>Response (*.frd)</source>
+        <translation>Réponse (*.frd)</translation>
+    </message>
+    <message>
+        <source>Response, REW (*.txt)</source>
+        <translation>Réponse, REW (*.txt)</translation>
+    </message>
+    <message>
+        <source>Shows what the bands make of a filter list; Apply puts it in force</source>
+        <translation>Montre ce que les bandes font d’une liste de filtres ; Appliquer la met en vigueur</translation>
+    </message>
+    <message>
+        <source>Makes the curve that is shown the custom curve</source>
+        <translation>Fait de la courbe affichée la courbe personnelle</translation>
+    </message>
+    <message>
+        <source>Export the curve…</source>
+        <translation>Exporter la courbe…</translation>
+    </message>
+    <message>
+        <source>Writes the equaliser in force as filters</source>
+        <translation>Écrit l’égaliseur en vigueur sous forme de filtres</translation>
+    </message>
+    <message>
+        <source>Export the responses…</source>
+        <translation>Exporter les réponses…</translation>
+    </message>
+    <message>
+        <source>Writes the response of each output and of their sum, a file each: Hz, dB, degrees</source>
+        <translation>Écrit la réponse de chaque sortie et de leur somme, un fichier chacune : Hz, dB, degrés</translation>
+    </message>
+    <message>
+        <source>Bands of the equaliser</source>
+        <translation>Bandes de l’égaliseur</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Bande</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>Dans le fichier</translation>
+    </message>
+    <message>
+        <source>Taken as</source>
+        <translation>Pris comme</translation>
+    </message>
+    <message>
+        <source>Left at the band</source>
+        <translation>Reste à la bande</translation>
+    </message>
+    <message>
+        <source>Tape measure</source>
+        <translation>Mètre ruban</translation>
+    </message>
+    <message>
+        <source>Distances of the loudspeakers become their delays</source>
+        <translation>Les distances des haut-parleurs deviennent leurs retards</translation>
+    </message>
+    <message>
+        <source>Measure from the listener's head to each loudspeaker</source>
+        <translation>Mesurez de la tête de l’auditeur à chaque haut-parleur</translation>
+    </message>
+    <message>
+        <source>Front left</source>
+        <translation>Avant gauche</translation>
+    </message>
+    <message>
+        <source>Front right</source>
+        <translation>Avant droit</translation>
+    </message>
+    <message>
+        <source>Rear left</source>
+        <translation>Arrière gauche</translation>
+    </message>
+    <message>
+        <source>Rear right</source>
+        <translation>Arrière droit</translation>
+    </message>
+    <message>
+        <source>Subwoofer left</source>
+        <translation>Caisson gauche</translation>
+    </message>
+    <message>
+        <source>Subwoofer right</source>
+        <translation>Caisson droit</translation>
+    </message>
+    <message>
+        <source>Loudspeaker</source>
+        <translation>Haut-parleur</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>Centimètres</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>Pouces</translation>
+    </message>
+    <message>
+        <source>Exact delay</source>
+        <translation>Retard exact</translation>
+    </message>
+    <message>
+        <source>Rounding</source>
+        <translation>Arrondi</translation>
+    </message>
+    <message>
+        <source>A loudspeaker is too near for the rest: no delay is longer than %1 ms</source>
+        <translation>Un haut-parleur est trop proche par rapport aux autres : aucun retard ne dépasse %1 ms</translation>
+    </message>
+    <message>
+        <source>Sets the six delays, as one step</source>
+        <translation>Règle les six retards en une étape</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>Température</translation>
+    </message>
+    <message>
+        <source>Of the air in the car: sound is faster where it is warm</source>
+        <translation>De l’air dans la voiture : le son va plus vite quand il fait chaud</translation>
+    </message>
+    <message>
+        <source>%1 in centimetres</source>
+        <translation>%1 en centimètres</translation>
+    </message>
+    <message>
+        <source>%1 in inches</source>
+        <translation>%1 en pouces</translation>
+    </message>
+    <message>
         <source>Report a problem…</source>
         <translation>Signaler un problème…</translation>
     </message>

@@ -72,6 +72,174 @@
         <translation>問題を報告</translation>
     </message>
     <message>
+        <source>Curves of other programs</source>
+        <translation>他のプログラムのカーブ</translation>
+    </message>
+    <message>
+        <source>Filter lists in, responses and the curve out</source>
+        <translation>フィルターリストの読み込みと、特性・カーブの書き出し</translation>
+    </message>
+    <message>
+        <source>"%1": %2 dB remain on average, %3 dB at most, at %4 Hz</source>
+        <translation>「%1」：残差は平均 %2 dB、最大 %3 dB（%4 Hz）</translation>
+    </message>
+    <message>
+        <source>Import a filter list of Equalizer APO or REW to see what the bands make of it</source>
+        <translation>Equalizer APO または REW のフィルターリストを読み込むと、バンドでの再現が見られます</translation>
+    </message>
+    <message>
+        <source>Import a curve</source>
+        <translation>カーブを読み込む</translation>
+    </message>
+    <message>
+        <source>Filter list (*.txt)</source>
+        <translation>フィルターリスト (*.txt)</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>カーブ</translation>
+    </message>
+    <message>
+        <source>Export the curve for Equalizer APO</source>
+        <translation>Equalizer APO 用にカーブを書き出す</translation>
+    </message>
+    <message>
+        <source>Export the responses of the outputs</source>
+        <translation>各出力の特性を書き出す</translation>
+    </message>
+    <message>
+        <source>Response (*.frd)</source>
+        <translation>特性 (*.frd)</translation>
+    </message>
+    <message>
+        <source>Response, REW (*.txt)</source>
+        <translation>特性、REW (*.txt)</translation>
+    </message>
+    <message>
+        <source>Shows what the bands make of a filter list; Apply puts it in force</source>
+        <translation>フィルターリストをバンドでどう再現するかを表示します。「適用」で有効になります</translation>
+    </message>
+    <message>
+        <source>Makes the curve that is shown the custom curve</source>
+        <translation>表示中のカーブをカスタムカーブにします</translation>
+    </message>
+    <message>
+        <source>Export the curve…</source>
+        <translation>カーブを書き出す…</translation>
+    </message>
+    <message>
+        <source>Writes the equaliser in force as filters</source>
+        <translation>現在のイコライザーをフィルターとして書き出します</translation>
+    </message>
+    <message>
+        <source>Export the responses…</source>
+        <translation>特性を書き出す…</translation>
+    </message>
+    <message>
+        <source>Writes the response of each output and of their sum, a file each: Hz, dB, degrees</source>
+        <translation>各出力とその和の特性を 1 つずつファイルに書き出します：Hz、dB、度</translation>
+    </message>
+    <message>
+        <source>Bands of the equaliser</source>
+        <translation>イコライザーのバンド</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>バンド</translation>
+    </message>
+    <message>
+        <source>In the file</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Taken as</source>
+        <translation>採用値</translation>
+    </message>
+    <message>
+        <source>Left at the band</source>
+        <translation>バンドの残差</translation>
+    </message>
+    <message>
+        <source>Tape measure</source>
+        <translation>メジャー</translation>
+    </message>
+    <message>
+        <source>Distances of the loudspeakers become their delays</source>
+        <translation>スピーカーまでの距離から遅延を求めます</translation>
+    </message>
+    <message>
+        <source>Measure from the listener's head to each loudspeaker</source>
+        <translation>リスナーの頭から各スピーカーまでを測ります</translation>
+    </message>
+    <message>
+        <source>Front left</source>
+        <translation>フロント左</translation>
+    </message>
+    <message>
+        <source>Front right</source>
+        <translation>フロント右</translation>
+    </message>
+    <message>
+        <source>Rear left</source>
+        <translation>リア左</translation>
+    </message>
+    <message>
+        <source>Rear right</source>
+        <translation>リア右</translation>
+    </message>
+    <message>
+        <source>Subwoofer left</source>
+        <translation>サブウーファー左</translation>
+    </message>
+    <message>
+        <source>Subwoofer right</source>
+        <translation>サブウーファー右</translation>
+    </message>
+    <message>
+        <source>Loudspeaker</source>
+        <translation>スピーカー</translation>
+    </message>
+    <message>
+        <source>Centimetres</source>
+        <translation>センチメートル</translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation>インチ</translation>
+    </message>
+    <message>
+        <source>Exact delay</source>
+        <translation>正確な遅延</translation>
+    </message>
+    <message>
+        <source>Rounding</source>
+        <translation>丸め</translation>
+    </message>
+    <message>
+        <source>A loudspeaker is too near for the rest: no delay is longer than %1 ms</source>
+        <translation>近すぎるスピーカーがあります。遅延は最大 %1 ms です</translation>
+    </message>
+    <message>
+        <source>Sets the six delays, as one step</source>
+        <translation>6 つの遅延を 1 ステップで設定します</translation>
+    </message>
+    <message>
+        <source>Temperature</source>
+        <translation>温度</translation>
+    </message>
+    <message>
+        <source>Of the air in the car: sound is faster where it is warm</source>
+        <translation>車内の気温：暖かいほど音は速く進みます</translation>
+    </message>
+    <message>
+        <source>%1 in centimetres</source>
+        <translation>%1（センチメートル）</translation>
+    </message>
+    <message>
+        <source>%1 in inches</source>
+        <translation>%1（インチ）</translation>
+    </message>
+    <message>
         <source>Report a problem…</source>
         <translation>問題を報告…</translation>
     </message>

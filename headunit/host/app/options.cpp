@@ -41,8 +41,12 @@ constexpr OptionRow optionRows[] = {
     {"meters", nullptr, "Print what the loudspeakers and the limiter do, once a second, while the unit plays."},
     {"render", "IN", "Play a sound file under the current settings into another, --render IN.wav OUT.wav, and end."},
     {"measure", "OUT", "Write the response of each output under the current settings to a .csv or .png, and end."},
-    {"export", "FILE", "Write the present set-up into a text file, and end."},
-    {"import", "FILE", "Put the set-up of a text file in force, print what it changes, and end."},
+    {"export", "FILE",
+     "Write the present set-up into a text file (.frd: the response of each output; .peq: the curve as filters), and "
+     "end."},
+    {"import", "FILE",
+     "Put the set-up of a text file, or the curve of a filter list of Equalizer APO or REW, in force, print what it "
+     "changes, and end."},
     {"remote", nullptr, "Let a program of yours control the unit, see --control."},
     {"control", "COMMAND",
      "Have the unit that runs with --remote do a command of scripts, like 'tap(\"key_eq\")', print what it yields, and "

@@ -10,6 +10,7 @@
 
 #include <QAction>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QListWidget>
 #include <QMouseEvent>
 
@@ -60,6 +61,20 @@ int main(int argc, char **argv) {
     auto *const names = unit.openDesk()->panel(QStringLiteral("setups"))->findChild<QListWidget *>();
     names->setCurrentRow(0);
     unit.desk->panel(QStringLiteral("console"));
+    const char *const distances[] = {"92", "128", "105.5", "134", "171", "176"};
+    for (int i = 0; i < 6; ++i) {
+        auto *const spin =
+            unit.desk->panel(QStringLiteral("tape"))->findChild<QDoubleSpinBox *>(QStringLiteral("tape_cm%1").arg(i));
+        spin->setValue(QString::fromLatin1(distances[i]).toDouble());
+    }
+    QFile list(unit.root.filePath(QStringLiteral("living room.txt")));
+    if (list.open(QIODevice::WriteOnly)) {
+        list.write(
+            "Preamp: -4 dB\nFilter 1: ON PK Fc 71 Hz Gain -5.5 dB Q 2.2\nFilter 2: ON PK Fc 1200 Hz Gain 2.4 dB Q 0.9\n"
+            "Filter 3: ON HS Fc 6000 Hz Gain -3 dB\n");
+        list.close();
+    }
+    QMetaObject::invokeMethod(unit.desk->panel(QStringLiteral("curves")), "open", Q_ARG(QString, list.fileName()));
     headunit::Panel *const response = unit.desk->panel(QStringLiteral("response"));
     for (const char *name : {"response_phase", "response_hold"}) {
         response->findChild<QAction *>(QLatin1String(name))->trigger();
