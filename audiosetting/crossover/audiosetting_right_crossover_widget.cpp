@@ -2,6 +2,7 @@
 #include "audiosetting_right_crossover_widget.h"
 
 #include "audioservice.h"
+#include "base/accessibility.h"
 #include "base/buttongroup.h"
 #include "base/debuglog.h"
 #include "base/picture.h"
@@ -374,6 +375,17 @@ void Audiosetting_right_crossover_widget::retranslateUi() {
     m_ui->txt_sub->setText(Translator::translate(texts::subwoofer));
     m_ui->txt_rear->setText(Translator::translate(texts::rear));
     m_ui->txt_level->setText(Translator::translate(texts::level));
+    nameControls({{m_ui->key_front, m_ui->txt_front1, nullptr},
+                  {m_ui->key_rear, m_ui->txt_rear, nullptr},
+                  {m_ui->key_sub, m_ui->txt_sub, nullptr},
+                  {m_ui->key_slope_minus, m_ui->txt_slope, less},
+                  {m_ui->key_slope_plus, m_ui->txt_slope, more},
+                  {m_ui->key_freq_minus, m_ui->txt_freq, less},
+                  {m_ui->key_freq_plus, m_ui->txt_freq, more},
+                  {m_ui->key_level_minus, m_ui->txt_level, less},
+                  {m_ui->key_level_plus, m_ui->txt_level, more},
+                  {m_ui->key_preset_1, m_ui->txt_slope_2, "1"},
+                  {m_ui->key_preset_2, m_ui->txt_slope_2, "2"}});
 }
 
 void Audiosetting_right_crossover_widget::changeEvent(QEvent *event) {

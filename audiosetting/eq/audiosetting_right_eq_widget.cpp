@@ -3,6 +3,7 @@
 
 #include "audioservice.h"
 #include "bandscale.h"
+#include "base/accessibility.h"
 #include "base/debuglog.h"
 #include "base/picture.h"
 #include "base/presetkey.h"
@@ -104,6 +105,7 @@ void Audiosetting_right_eq_widget::showEvent(QShowEvent *event) {
 void Audiosetting_right_eq_widget::retranslateUi() {
     m_presetKeys.updateSaved();
     m_ui->Txt_flat->setText(Translator::translate(texts::flat));
+    nameControls({{m_ui->key_flat, m_ui->Txt_flat, nullptr}});
 }
 
 void Audiosetting_right_eq_widget::changeEvent(QEvent *event) {

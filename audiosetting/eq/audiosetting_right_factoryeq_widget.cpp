@@ -2,6 +2,7 @@
 #include "audiosetting_right_factoryeq_widget.h"
 
 #include "audioservice.h"
+#include "base/accessibility.h"
 #include "base/buttongroup.h"
 #include "base/debuglog.h"
 #include "eqsettings.h"
@@ -50,6 +51,16 @@ void Audiosetting_right_factoryeq_widget::initUi() {
         preset.caption->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
     connect(m_group, SIGNAL(buttonClicked(int)), this, SLOT(onButtoneEqClicked(int)));
+    nameKeys();
+}
+
+void Audiosetting_right_factoryeq_widget::nameKeys() {
+    nameControls({{m_ui->key_Rock, m_ui->txt_Rock, nullptr},
+                  {m_ui->key_hiphop, m_ui->txt_hiphop, nullptr},
+                  {m_ui->key_electronic, m_ui->txt_electronic, nullptr},
+                  {m_ui->key_jazz, m_ui->txt_jazz, nullptr},
+                  {m_ui->key_pop, m_ui->txt_pop, nullptr},
+                  {m_ui->key_flat, m_ui->txt_flat, nullptr}});
 }
 
 void Audiosetting_right_factoryeq_widget::showEvent(QShowEvent *event) {
@@ -154,6 +165,7 @@ void Audiosetting_right_factoryeq_widget::onSetFlatEq() {
 void Audiosetting_right_factoryeq_widget::changeEvent(QEvent *event) {
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        nameKeys();
     }
     QWidget::changeEvent(event);
 }

@@ -45,6 +45,7 @@ private Q_SLOTS:
     void onSetFlatEq();
 
 private:
+    void nameKeys();
     QScopedPointer<Ui::Audiosetting_right_factoryeq_widget> m_ui;
     QButtonGroup *m_group = nullptr;
     QList<AudioEQType> m_types;  ///< by key; also the order in which a custom curve is compared

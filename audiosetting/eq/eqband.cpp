@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "eqband.h"
 
+#include "base/accessibility.h"
 #include "base/picture.h"
 #include "eqtable.h"
 #include "labelbutton.h"
@@ -70,6 +71,7 @@ EqBand::EqBand(int band, QWidget *parent, QImage *&knob) {
     QFont captionFont = parent->font();
     captionFont.setPointSize(captionPointSize);
     caption->setFont(captionFont);
+    nameControls({{m_slider, caption, nullptr}, {m_upKey, caption, more}, {m_downKey, caption, less}});
 }
 
 void EqBand::updateStepKeys() {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "eqpresetkeys.h"
 
+#include "base/accessibility.h"
 #include "base/buttongroup.h"
 #include "base/picture.h"
 #include "base/presetkey.h"
@@ -29,6 +30,7 @@ void EqPresetKeys::updateSaved() {
         const bool saved = eq::presetSaved(preset).flag();
         m_names.at(preset)->setVisible(saved);
         m_emptyPictures.at(preset)->setVisible(!saved);
+        nameControls({{m_group->button(preset), m_names.at(preset), nullptr}});
     }
 }
 

@@ -2,6 +2,7 @@
 #include "eqwidget.h"
 
 #include "audioservice.h"
+#include "base/accessibility.h"
 #include "base/debuglog.h"
 #include "base/look.h"
 #include "base/picture.h"
@@ -137,6 +138,12 @@ void EQWidget::changeEvent(QEvent *event) {
 
 void EQWidget::retranslateUi() {
     m_ui->Txt_reset->setText(Translator::translate(texts::flat));
+    nameControls({{m_ui->key_reset, m_ui->Txt_reset, nullptr},
+                  {m_ui->key_left, m_ui->txt_title, u8"\u2190"},
+                  {m_ui->key_right, m_ui->txt_title, u8"\u2192"}});
+    for (int band = 0; band < eqBandCount; ++band) {
+        m_sliders.at(band)->setAccessibleName(QLatin1String(eq::bandCaption(band)));
+    }
     updateName();
 }
 

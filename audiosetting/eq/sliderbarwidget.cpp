@@ -3,7 +3,9 @@
 
 #include "base/colours.h"
 #include "base/picture.h"
+#include "sliderbaraccess.h"
 
+#include <QAccessible>
 #include <QEvent>
 #include <QImage>
 #include <QMouseEvent>
@@ -40,6 +42,12 @@ template <class Draw> QPixmap sharedPicture(const QString &key, const QSize &siz
     return picture;
 }
 
+/// As long as the library is loaded.
+struct Role {
+    Role() { QAccessible::installFactory(makeSliderBarAccess); }
+    ~Role() { QAccessible::removeFactory(makeSliderBarAccess); }
+};
+
 void drawBar(QPainter &painter, const QRect &rect) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(audiosetting::accentColour));
@@ -49,6 +57,7 @@ void drawBar(QPainter &painter, const QRect &rect) {
 }  // namespace
 
 SliderBarWidget::SliderBarWidget(QWidget *parent) : QWidget(parent) {
+    static const Role role;
     std::fill(m_centerPoints, m_centerPoints + maxCenterPoints, 0);
     std::fill(m_borderPoints, m_borderPoints + maxBorderPoints, 0);
 }

@@ -3,6 +3,7 @@
 
 #include "audioservice.h"
 #include "balancefadercontrol.h"
+#include "base/accessibility.h"
 #include "base/buttongroup.h"
 #include "base/caption.h"
 #include "base/debuglog.h"
@@ -69,6 +70,24 @@ void Audiosetting_right_general_widget::initUi() {
     m_defeatedCaptions.removeOne(m_ui->txt_vol_level);
     m_defeatedCaptions.removeOne(m_ui->text_defeat);
     m_defeatedCaptions.removeOne(m_ui->text_Advanced);
+    nameKeys();
+}
+
+void Audiosetting_right_general_widget::nameKeys() {
+    nameControls({{m_ui->key_advanced, m_ui->text_Advanced, nullptr},
+                  {m_ui->key_defeat, m_ui->text_defeat, nullptr},
+                  {m_ui->key_Subwoofer, m_ui->text_Subwoofer, nullptr},
+                  {m_ui->key_Phase_0, m_ui->text_Phase, u8"0\u00b0"},
+                  {m_ui->key_Phase_180, m_ui->text_Phase, u8"180\u00b0"},
+                  {m_ui->key_subvol_prev, m_ui->text_Subwoofer_3, less},
+                  {m_ui->key_subvol_next, m_ui->text_Subwoofer_3, more},
+                  {m_ui->Key_balance_left, m_ui->txt_bal, u8"\u2190"},
+                  {m_ui->Key_balance_right, m_ui->txt_bal, u8"\u2192"},
+                  {m_ui->Key_fade_rear, m_ui->txt_fad, u8"\u2193"},
+                  {m_ui->Key_fade_front, m_ui->txt_fad, u8"\u2191"}});
+    const QString both = m_ui->txt_bal->text() + QLatin1Char(' ') + m_ui->txt_fad->text();
+    m_pad->setAccessibleName(both);
+    m_ui->Key_update->setAccessibleName(both + QStringLiteral(" 0"));
 }
 
 void Audiosetting_right_general_widget::showEvent(QShowEvent *event) {
@@ -257,6 +276,7 @@ void Audiosetting_right_general_widget::updateAxisButtons(QAbstractButton *plus,
 void Audiosetting_right_general_widget::changeEvent(QEvent *event) {
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        nameKeys();
     }
     QWidget::changeEvent(event);
 }

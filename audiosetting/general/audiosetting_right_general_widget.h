@@ -61,6 +61,7 @@ private Q_SLOTS:
     void onPhaseBtClicked(int id);
 
 private:
+    void nameKeys();
     void setSubwooferLevel(int level);
     void stepBalanceFader(int balanceStep, int faderStep);
     void showBalanceFader();

@@ -2,6 +2,7 @@
 #include "audiosettingsroot.h"
 
 #include "audioservice.h"
+#include "base/accessibility.h"
 #include "base/caption.h"
 #include "base/debuglog.h"
 #include "base/texts.h"
@@ -69,6 +70,10 @@ void AudiosettingsRoot::retranslateUi() {
     m_ui->Txt_003_source_gain->setText(Translator::translate(texts::sourceGain));
     m_ui->Txt_004_vol_settings->setText(Translator::translate(texts::volumeSettings));
     m_ui->Txt_005_res_audio->setText(Translator::translate(texts::resetAudio));
+    nameControls({{m_ui->Key_001_loudness, m_ui->Txt_001_loudness, nullptr},
+                  {m_ui->Key_003_source_gain, m_ui->Txt_003_source_gain, nullptr},
+                  {m_ui->Key_004_vol_settings, m_ui->Txt_004_vol_settings, nullptr},
+                  {m_ui->Key_005_res_audio, m_ui->Txt_005_res_audio, nullptr}});
 }
 
 void AudiosettingsRoot::changeEvent(QEvent *event) {

@@ -2,12 +2,17 @@
 #include "audiosettingstab.h"
 
 #include "base/debuglog.h"
+#include "base/texts.h"
 #include "general/generalsettings.h"
 #include "pageid.h"
 #include "settingscache.h"
+#include "translator.h"
 #include "ui_AudiosettingsTab.h"
 
 #include <QButtonGroup>
+#include <QEvent>
+
+using namespace audiosetting;
 
 namespace {
 const int guardInterval = 150;  // ms in which a second tab click is taken for a slip of the finger
@@ -33,9 +38,27 @@ AudiosettingsTab::AudiosettingsTab(QWidget *parent)
 
     connect(mem::SettingsCache::instance(), SIGNAL(SettingsCacheSig(QString)), this, SLOT(onSettingsCacheSig(QString)));
     updateBtnEn();
+    nameKeys();
 }
 
 AudiosettingsTab::~AudiosettingsTab() {}
+
+void AudiosettingsTab::nameKeys() {
+    // In the order of their ids. They show pictures alone; their names are their pages' titles.
+    const int titles[] = {texts::titleGeneral, texts::titleEq, texts::titleCrossover, texts::titleTiming,
+                          texts::titleFactoryEq};
+    int id = audiosetting::PageGeneral;
+    for (int title : titles) {
+        m_group->button(id++)->setAccessibleName(Translator::translate(title));
+    }
+}
+
+void AudiosettingsTab::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::LanguageChange) {
+        nameKeys();
+    }
+    QWidget::changeEvent(event);
+}
 
 void AudiosettingsTab::showEvent(QShowEvent *event) {
     updateBtnEn();

@@ -29,12 +29,14 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
     void onPageKeyClicked(int iIdex);
     void onSettingsCacheSig(const QString &key);
 
 private:
+    void nameKeys();
     QScopedPointer<Ui::AudiosettingsTab> m_ui;
     QButtonGroup *m_group;
     QTimer m_guard;

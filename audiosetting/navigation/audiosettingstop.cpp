@@ -3,6 +3,7 @@
 
 #include "audioservice.h"
 #include "audiosettingsutils.h"
+#include "base/accessibility.h"
 #include "base/posttouch.h"
 #include "pageid.h"
 #include "ui_AudiosettingsTop.h"
@@ -14,6 +15,7 @@ AudiosettingsTop::AudiosettingsTop(QWidget *parent) : QWidget(parent), m_ui(new 
     // The caption lies over its key: touches go through to the key.
     m_ui->Txt_flat->setAttribute(Qt::WA_TransparentForMouseEvents);
     setBtnResetType(audiosetting::FlatNone);
+    nameKeys();
 }
 
 AudiosettingsTop::~AudiosettingsTop() {}
@@ -52,9 +54,15 @@ void AudiosettingsTop::on_Key_update_clicked() {
     }
 }
 
+void AudiosettingsTop::nameKeys() {
+    // The names of Back and Close are the form's.
+    audiosetting::nameControls({{m_ui->Key_update, m_ui->Txt_flat, nullptr}});
+}
+
 void AudiosettingsTop::changeEvent(QEvent *event) {
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        nameKeys();
     }
     QWidget::changeEvent(event);
 }

@@ -35,6 +35,7 @@ private Q_SLOTS:
     void on_Key_update_clicked();
 
 private:
+    void nameKeys();
     QScopedPointer<Ui::AudiosettingsTop> m_ui;
     int m_btnResetType = 0;
 };

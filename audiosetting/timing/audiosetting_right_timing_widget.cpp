@@ -2,6 +2,7 @@
 #include "audiosetting_right_timing_widget.h"
 
 #include "audioservice.h"
+#include "base/accessibility.h"
 #include "base/buttongroup.h"
 #include "base/debuglog.h"
 #include "base/picture.h"
@@ -118,6 +119,26 @@ void Audiosetting_right_timing_widget::initUi() {
             light->follow(controls.plus, place);
         }
     }
+    nameKeys();
+}
+
+void Audiosetting_right_timing_widget::nameKeys() {
+    nameControls({{m_ui->key_fl_minus, m_ui->txt_fl, less},
+                  {m_ui->key_fl_plus, m_ui->txt_fl, more},
+                  {m_ui->key_fr_minus, m_ui->txt_fr, less},
+                  {m_ui->key_fr_plus, m_ui->txt_fr, more},
+                  {m_ui->key_rl_minus, m_ui->txt_rl, less},
+                  {m_ui->key_rl_plus, m_ui->txt_rl, more},
+                  {m_ui->key_rr_minus, m_ui->txt_rr, less},
+                  {m_ui->key_rr_plus, m_ui->txt_rr, more},
+                  {m_ui->key_sl_minus, m_ui->txt_sl, less},
+                  {m_ui->key_sl_plus, m_ui->txt_sl, more},
+                  {m_ui->key_sr_minus, m_ui->txt_sr, less},
+                  {m_ui->key_sr_plus, m_ui->txt_sr, more},
+                  {m_ui->key_msec, m_ui->txt_msec, nullptr},
+                  {m_ui->key_inches, m_ui->txt_inches, nullptr},
+                  {m_ui->key_preset_1, m_ui->txt_presets, "1"},
+                  {m_ui->key_preset_2, m_ui->txt_presets, "2"}});
 }
 
 void Audiosetting_right_timing_widget::showEvent(QShowEvent *event) {
@@ -320,6 +341,7 @@ QAbstractButton *Audiosetting_right_timing_widget::presetKey(int preset) const {
 void Audiosetting_right_timing_widget::changeEvent(QEvent *event) {
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        nameKeys();
     }
     QWidget::changeEvent(event);
 }

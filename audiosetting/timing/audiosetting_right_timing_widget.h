@@ -94,6 +94,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void nameKeys();
     void reload();
     const TimeDelayEntity *entity(int output) const;
     void minusClicked(int output);

@@ -3,6 +3,7 @@
 
 #include "audioservice.h"
 #include "audiosettingsutils.h"
+#include "base/accessibility.h"
 #include "base/picture.h"
 #include "base/texts.h"
 #include "crossover/crossoversettings.h"
@@ -149,6 +150,7 @@ void Audiosettingsreset::showEvent(QShowEvent *event) {
 
 void Audiosettingsreset::changeEvent(QEvent *event) {
     if (event->type() == QEvent::LanguageChange) {
+        m_ui->retranslateUi(this);
         retranslateUi();
     }
     QWidget::changeEvent(event);
@@ -165,6 +167,7 @@ void Audiosettingsreset::retranslateUi() {
     m_ui->Txt_accept->setText(Translator::translate(texts::resetYes));
     m_ui->txt_Title->setText(Translator::translate(texts::resetAlert));
     m_ui->txt_reset_success->setText(Translator::translate(texts::resetDone));
+    nameControls({{m_ui->Key_accept, m_ui->Txt_accept, nullptr}});  // that of Cancel is the form's
 }
 
 void Audiosettingsreset::setAsking(bool asking) {

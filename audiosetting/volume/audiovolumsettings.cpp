@@ -2,6 +2,7 @@
 #include "audiovolumsettings.h"
 
 #include "audioservice.h"
+#include "base/accessibility.h"
 #include "base/debuglog.h"
 #include "base/touchpagerequest.h"
 #include "horizontalslider.h"
@@ -49,6 +50,7 @@ void Audiovolumsettings::initUi() {
     const struct {
         RowId id;
         int type;
+        const QLabel *caption;
         const QLabel *placeholder;
         const char *sliderSlot;
         cm::LabelButton *plus;
@@ -56,20 +58,21 @@ void Audiovolumsettings::initUi() {
         cm::LabelButton *minus;
         const char *minusSlot;
     } rows[] = {
-        {Main, volume::Main, m_ui->mainvolumeslider, SLOT(onMainVolumeSliderChanged(int, int)), m_ui->key_main_plus,
-         SLOT(onMainVolumPlus()), m_ui->key_main_minus, SLOT(onMainVolumMinus())},
-        {Phone, volume::Phone, m_ui->phonevolumeslider, SLOT(onPhoneVolSliderChanged(int, int)),
+        {Main, volume::Main, m_ui->txt_MainVolume, m_ui->mainvolumeslider, SLOT(onMainVolumeSliderChanged(int, int)),
+         m_ui->key_main_plus, SLOT(onMainVolumPlus()), m_ui->key_main_minus, SLOT(onMainVolumMinus())},
+        {Phone, volume::Phone, m_ui->txt_Phone_Volume, m_ui->phonevolumeslider, SLOT(onPhoneVolSliderChanged(int, int)),
          m_ui->key_phone_volume_plus, SLOT(onPhoneVolumPlus()), m_ui->key_phone_volume_minus,
          SLOT(onPhoneVolumMinus())},
-        {Voice, volume::Voice, m_ui->voicevolumeslider, SLOT(onVoiceVolSliderChanged(int, int)),
+        {Voice, volume::Voice, m_ui->txt_Voice_volume, m_ui->voicevolumeslider, SLOT(onVoiceVolSliderChanged(int, int)),
          m_ui->key_voice_volume_plus, SLOT(onVoiceVolumPlus()), m_ui->key_voice_volume_minus,
          SLOT(onVoiceVolumMinus())},
-        {Navigation, volume::Navigation, m_ui->navivolumeslider, SLOT(onNaviVolSliderChanged(int, int)),
-         m_ui->key_navig_volume_plus, SLOT(onNaviVolumPlus()), m_ui->key_navig_volume_minus, SLOT(onNaviVolumMinus())},
-        {Ringtone, volume::Ringtone, m_ui->Ringtonevolumeslider, SLOT(onRingtoneVolSliderChanged(int, int)),
-         m_ui->key_ringtone_volume_plus, SLOT(onRingtoneVolumPlus()), m_ui->key_ringtone_volume_minus,
-         SLOT(onRingtoneVolumMinus())},
-        {Ta, volume::Announcements, m_ui->TAvolumeslider, SLOT(onTAVolSliderChanged(int, int)),
+        {Navigation, volume::Navigation, m_ui->txt_navigation_volume, m_ui->navivolumeslider,
+         SLOT(onNaviVolSliderChanged(int, int)), m_ui->key_navig_volume_plus, SLOT(onNaviVolumPlus()),
+         m_ui->key_navig_volume_minus, SLOT(onNaviVolumMinus())},
+        {Ringtone, volume::Ringtone, m_ui->txt_rigtone_volume, m_ui->Ringtonevolumeslider,
+         SLOT(onRingtoneVolSliderChanged(int, int)), m_ui->key_ringtone_volume_plus, SLOT(onRingtoneVolumPlus()),
+         m_ui->key_ringtone_volume_minus, SLOT(onRingtoneVolumMinus())},
+        {Ta, volume::Announcements, m_ui->txt_ta_volume, m_ui->TAvolumeslider, SLOT(onTAVolSliderChanged(int, int)),
          m_ui->key_ta_volume_plus, SLOT(onTAVolumPlus()), m_ui->key_ta_volume_minus, SLOT(onTAVolumMinus())},
     };
     const SliderLook look = {volume::minLevel, volume::maxLevel + 1,
@@ -77,6 +80,7 @@ void Audiovolumsettings::initUi() {
     for (const auto &form : rows) {
         Row &row = m_rows[form.id];
         row.type = form.type;
+        row.caption = form.caption;
         row.plus = form.plus;
         row.minus = form.minus;
         // Only Main's slider outlives another call, and the scroll bar comes between its making and its looks.
@@ -91,12 +95,20 @@ void Audiovolumsettings::initUi() {
         configureSlider(row.slider, look);
         connect(row.slider, SIGNAL(valueChanged(int, int)), this, form.sliderSlot);
     }
+    nameKeys();
     load();
     for (const auto &form : rows) {
         connect(form.plus, SIGNAL(clicked()), this, form.plusSlot);
         connect(form.minus, SIGNAL(clicked()), this, form.minusSlot);
     }
     connect(m_audioService, SIGNAL(audioVolumeChanged(int, int, int)), this, SLOT(onAudioVolumeChange(int, int, int)));
+}
+
+void Audiovolumsettings::nameKeys() {
+    for (const Row &row : m_rows) {
+        nameControls(
+            {{row.slider, row.caption, nullptr}, {row.minus, row.caption, less}, {row.plus, row.caption, more}});
+    }
 }
 
 void Audiovolumsettings::showEvent(QShowEvent *event) {
@@ -117,6 +129,7 @@ void Audiovolumsettings::hideEvent(QHideEvent *event) {
 void Audiovolumsettings::changeEvent(QEvent *event) {
     if (event->type() == QEvent::LanguageChange) {
         m_ui->retranslateUi(this);
+        nameKeys();
     }
     QWidget::changeEvent(event);
 }

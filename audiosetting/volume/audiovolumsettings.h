@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class HorizontalSlider;
+class QLabel;
 
 namespace Ui {
 class Audiovolumsettings;
@@ -71,10 +72,12 @@ private Q_SLOTS:
     void onAudioVolumeChange(int mute, int vol, int type);
 
 private:
+    void nameKeys();
     /// The rows, in the order in which they are loaded.
     enum RowId { Main, Ringtone, Phone, Navigation, Voice, Ta, RowCount };
     struct Row {
         int type = 0;  ///< the channel's number in the services and in its key
+        const QLabel *caption = nullptr;
         HorizontalSlider *slider = nullptr;
         int level = 0;
         cm::LabelButton *minus = nullptr;

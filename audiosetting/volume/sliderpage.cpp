@@ -8,6 +8,7 @@
 
 #include <QLabel>
 #include <QScrollArea>
+#include <QVariant>
 
 namespace audiosetting {
 
@@ -43,6 +44,8 @@ HorizontalSlider *createSlider(const QLabel *placeholder) {
 void configureSlider(HorizontalSlider *slider, const SliderLook &look) {
     slider->setShowSlider(true);
     slider->setFreqRange(look.min, look.end);
+    slider->setProperty("minimum", look.min);
+    slider->setProperty("maximum", look.end - 1);
     slider->addSliderImage(QStringLiteral(":/corvina_volume_slider/key_volume_slider.png"));
     slider->setAddPage(QStringLiteral(":/corvina_volume_slider/volume_slider_bar_p_3.png"));
     slider->setSubPage(look.subPage);

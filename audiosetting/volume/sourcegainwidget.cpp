@@ -2,6 +2,7 @@
 #include "sourcegainwidget.h"
 
 #include "audioservice.h"
+#include "base/accessibility.h"
 #include "horizontalslider.h"
 #include "mcuservice.h"
 #include "scrollbar.h"
@@ -72,6 +73,11 @@ void SourceGainWidget::retranslateUi() {
         if (row.textId != 0) {
             row.caption->setText(Translator::translate(row.textId));
         }
+    }
+    for (int id = 0; id < RowCount; ++id) {
+        const Row &row = m_rows[id];
+        nameControls(
+            {{m_sliders[id], row.caption, nullptr}, {row.minus, row.caption, less}, {row.plus, row.caption, more}});
     }
 }
 

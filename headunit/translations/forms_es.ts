@@ -38,6 +38,14 @@
         <source>Flat</source>
         <translation>Plano</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
 </context>
 <context>
     <name>Audiosetting_right_eq_widget</name>
@@ -207,6 +215,17 @@
     <message>
         <source>16KHz</source>
         <translation>16 kHz</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>Audiosettingsreset</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
 </context>
 </TS>

@@ -267,5 +267,21 @@
         <source>Tuner's desk</source>
         <translation>Abstimmplatz</translation>
     </message>
+    <message id="20039">
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message id="20040">
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message id="20041">
+        <source>Volume</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message id="20042">
+        <source>Mute</source>
+        <translation>Stummschaltung</translation>
+    </message>
 </context>
 </TS>

@@ -267,5 +267,21 @@
         <source>Tuner's desk</source>
         <translation>Tuner's desk</translation>
     </message>
+    <message id="20039">
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message id="20040">
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+    <message id="20041">
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message id="20042">
+        <source>Mute</source>
+        <translation>Mute</translation>
+    </message>
 </context>
 </TS>

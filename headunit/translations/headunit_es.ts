@@ -267,5 +267,21 @@
         <source>Tuner's desk</source>
         <translation>Mesa de ajuste</translation>
     </message>
+    <message id="20039">
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message id="20040">
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message id="20041">
+        <source>Volume</source>
+        <translation>Volumen</translation>
+    </message>
+    <message id="20042">
+        <source>Mute</source>
+        <translation>Silencio</translation>
+    </message>
 </context>
 </TS>

@@ -267,5 +267,21 @@
         <source>Tuner's desk</source>
         <translation>Poste de réglage</translation>
     </message>
+    <message id="20039">
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message id="20040">
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message id="20041">
+        <source>Volume</source>
+        <translation>Volume</translation>
+    </message>
+    <message id="20042">
+        <source>Mute</source>
+        <translation>Muet</translation>
+    </message>
 </context>
 </TS>

@@ -267,5 +267,21 @@
         <source>Tuner's desk</source>
         <translation>調整デスク</translation>
     </message>
+    <message id="20039">
+        <source>Home</source>
+        <translation>ホーム</translation>
+    </message>
+    <message id="20040">
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message id="20041">
+        <source>Volume</source>
+        <translation>音量</translation>
+    </message>
+    <message id="20042">
+        <source>Mute</source>
+        <translation>消音</translation>
+    </message>
 </context>
 </TS>

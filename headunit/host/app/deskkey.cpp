@@ -27,6 +27,7 @@ DeskKey::DeskKey(QWidget *parent) : QAbstractButton(parent) {
     setObjectName(QStringLiteral("key_desk"));
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setAccessibleName(Translator::translate(texts::tunersDesk));
 }
 
 bool DeskKey::event(QEvent *event) {
@@ -34,6 +35,9 @@ bool DeskKey::event(QEvent *event) {
         QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
                            Translator::translate(texts::tunersDesk) + QStringLiteral(" (F12)"), this);
         return true;
+    }
+    if (event->type() == QEvent::LanguageChange) {
+        setAccessibleName(Translator::translate(texts::tunersDesk));
     }
     return QAbstractButton::event(event);
 }

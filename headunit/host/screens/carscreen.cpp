@@ -45,9 +45,11 @@ CarScreen::CarScreen(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("car"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setGeometry(0, 0, look::screenWidth, look::screenHeight);
-    addStepper(SourceRow, {"car_source_prev", "prev"}, {"car_source_next", "next"}, &CarScreen::stepSource);
-    addStepper(ChannelRow, {"car_channel_prev", "prev"}, {"car_channel_next", "next"}, &CarScreen::stepChannel);
-    addStepper(LevelRow, {"car_level_minus", "minus"}, {"car_level_plus", "plus"}, &CarScreen::stepLevel);
+    addStepper(SourceRow, texts::source, {"car_source_prev", "prev"}, {"car_source_next", "next"},
+               &CarScreen::stepSource);
+    addStepper(ChannelRow, texts::channel, {"car_channel_prev", "prev"}, {"car_channel_next", "next"},
+               &CarScreen::stepChannel);
+    addStepper(LevelRow, texts::level, {"car_level_minus", "minus"}, {"car_level_plus", "plus"}, &CarScreen::stepLevel);
     addLanguages();
     addPrompts();
     addActions();
@@ -55,11 +57,13 @@ CarScreen::CarScreen(QWidget *parent) : QWidget(parent) {
     connect(qvaudio::AudioService::instance(), &qvaudio::AudioService::audioVolumeChanged, this, [this] { update(); });
 }
 
-void CarScreen::addStepper(int row, const StepKey &down, const StepKey &up, void (CarScreen::*step)(int)) {
+void CarScreen::addStepper(int row, int captionTextId, const StepKey &down, const StepKey &up,
+                           void (CarScreen::*step)(int)) {
     const QRect area = rowRect(row);
     const auto add = [&](const StepKey &stepKey, int x, int by) {
         Key *key = new Key(QString::fromLatin1(stepKey.name), QRect(x, area.y(), look::keySize, look::keySize), this);
         key->setPicture(QString::fromLatin1(stepKey.picture));
+        key->setNameTextId(captionTextId, by < 0 ? QString(QChar(0x2212)) : QStringLiteral("+"));
         connect(key, &Key::clicked, this, [this, step, by] { (this->*step)(by); });
     };
     add(down, area.left(), -1);

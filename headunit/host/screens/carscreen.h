@@ -39,7 +39,7 @@ private:
         const char *name;
         const char *picture;
     };
-    void addStepper(int row, const StepKey &down, const StepKey &up, void (CarScreen::*step)(int));
+    void addStepper(int row, int captionTextId, const StepKey &down, const StepKey &up, void (CarScreen::*step)(int));
     void addLanguages();
     void addPrompts();
     void addActions();

@@ -3,6 +3,7 @@
 
 #include "headunit/host/screens/key.h"
 #include "headunit/host/screens/look.h"
+#include "headunit/host/screens/texts.h"
 #include "keyevent.h"
 
 #include <QPainter>
@@ -22,14 +23,16 @@ struct HardKeyRow {
     const char *picture;
     int key;
     bool repeats;
+    int nameTextId;
+    const char *action;
 };
 
 constexpr HardKeyRow rows[] = {
-    {"hardkey_home", "home", KeyEvent::Home, false},
-    {"hardkey_back", "back", KeyEvent::Back, false},
-    {"hardkey_volume_up", "volume_up", KeyEvent::VolumeUp, true},
-    {"hardkey_volume_down", "volume_down", KeyEvent::VolumeDown, true},
-    {"hardkey_mute", "mute", KeyEvent::Mute, false},
+    {"hardkey_home", "home", KeyEvent::Home, false, texts::hardHome, ""},
+    {"hardkey_back", "back", KeyEvent::Back, false, texts::hardBack, ""},
+    {"hardkey_volume_up", "volume_up", KeyEvent::VolumeUp, true, texts::hardVolume, "+"},
+    {"hardkey_volume_down", "volume_down", KeyEvent::VolumeDown, true, texts::hardVolume, u8"\u2212"},
+    {"hardkey_mute", "mute", KeyEvent::Mute, false, texts::hardMute, ""},
 };
 
 }  // namespace
@@ -44,6 +47,7 @@ HardKeys::HardKeys(const QRect &geometry, QWidget *parent) : QWidget(parent) {
     for (const HardKeyRow &row : rows) {
         Key *key = new Key(QString::fromLatin1(row.name), QRect(side, y, look::keySize, keyHeight), this);
         key->setPicture(QString::fromLatin1(row.picture));
+        key->setNameTextId(row.nameTextId, QString::fromUtf8(row.action));
         key->setAutoRepeat(row.repeats);
         key->setAutoRepeatDelay(repeatDelay);
         key->setAutoRepeatInterval(repeatInterval);

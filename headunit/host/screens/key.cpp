@@ -2,6 +2,7 @@
 #include "headunit/host/screens/key.h"
 
 #include "audioservice.h"
+#include "headunit/host/screens/keyaccess.h"
 #include "headunit/host/screens/look.h"
 #include "translator.h"
 
@@ -18,6 +19,8 @@ constexpr int captionBelowPicture = 64;  ///< height at the foot of a key for th
 }  // namespace
 
 Key::Key(const QString &name, const QRect &geometry, QWidget *parent) : QAbstractButton(parent) {
+    static const bool roleIsKnown = (QAccessible::installFactory(makeKeyAccess), true);
+    Q_UNUSED(roleIsKnown)
     setObjectName(name);
     setGeometry(geometry);
     setFocusPolicy(Qt::NoFocus);
@@ -32,6 +35,19 @@ void Key::setTextId(int id) {
 void Key::setPicture(const QString &name) {
     m_picture = name;
     update();
+}
+
+void Key::setNameTextId(int id, const QString &action) {
+    m_nameTextId = id;
+    m_nameAction = action;
+}
+
+QString Key::name() const {
+    if (!m_nameTextId) {
+        return caption();
+    }
+    const QString text = Translator::translate(m_nameTextId);
+    return m_nameAction.isEmpty() ? text : text + QLatin1Char(' ') + m_nameAction;
 }
 
 void Key::setWarns(bool warns) {

@@ -18,6 +18,12 @@ public:
     /// Shows the host's pictures name_n and, while pressed, name_p.
     void setPicture(const QString &name);
 
+    /// What a key is called that shows a picture alone, or whose caption stands beside it: the text of that id, and
+    /// what the key does to it.
+    void setNameTextId(int id, const QString &action = QString());
+    /// What screen readers call the key, in the language in force.
+    QString name() const;
+
     /// Gives the key the warm edge: what it does is not done lightly.
     void setWarns(bool warns);
 
@@ -30,6 +36,8 @@ private:
     QString caption() const;
 
     int m_textId = 0;
+    int m_nameTextId = 0;
+    QString m_nameAction;
     QString m_picture;
     bool m_warns = false;
 };

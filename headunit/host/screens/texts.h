@@ -19,6 +19,12 @@ constexpr int callInProgress = 20010;
 constexpr int bandAdjust = 20018;
 constexpr int tunersDesk = 20019;
 
+// Names of the hard keys, which show pictures
+constexpr int hardHome = 20039;
+constexpr int hardBack = 20040;
+constexpr int hardVolume = 20041;
+constexpr int hardMute = 20042;
+
 struct Channel {
     int type;  ///< as the audio service counts
     int textId;

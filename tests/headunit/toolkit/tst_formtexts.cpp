@@ -83,6 +83,12 @@ private:
             } else if (property == "text" && kind == "string") {
                 text.translated = m_xml.attributes().value("notr") != QLatin1String("true");
                 text.text = m_xml.readElementText();
+            } else if (property == "accessibleName" && kind == "string") {
+                FormText name = text;  // read out, not shown: it has room
+                name.room = QSize(10000, 10000);
+                name.translated = true;
+                name.text = m_xml.readElementText();
+                m_texts << name;
             } else if (property == "wordWrap") {
                 text.wraps = m_xml.readElementText() == "true";
             } else {
