@@ -13,11 +13,13 @@ class TestPlays : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void playsLive();
+    void playsUnderAScript();
+    void saysThatItDoesNotPlayOffscreen();
     void findsTheServerOfASessionWithoutAFolder();
     void saysHowLoudAFileBecame();
 
 private:
-    void start(QProcess *unit, const QStringList &arguments);
+    void start(QProcess *unit, const QStringList &arguments, const char *platform = "offscreen");
 
     QTemporaryDir m_folder;
 };
@@ -37,9 +39,9 @@ void TestPlays::initTestCase() {
     soundfiletest::write(m_folder.filePath("in.wav").toStdString(), soundfiletest::tone(48000, 2, 1000, 0.1, 0.5012));
 }
 
-void TestPlays::start(QProcess *unit, const QStringList &arguments) {
+void TestPlays::start(QProcess *unit, const QStringList &arguments, const char *platform) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.insert("QT_QPA_PLATFORM", platform);
     environment.insert("HOME", m_folder.path());  // a client keeps its cookie there
     environment.insert("PULSE_SERVER", QString::fromLocal8Bit(SoundServer::address(m_folder)));
     unit->setProcessEnvironment(environment);
@@ -64,6 +66,37 @@ void TestPlays::playsLive() {
     unit.terminate();
     QVERIFY(unit.waitForFinished(patience));
     QCOMPARE(unit.readAllStandardError(), QByteArray());
+}
+
+void TestPlays::playsUnderAScript() {
+    SoundServer server(m_folder);
+    QTRY_VERIFY_WITH_TIMEOUT(server.answers(), patience);
+    server.plugIn("car", SoundServer::sixChannels);
+    QFile script(m_folder.filePath("patient.js"));
+    QVERIFY(script.open(QFile::WriteOnly));
+    script.write("for (;;) { wait(20); }\n");
+    script.close();
+    QProcess unit;
+    // A display that is no screen, but where time is the clock's.
+    start(&unit, {"--script", "patient.js", "--play", "in.wav", "--meters"}, "minimal");
+    QStringList lines;
+    const auto steady = [&lines] { return !lines.isEmpty() && meters.match(lines.last()).hasMatch(); };
+    while (!steady() && (unit.canReadLine() || unit.waitForReadyRead(patience))) {
+        while (unit.canReadLine()) {
+            lines << QString::fromLatin1(unit.readLine()).trimmed();
+        }
+    }
+    QVERIFY2(steady(), qPrintable(lines.join('\n') + QString::fromLocal8Bit(unit.readAllStandardError())));
+    unit.terminate();
+    QVERIFY(unit.waitForFinished(patience));
+}
+
+void TestPlays::saysThatItDoesNotPlayOffscreen() {
+    QProcess unit;
+    start(&unit, {"--script", "in.wav", "--play", "silence"});
+    QVERIFY(unit.waitForFinished(patience));
+    QCOMPARE(unit.exitCode(), 2);
+    QVERIFY(unit.readAllStandardError().contains("--script plays on a display only"));
 }
 
 void TestPlays::findsTheServerOfASessionWithoutAFolder() {

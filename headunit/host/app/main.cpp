@@ -101,6 +101,19 @@ int runSoundJob(const SoundJob &job) {
     return reason.isEmpty() ? exitGood : refuse(reason);
 }
 
+/// What plays while the unit is shown; why nothing does is a line on standard error.
+std::unique_ptr<QObject> soundOf(const Options &options, SoundMonitor **monitor) {
+    QString silentBecause;
+    std::unique_ptr<QObject> sound(startSound(options.playJob, &silentBecause, monitor));
+    if (!silentBecause.isEmpty()) {
+        std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
+    }
+    if (!sound) {
+        SoundModel::instance().setFault(SoundFault::NoLibrary);
+    }
+    return sound;
+}
+
 int runUnit(const Options &options, HostApplication &application, MoveTime moveTime) {
     Watchdog watchdog(
         std::chrono::milliseconds(qRound64(1000 * (options.watchdog < 0 ? usualWatch : options.watchdog))),
@@ -175,21 +188,16 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
         if (!options.exitWhenShown) {
             // After the first screen
             QTimer::singleShot(0, &application, [&sound, &target, &desk, &options] {
-                QString silentBecause;
                 SoundMonitor *monitor = nullptr;
-                sound.reset(startSound(options.playJob, &silentBecause, &monitor));
+                sound = soundOf(options, &monitor);
                 target.setSound(sound.get());
                 desk.setSound(sound.get(), monitor);
-                if (!silentBecause.isEmpty()) {
-                    std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
-                }
-                if (!sound) {
-                    SoundModel::instance().setFault(SoundFault::NoLibrary);
-                }
             });
         }
         return application.exec();
     }
+    SoundMonitor *monitor = nullptr;
+    const std::unique_ptr<QObject> sound = options.sounds ? soundOf(options, &monitor) : nullptr;
     DeskScriptTarget target(window, unit, moveTime);
     target.wait(0);
     const int result = runScript(target, options.script, options.tour);
@@ -218,6 +226,11 @@ int main(int argc, char **argv) {
     const QString problem = fileProblem(options);
     if (!problem.isEmpty()) {
         return refuse(problem);
+    }
+    if (options.scripted() && options.sounds && usesNoDisplay()) {
+        return refuse(
+            QStringLiteral("--script plays on a display only, for offscreen its time is not the clock's; "
+                           "--remote plays and takes a script's commands"));
     }
 
     // Lines must not be lost, nor change their order, when the process is ended from outside.

@@ -122,6 +122,12 @@ QString problem(const QCommandLineParser &parser) {
     if (given.size() > 1) {
         return QStringLiteral("%1 do not go together").arg(given.join(QStringLiteral(" and ")));
     }
+    // A script that is seen is heard as well; the others show nothing, or in no time at all.
+    for (const char *name : {"play", "meters"}) {
+        if (parser.isSet(QString::fromLatin1(name)) && !given.isEmpty() && given.first() != QLatin1String("--script")) {
+            return QStringLiteral("--%1 and %2 do not go together").arg(QLatin1String(name), given.first());
+        }
+    }
     if (parser.isSet(QStringLiteral("remote")) && !given.isEmpty()) {
         return QStringLiteral("--remote and %1 do not go together").arg(given.first());
     }
@@ -165,6 +171,7 @@ ParsedOptions parseOptions(const QStringList &arguments) {
     options.playJob.device = parser.value(QStringLiteral("device"));
     options.playJob.map = parser.value(QStringLiteral("map"));
     options.playJob.meters = parser.isSet(QStringLiteral("meters"));
+    options.sounds = parser.isSet(QStringLiteral("play")) || options.playJob.meters;
     options.soundJob.renderFrom = parser.value(QStringLiteral("render"));
     if (!options.soundJob.renderFrom.isEmpty()) {
         options.soundJob.renderTo = options.plugins.takeFirst();

@@ -19,6 +19,7 @@ struct Options {
     QString script;              ///< script to run
     QString tour;                ///< folder that the tour's pictures go to; empty: no tour
     PlayJob playJob;             ///< what sounds while the unit is shown
+    bool sounds = false;         ///< --play or --meters is given: a script is to be heard, too
     SoundJob soundJob;           ///< what to do with the sound instead of showing the unit
     QString exportTo;            ///< file that the set-up goes to
     QString importFrom;          ///< file that a set-up is taken from

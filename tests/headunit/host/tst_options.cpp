@@ -139,6 +139,8 @@ void TestOptions::refuses_data() {
     row("import and script", "--import a --script b", "--script and --import");
     row("control and script", "--control a --script b", "--script and --control");
     row("control without a command", "--control", "--control");
+    row("tour and play", "--tour a --play music", "--play and --tour");
+    row("measure and meters", "--measure a.csv --meters", "--meters and --measure");
     row("remote and script", "--remote --script b", "--remote and --script");
     row("export without a file", "--export", "--export");
     row("render and measure", "--render a --measure b c", "--render and --measure");
