@@ -34,7 +34,8 @@ install(FILES ${CMAKE_BINARY_DIR}/AudioSettingsConfig.cmake ${CMAKE_BINARY_DIR}/
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/conformance ${CMAKE_SOURCE_DIR}/platform DESTINATION ${dev_kit_dir} COMPONENT dev)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/examples/carunit DESTINATION ${dev_kit_dir}/examples COMPONENT dev)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/porting.md DESTINATION ${dev_kit_dir} COMPONENT dev)
-install(FILES ${CMAKE_CURRENT_LIST_DIR}/ForeignHeadUnit.cmake DESTINATION ${dev_kit_dir}/cmake COMPONENT dev)
+install(FILES ${CMAKE_CURRENT_LIST_DIR}/ForeignHeadUnit.cmake ${CMAKE_CURRENT_LIST_DIR}/contract.cpp
+    DESTINATION ${dev_kit_dir}/cmake COMPONENT dev)
 
 file(GLOB documents CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/*)
 install(FILES ${documents} DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/audiosettings/docs COMPONENT doc)

@@ -42,6 +42,46 @@ foreach(name libunit.a libunit.so.1.2)
     endif()
 endforeach()
 
+# refused(WHAT EXPECTED): the SDK in ${unusable} is refused with a line that matches.
+function(refused what expected)
+    configure(${unusable} code output)
+    if(code EQUAL 0 OR NOT output MATCHES "${expected}")
+        message(FATAL_ERROR "An SDK with ${what} was not refused by its name:\n${output}")
+    endif()
+endfunction()
+
+# altered(HEADER FROM TO): a header of the unusable SDK in other words.
+function(altered header from to)
+    file(READ ${SOURCE}/platform/${header} text)
+    string(REPLACE "${from}" "${to}" changed "${text}")
+    if(changed STREQUAL text)
+        message(FATAL_ERROR "${header} has no ${from}")
+    endif()
+    file(WRITE ${unusable}/include/${header} "${changed}")
+endfunction()
+
+altered(labelbutton.h "LabelButton" "LabelKey")
+refused("a class missing" "does not allow what platform/ says: [^;]*LabelButton")
+file(COPY ${SOURCE}/platform/labelbutton.h DESTINATION ${unusable}/include)
+altered(horizontalslider.h "void setValue(int value);" "void setValue(const QWidget &value);")
+refused("another signature" "does not allow what platform/ says: object.setValue.arg<int>")
+altered(horizontalslider.h "void valueChanged(int index, int value);" "void valueChanged(int value);")
+refused("another signal" "does not allow what platform/ says: [^;]*HorizontalSlider::valueChanged")
+file(COPY ${SOURCE}/platform/horizontalslider.h DESTINATION ${unusable}/include)
+
+file(GLOB library ${SDK}/lib/*.so)
+list(GET library 0 library)
+file(REMOVE_RECURSE ${unusable}/lib)
+file(MAKE_DIRECTORY ${unusable}/lib)
+foreach(place_and_byte "4 1" "18 3")  # 32 bits, and an old processor
+    separate_arguments(place_and_byte)
+    list(GET place_and_byte 0 place)
+    list(GET place_and_byte 1 byte)
+    execute_process(COMMAND sh -c "cp '${library}' '${unusable}/lib/libunit.so' && printf '\\00${byte}' |
+        dd of='${unusable}/lib/libunit.so' bs=1 seek=${place} conv=notrunc 2>/dev/null" COMMAND_ERROR_IS_FATAL ANY)
+    refused("a library of another kind" "libunit.so is of another processor or word length")
+endforeach()
+
 configure(${SDK} code output)
 if(NOT code EQUAL 0)
     message(FATAL_ERROR "Cannot configure against ${SDK}:\n${output}")
