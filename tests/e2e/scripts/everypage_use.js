@@ -34,7 +34,7 @@ tab("key_crossover");
 
 // Timing
 tab("key_timing");
-["key_fl_plus", "key_fr_plus", "key_fr_plus", "key_sr_plus"].forEach(use);
+["key_fl_plus", "key_fr_plus", "key_fr_plus", "key_sr_plus"].forEach((key) => use(key));
 expect(sound().delay.join() === "1,2,0,0,0,1");
 
 // Factory EQ, then bands drawn with a finger
