@@ -3,6 +3,7 @@
 
 #include "headunit/audio/engine/equaliser.h"
 #include "headunit/audio/engine/measurement.h"
+#include "headunit/audio/engine/response.h"
 #include "headunit/audio/live/outputnames.h"
 #include "headunit/audio/service/soundtables.h"
 #include "headunit/settings/audiokeys.h"
@@ -122,7 +123,8 @@ QString writeCurve(const QString &path, const SoundState &state) {
 }
 
 QString writeResponses(const QString &path, const SoundState &state) {
-    const std::vector<engine::MeasuredPoint> points = engine::measure(state, engine::audibleFrequencies());
+    const std::vector<engine::MeasuredPoint> points =
+        engine::calculateResponse(engine::designParameters(state), engine::audibleFrequencies());
     const QFileInfo info(path);
     const QString suffix = info.suffix().isEmpty() ? QStringLiteral("frd") : info.suffix();
     const QString stem = info.path() + QLatin1Char('/') + info.completeBaseName();

@@ -15,7 +15,7 @@ namespace headunit {
 
 namespace {
 
-constexpr int mostRows = 20000;  // of the trace, the newest: some megabytes before they are packed
+constexpr int mostRows = 5000;  // of the trace, the newest: more would take longer than a moment
 
 QString versions() {
     QString text;
