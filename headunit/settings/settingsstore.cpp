@@ -22,7 +22,8 @@ constexpr int longestText = 64 * 1024;  ///< bytes of UTF-8
 
 }  // namespace
 
-SettingsStore::SettingsStore(std::shared_ptr<SaveClock> clock) : m_clock(std::move(clock)) {}
+SettingsStore::SettingsStore(std::shared_ptr<SaveClock> clock, std::shared_ptr<std::atomic<int>> failing)
+    : m_clock(std::move(clock)), m_failing(std::move(failing)) {}
 
 SettingsStore::~SettingsStore() {
     close();
@@ -40,7 +41,7 @@ QString SettingsStore::open(const QString &path, const SettingsMap &factory) {
         m_file = file;
         m_writer = std::make_unique<SettingsWriter>(
             path, snapshot, durableGatherMs,
-            [file](const Snapshot &state, QString *reason) { return file->save(state, reason); }, m_clock);
+            [file](const Snapshot &state, QString *reason) { return file->save(state, reason); }, m_clock, m_failing);
         m_quick = std::make_unique<SettingsWriter>(
             path, snapshot, quickGatherMs,
             [file](const Snapshot &state, QString *) {

@@ -5,6 +5,7 @@
 #include "saveclock.h"
 #include "settingsmap.h"
 
+#include <atomic>
 #include <memory>
 
 namespace headunit {
@@ -16,7 +17,9 @@ class SettingsWriter;
 /// latest 100 ms later, without waiting for it. Used from one thread. Works in memory only until it is opened.
 class SettingsStore {
 public:
-    explicit SettingsStore(std::shared_ptr<SaveClock> clock = std::make_shared<SaveClock>());
+    /// Of stores with the same \a failing, which counts writers that fail, one says that settings cannot be saved.
+    explicit SettingsStore(std::shared_ptr<SaveClock> clock = std::make_shared<SaveClock>(),
+                           std::shared_ptr<std::atomic<int>> failing = std::make_shared<std::atomic<int>>(0));
     ~SettingsStore();
     SettingsStore(const SettingsStore &) = delete;
     SettingsStore &operator=(const SettingsStore &) = delete;
@@ -43,6 +46,7 @@ private:
     static constexpr int flushTimeMs = 2000;
 
     std::shared_ptr<SaveClock> m_clock;
+    std::shared_ptr<std::atomic<int>> m_failing;
     SettingsMap m_values;
     std::shared_ptr<SettingsFile> m_file;      // null while in memory only
     std::unique_ptr<SettingsWriter> m_writer;  // waits for the medium

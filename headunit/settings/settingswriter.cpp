@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "settingswriter.h"
 
+#include "lines.h"
+
 #include <QtGlobal>
 
+#include <system_error>
 #include <utility>
 
 namespace headunit {
@@ -11,11 +14,12 @@ using std::chrono::milliseconds;
 
 struct SettingsWriter::Shared {
     Shared(const QString &pathInLog, const Snapshot &state, milliseconds gather, Save function,
-           std::shared_ptr<SaveClock> time)
+           std::shared_ptr<SaveClock> time, FailingWriters among)
         : path(pathInLog),
           gatherTime(gather),
           save(std::move(function)),
           clock(std::move(time)),
+          failingWriters(std::move(among)),
           base(state.number),
           onDisk(state) {}
 
@@ -23,6 +27,7 @@ struct SettingsWriter::Shared {
     const milliseconds gatherTime;
     const Save save;
     const std::shared_ptr<SaveClock> clock;
+    const FailingWriters failingWriters;
     const qint64 base;  ///< the number of the state that this began with
 
     // Under the mutex, which is never held during work on the disk.
@@ -41,6 +46,7 @@ struct SettingsWriter::Shared {
     bool flushNow = false;
     bool quit = false;
     bool finished = false;
+    bool threadless = false;  ///< no thread was to be had: flush() and the end save
 
     // The thread's own.
     Snapshot onDisk;
@@ -88,9 +94,10 @@ void SettingsWriter::Shared::saveChanges(std::unique_lock<std::mutex> &lock) {
     lock.unlock();
     QString problem;
     const bool ok = save(onDisk, &problem);
-    if (!ok && !failing) {
+    // What keeps one file from being written mostly keeps all of them; one line says it.
+    if (!ok && !failing && (*failingWriters)++ == 0) {
         qWarning("%s; going on from memory and trying again", qUtf8Printable(problem));
-    } else if (ok && failing) {
+    } else if (ok && failing && --*failingWriters == 0) {
         qWarning("settings file %s is written again", qUtf8Printable(path));
     }
     failing = !ok;
@@ -118,9 +125,16 @@ template <typename Condition> bool SettingsWriter::Shared::waitUntilDone(std::un
 }
 
 SettingsWriter::SettingsWriter(const QString &path, const Snapshot &onDisk, int gatherTimeMs, Save save,
-                               std::shared_ptr<SaveClock> clock)
-    : m_shared(std::make_shared<Shared>(path, onDisk, milliseconds(gatherTimeMs), std::move(save), std::move(clock))),
-      m_thread(&SettingsWriter::run, m_shared) {}
+                               std::shared_ptr<SaveClock> clock, FailingWriters failing)
+    : m_shared(std::make_shared<Shared>(path, onDisk, milliseconds(gatherTimeMs), std::move(save), std::move(clock),
+                                        std::move(failing))) {
+    try {
+        m_thread = std::thread(&SettingsWriter::run, m_shared);
+    } catch (const std::system_error &) {
+        m_shared->threadless = true;
+        sayNoThread();
+    }
+}
 
 SettingsWriter::~SettingsWriter() {
     finish();
@@ -128,6 +142,9 @@ SettingsWriter::~SettingsWriter() {
 
 bool SettingsWriter::finish() {
     std::unique_lock<std::mutex> lock(m_shared->mutex);
+    if (m_shared->threadless && m_shared->saved != m_shared->changes) {
+        m_shared->saveChanges(lock);
+    }
     if (!m_thread.joinable()) {
         return m_shared->saved == m_shared->changes;
     }
@@ -166,6 +183,10 @@ bool SettingsWriter::flush(int timeoutMs) {
     const quint64 wanted = shared.changes;
     if (shared.saved >= wanted) {
         return true;
+    }
+    if (shared.threadless) {
+        shared.saveChanges(lock);
+        return shared.saved >= wanted;
     }
     shared.flushNow = true;
     shared.wake.notify_one();

@@ -4,6 +4,7 @@
 #include "saveclock.h"
 #include "settingstext.h"
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <thread>
@@ -22,9 +23,12 @@ public:
     /// Saves a state; false with a line that names the file if that fails. Called on the writer's thread.
     using Save = std::function<bool(const Snapshot &snapshot, QString *problem)>;
 
+    /// How many of a unit's writers fail: the first one says so, and the last one that it is over.
+    using FailingWriters = std::shared_ptr<std::atomic<int>>;
+
     /// \a path names the file in the log, \a onDisk is what is on the disk now.
     SettingsWriter(const QString &path, const Snapshot &onDisk, int gatherTimeMs, Save save,
-                   std::shared_ptr<SaveClock> clock);
+                   std::shared_ptr<SaveClock> clock, FailingWriters failing = std::make_shared<std::atomic<int>>(0));
     ~SettingsWriter();  ///< finishes
     SettingsWriter(const SettingsWriter &) = delete;
     SettingsWriter &operator=(const SettingsWriter &) = delete;

@@ -3,6 +3,7 @@
 
 #include "audiokeys.h"
 #include "damagedfile.h"
+#include "settingswriter.h"
 #include "soundlistener.h"
 #include "unitroot.h"
 
@@ -17,6 +18,7 @@ const QString factoryFile = QStringLiteral("/media/flash/nvm/factory/audiosettin
 struct Factory {
     QString path;  ///< on this machine
     FactoryState state;
+    std::unique_ptr<SettingsWriter> installer;  ///< of the first start, so that the screen does not wait for the disk
 };
 
 Factory &factory() {
@@ -36,13 +38,29 @@ FactoryState withCustomCurve(FactoryState state) {
     return state;
 }
 
+/// All of the unit's files, as one line says that they cannot be written.
+SettingsWriter::FailingWriters failingWriters() {
+    static const auto failing = std::make_shared<std::atomic<int>>(0);
+    return failing;
+}
+
 /// Reads the factory file, and on the first start puts it there. Returns what went wrong, a line that is also in the
 /// log. A file that cannot be used is set aside, so that this is said once.
 QString openFactory(bool noSettings) {
     Factory &opened = factory();
     QString problem;
     if (noSettings && !pathExists(opened.path)) {
-        problem = installFactoryFile(opened.path);
+        opened.installer = std::make_unique<SettingsWriter>(
+            opened.path, Snapshot(), 0,
+            [path = opened.path](const Snapshot &, QString *reason) {
+                *reason = pathExists(path) ? QString() : installFactoryFile(path);
+                return reason->isEmpty();
+            },
+            std::make_shared<SaveClock>(), failingWriters());
+        opened.installer->replaceAll(SettingsMap());
+        opened.state.values = shippedFactoryValues();
+        opened.state = withCustomCurve(opened.state);
+        return problem;
     }
     opened.state = withCustomCurve(readFactoryFile(opened.path));
     if (!opened.state.problem.isEmpty() && !opened.state.missing) {
@@ -62,12 +80,12 @@ QString openFactory(bool noSettings) {
 }  // namespace
 
 SettingsStore &audioStore() {
-    static SettingsStore store;
+    static SettingsStore store(std::make_shared<SaveClock>(), failingWriters());
     return store;
 }
 
 SettingsStore &sharedStore() {
-    static SettingsStore store;
+    static SettingsStore store(std::make_shared<SaveClock>(), failingWriters());
     return store;
 }
 
@@ -101,14 +119,16 @@ void limitMainVolume() {
 }
 
 bool flushSettings() {
+    const bool installed = !factory().installer || factory().installer->flush(SettingsWriter::finishTimeMs);
     const bool audioSaved = audioStore().flush();
-    return sharedStore().flush() && audioSaved;
+    return sharedStore().flush() && audioSaved && installed;
 }
 
 void closeSettings() {
     audioStore().close();
     sharedStore().close();
     factory() = Factory();
+    *failingWriters() = 0;
 }
 
 FactoryState factoryState(const QString &unitPath) {

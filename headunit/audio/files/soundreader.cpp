@@ -175,7 +175,8 @@ bool SoundReader::open(const std::string &path, std::string *error) {
         return false;
     }
     SF_INFO info{};
-    d->file = sf_open(path.c_str(), SFM_READ, &info);
+    // The library takes "-" alone for standard input, which would be waited for.
+    d->file = sf_open(path == "-" ? "./-" : path.c_str(), SFM_READ, &info);
     if (!d->file) {
         *error = path + ": " + sf_strerror(nullptr);
         return false;

@@ -1,13 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "controlthread.h"
 
+#include <system_error>
 #include <utility>
 
 namespace headunit {
 
-ControlThread::ControlThread(Taker take) : m_take(std::move(take)), m_thread([this] { run(); }) {}
+ControlThread::ControlThread(Taker take) : m_take(std::move(take)) {
+    try {
+        m_thread = std::thread([this] { run(); });
+    } catch (const std::system_error &) {
+        // setState() then takes the states itself
+    }
+}
 
 ControlThread::~ControlThread() {
+    if (!m_thread.joinable()) {
+        return;
+    }
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_ending = true;
@@ -17,6 +27,10 @@ ControlThread::~ControlThread() {
 }
 
 void ControlThread::setState(const SoundState &state) {
+    if (!m_thread.joinable()) {
+        m_take(state);
+        return;
+    }
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_next = state;

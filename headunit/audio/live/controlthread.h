@@ -22,7 +22,8 @@ public:
     /// Waits until a state that is being taken has been; one that was not taken yet is dropped.
     ~ControlThread();
 
-    /// Returns at once. Of states that come while one is being taken only the last one is taken.
+    /// Returns at once, unless no thread is to be had. Of states that come while one is being taken only the last one
+    /// is taken.
     void setState(const SoundState &state);
 
 private:

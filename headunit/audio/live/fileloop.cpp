@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <system_error>
 
 namespace headunit {
 
@@ -35,7 +36,12 @@ bool FileLoop::open(const std::string &path, std::string *error) {
         return true;
     }
     m_written = frames;
-    m_thread = std::thread([this] { readAhead(); });
+    try {
+        m_thread = std::thread([this] { readAhead(); });
+    } catch (const std::system_error &) {
+        *error = path + ": no thread is to be had that reads it";
+        return false;
+    }
     return true;
 }
 
@@ -65,7 +71,15 @@ void FileLoop::readAhead() {
         }
         // A file that was cut short meanwhile must not be opened hundreds of times a second.
         std::string error;
-        if (sinceOpened < pieceFrames || !m_reader.open(m_path, &error)) {
+        if (sinceOpened < pieceFrames) {
+            error = m_path + ": nothing can be read of the file any more";
+        } else {
+            m_reader.open(m_path, &error);
+        }
+        if (!error.empty()) {
+            if (m_lost) {
+                m_lost(error);
+            }
             return;
         }
         isFirstTime = false;

@@ -4,8 +4,10 @@
 #include "headunit/audio/files/soundreader.h"
 
 #include <atomic>
+#include <functional>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace headunit {
@@ -14,9 +16,14 @@ namespace headunit {
 /// that is short enough is read only once.
 class FileLoop {
 public:
+    /// Gets a line with the file's name and the reason, on the thread.
+    using LossListener = std::function<void(const std::string &)>;
+
     FileLoop() = default;
     ~FileLoop();
 
+    /// Has \a listener hear that the file can no longer be read. Before open().
+    void setLossListener(LossListener listener) { m_lost = std::move(listener); }
     /// False, with a reason in \a error, if the file is none that can be played.
     bool open(const std::string &path, std::string *error);
 
@@ -30,6 +37,7 @@ private:
     void fillFromShort(float *stereo, size_t frames, size_t shortFrames);
 
     std::string m_path;
+    LossListener m_lost;
     SoundReader m_reader;
     std::vector<float> m_ring = std::vector<float>(2 * ringFrames);
     std::atomic<size_t> m_shortFrames{0};  ///< of the whole file, once the ring holds all of it

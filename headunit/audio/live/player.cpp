@@ -24,7 +24,9 @@ bool Player::choose(const std::string &what, std::string *error) {
     } else if (what == "silence") {
         m_source.emplace<Silence>();
     } else {
-        return m_source.emplace<FileLoop>().open(what, error);
+        FileLoop &file = m_source.emplace<FileLoop>();
+        file.setLossListener(m_lossListener);
+        return file.open(what, error);
     }
     return true;
 }

@@ -23,6 +23,8 @@ public:
     /// \a what is "music", "noise", "sweep", "loudspeakers", "silence", "desk" (what comes by deskInput()), or the name
     /// of a sound file. False, with a reason in \a error, if it cannot be played. Before the first fill().
     bool choose(const std::string &what, std::string *error);
+    /// Hears why a file that plays cannot be played any further, on a thread of the file's. Before choose().
+    void setLossListener(FileLoop::LossListener listener) { m_lossListener = std::move(listener); }
 
     void setState(const SoundState &state);
     /// Plays an input's own short sound; the main one has none. Prompts that are active play theirs again and again.
@@ -60,6 +62,7 @@ private:
 
     engine::Engine m_engine;
     std::array<std::unique_ptr<DeskInput>, engine::inputCount> m_desk;
+    FileLoop::LossListener m_lossListener;
     std::variant<Silence, Desk, Music, PinkNoise, Sweep, LoudspeakerTone, FileLoop> m_source;
     std::array<std::atomic<bool>, engine::inputCount> m_wanted{};
     std::array<std::atomic<bool>, engine::inputCount> m_active{};

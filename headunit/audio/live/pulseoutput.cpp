@@ -10,7 +10,6 @@
 
 #include <pulse/error.h>
 
-#include <cstdio>
 #include <optional>
 #include <utility>
 
@@ -74,7 +73,7 @@ struct PulseOutput::Private final : ServerConnection::Listener, DeviceChoice::Li
         }
         saidFault = fault;
         if (news != said && !news.empty()) {
-            std::fprintf(stderr, "headunit: %s\n", news.c_str());
+            settings.say(news);
         }
         said = news;
     }
@@ -215,7 +214,7 @@ struct PulseOutput::Private final : ServerConnection::Listener, DeviceChoice::Li
         }
         const bool isStalled = stream->isStalled();
         if (isStalled && !saidStalled) {
-            std::fprintf(stderr, "headunit: %s\n", stalled);
+            settings.say(stalled);
         }
         saidStalled = isStalled;
         watch.start(server.api(), server.context(), stallCheck);
@@ -239,7 +238,9 @@ struct PulseOutput::Private final : ServerConnection::Listener, DeviceChoice::Li
 };
 
 PulseOutput::PulseOutput(Player &player, const Settings &settings) : d(new Private(player, settings)) {
-    d->server.start();
+    if (!d->server.start()) {
+        d->say("no thread is to be had: nothing is heard", SoundFault::NoServer);
+    }
 }
 
 PulseOutput::~PulseOutput() {

@@ -7,6 +7,7 @@
 #include "headunit/audio/service/soundfault.h"
 
 #include <chrono>
+#include <cstdio>
 #include <functional>
 #include <memory>
 #include <string>
@@ -32,6 +33,10 @@ public:
         std::function<void(SoundFault)> onFault{};
         /// Hears once, on the server's thread, how that is scheduled, which is the one that fills the loudspeakers.
         std::function<void(const Scheduling &)> onScheduled{};
+        /// Gets each line that says so, on the same threads.
+        std::function<void(const std::string &)> say = [](const std::string &line) {
+            std::fprintf(stderr, "headunit: %s\n", line.c_str());
+        };
     };
 
     /// Starts at once. \a player is used by the server's thread until the output is destroyed.

@@ -26,9 +26,9 @@ ServerConnection::~ServerConnection() {
     pa_threaded_mainloop_free(m_loop);
 }
 
-void ServerConnection::start() {
+bool ServerConnection::start() {
     connect();
-    pa_threaded_mainloop_start(m_loop);
+    return pa_threaded_mainloop_start(m_loop) >= 0;
 }
 
 void ServerConnection::stop() {

@@ -54,7 +54,8 @@ public:
     ServerConnection &operator=(const ServerConnection &) = delete;
 
     /// Calls the server. The listener may hear of the first call's failure before this returns.
-    void start();
+    /// False if no thread is to be had.
+    bool start();
     /// Ends the thread; the context is still there.
     void stop();
 

@@ -6,9 +6,8 @@
 #include "headunit/desk/frame/deskhost.h"
 #include "headunit/desk/setups/setupfile.h"
 #include "headunit/desk/setups/unitstate.h"
+#include "headunit/settings/lines.h"
 #include "headunit/settings/unitsettings.h"
-
-#include <cstdio>
 
 namespace headunit {
 
@@ -18,7 +17,7 @@ constexpr int exitGood = 0;
 constexpr int exitUnusable = 2;
 
 int refuse(const QString &reason) {
-    std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(reason));
+    say(reason);
     return exitUnusable;
 }
 
@@ -40,13 +39,13 @@ int importSetup(const QString &path) {
             QStringLiteral("--import %1: the unit's settings cannot be written, nothing is changed").arg(path));
     }
     for (const QString &remark : file.remarks) {
-        std::fprintf(stderr, "headunit: %s: %s\n", qUtf8Printable(path), qUtf8Printable(remark));
+        say(path + QStringLiteral(": ") + remark);
     }
     const QVector<SetupChange> changes = setupChanges(audioStore().values(), file.values);
     for (const SetupChange &change : changes) {
-        std::printf("%s\n", qUtf8Printable(setupChangeText(change)));
+        print(oneLine(setupChangeText(change)));
     }
-    std::printf("%d values changed\n", int(changes.size()));
+    print(QStringLiteral("%1 values changed").arg(changes.size()));
     putInForce(file.values, nullptr, {});
     return flushSettings() ? exitGood : refuse(QStringLiteral("--import %1: the settings cannot be saved").arg(path));
 }

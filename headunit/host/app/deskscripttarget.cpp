@@ -4,12 +4,11 @@
 #include "headunit/host/app/deskwindow.h"
 #include "headunit/host/app/hostlibrary.h"
 #include "headunit/host/app/unit.h"
+#include "headunit/settings/lines.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
-
-#include <cstdio>
 
 namespace headunit {
 
@@ -87,7 +86,7 @@ int runScript(ScriptTarget &target, const QString &file, const QString &folder) 
     QString problem;
     const auto entry = reinterpret_cast<ScriptEntry>(hostFunction("script", scriptEntryName, &problem));
     if (!entry) {
-        std::fprintf(stderr, "no scripts here: %s\n", qUtf8Printable(problem));
+        say(QStringLiteral("no scripts here: ") + problem);
         return exitUnusable;
     }
     return entry(&target, &file, &folder);

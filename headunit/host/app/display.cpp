@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/app/display.h"
+#include "headunit/settings/lines.h"
 
 #include "headunit/host/app/deskwindow.h"
 #include "headunit/host/app/displayscale.h"
@@ -10,7 +11,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include <cstdio>
 #include <vector>
 
 #include <sys/stat.h>
@@ -51,8 +51,7 @@ void fallBackToTour(Options *options) {
         return;
     }
     options->tour = QDir::temp().filePath(QStringLiteral("headunit-tour"));
-    std::fprintf(stderr, "headunit: there is no display; a picture of every screen goes to %s\n",
-                 qUtf8Printable(options->tour));
+    say(QStringLiteral("there is no display; a picture of every screen goes to ") + options->tour);
 }
 
 bool setScale(const Options &options) {

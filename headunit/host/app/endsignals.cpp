@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/app/endsignals.h"
 
+#include "headunit/settings/lines.h"
+
 #include <cerrno>
+#include <system_error>
 #include <utility>
 
 #include <fcntl.h>
@@ -32,7 +35,14 @@ EndSignals::EndSignals(std::function<void(int)> ended) : m_ended(std::move(ended
     if (pipe2(ends, O_CLOEXEC) != 0) {
         return;
     }
-    m_thread = std::thread([this] { run(); });
+    try {
+        m_thread = std::thread([this] { run(); });
+    } catch (const std::system_error &) {
+        sayNoThread();
+        close(ends[0]);
+        close(ends[1]);
+        return;
+    }
     struct sigaction action = {};
     action.sa_handler = handle;
     action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);

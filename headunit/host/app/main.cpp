@@ -15,6 +15,7 @@
 #include "headunit/host/app/unit.h"
 #include "headunit/host/app/watchdog.h"
 #include "headunit/host/screens/hardkeys.h"
+#include "headunit/settings/lines.h"
 #include "headunit/settings/trace.h"
 #include "headunit/settings/unitroot.h"
 #include "headunit/settings/unitsettings.h"
@@ -30,7 +31,6 @@
 #include <QTime>
 #include <QTimer>
 
-#include <cstdio>
 #include <memory>
 
 using namespace headunit;
@@ -40,13 +40,14 @@ namespace {
 constexpr int exitGood = 0;
 constexpr int exitUnusable = 2;
 constexpr int exitSignal = 128;   // plus the number of the signal that cut a script short
+constexpr int mostFailures = 10;  // lines of plug-ins that cannot be used
 constexpr double usualWatch = 5;  // s that an application may block the unit before it is named
 
 // The time that the status bar shows wherever pictures must be the same at every run.
 const char fixedTime[] = "10:08";
 
 int refuse(const QString &reason) {
-    std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(reason));
+    say(reason);
     return exitUnusable;
 }
 
@@ -62,9 +63,9 @@ QStringList texts(int argc, char **argv) {
 int printHelpOrVersion(const Options &options, int argc, char **argv) {
     const QCoreApplication application(argc, argv);
     if (options.help) {
-        std::fputs(qUtf8Printable(optionsHelp()), stdout);
+        print(optionsHelp().trimmed());
     } else {
-        std::puts("headunit " HEADUNIT_VERSION);
+        print(QStringLiteral("headunit " HEADUNIT_VERSION));
     }
     return exitGood;
 }
@@ -93,7 +94,7 @@ QString fileProblem(const Options &options) {
 }
 
 void printTrace(const TraceEntry &entry) {
-    std::printf("%s -> %s\n", qUtf8Printable(entry.call), qUtf8Printable(entry.meaning));
+    print(oneLine(entry.call + QStringLiteral(" -> ") + entry.meaning));
 }
 
 int runSoundJob(const SoundJob &job) {
@@ -106,7 +107,7 @@ std::unique_ptr<QObject> soundOf(const Options &options, SoundMonitor **monitor)
     QString silentBecause;
     std::unique_ptr<QObject> sound(startSound(options.playJob, &silentBecause, monitor));
     if (!silentBecause.isEmpty()) {
-        std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(silentBecause));
+        say(silentBecause);
     }
     if (!sound) {
         SoundModel::instance().setFault(SoundFault::NoLibrary);
@@ -117,14 +118,14 @@ std::unique_ptr<QObject> soundOf(const Options &options, SoundMonitor **monitor)
 int runUnit(const Options &options, HostApplication &application, MoveTime moveTime) {
     Watchdog watchdog(
         std::chrono::milliseconds(qRound64(1000 * (options.watchdog < 0 ? usualWatch : options.watchdog))),
-        [](const std::string &line) { std::fprintf(stderr, "headunit: %s\n", line.c_str()); });
+        [](const std::string &line) { say(QString::fromStdString(line)); });
     PluginCatalog catalog;
     application.setGuard(&catalog.guard());
     const auto unguarded = qScopeGuard([&application] { application.setGuard(nullptr); });
     if (options.watchdog >= 0 || !moveTime) {
         catalog.guard().setWatchdog(&watchdog);
         if (!watchdog.start()) {
-            std::fputs("headunit: no thread is to be had: an application that blocks the unit is not named\n", stderr);
+            sayNoThread();
         }
     }
     const QStringList files = options.plugins.isEmpty()
@@ -133,11 +134,13 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
     for (const QString &file : files) {
         catalog.load(file);
     }
-    for (const QString &failure : catalog.failures()) {
-        std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(failure));
+    for (const QString &failure : catalog.failures().mid(0, mostFailures)) {
+        say(failure);
     }
-    QObject::connect(&catalog.guard(), &ApplicationGuard::failed, &application,
-                     [](const QString &line) { std::fprintf(stderr, "headunit: %s\n", qUtf8Printable(line)); });
+    if (catalog.failures().size() > mostFailures) {
+        say(QStringLiteral("%1 more plug-ins cannot be used").arg(catalog.failures().size() - mostFailures));
+    }
+    QObject::connect(&catalog.guard(), &ApplicationGuard::failed, &application, say);
     // With a plug-in that failed the name may well be right; the home screen then says what is wrong.
     if (!options.open.isEmpty() && !catalog.find(options.open) && catalog.failures().isEmpty()) {
         return refuse(QStringLiteral("--open %1: there is no application of that name").arg(options.open));
@@ -204,9 +207,7 @@ int runUnit(const Options &options, HostApplication &application, MoveTime moveT
     return receivedEndSignal() == 0 ? result : exitSignal + receivedEndSignal();
 }
 
-}  // namespace
-
-int main(int argc, char **argv) {
+int runProgram(int argc, char **argv) {
     const ParsedOptions parsed = parseOptions(texts(argc, argv));
     if (!parsed.error.isEmpty()) {
         return refuse(parsed.error);
@@ -233,8 +234,8 @@ int main(int argc, char **argv) {
                            "--remote plays and takes a script's commands"));
     }
 
-    // Lines must not be lost, nor change their order, when the process is ended from outside.
-    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);
+    // A script is read to its end; a unit that runs waits for no reader.
+    setLinesWait(options.scripted() || options.setupJob() || !options.soundJob.isEmpty());
     QLoggingCategory::defaultCategory()->setEnabled(QtDebugMsg, options.verbose);
     auto runtimeFolder = std::make_unique<RuntimeFolder>();
     prepareUnitApplication();
@@ -280,4 +281,14 @@ int main(int argc, char **argv) {
     tracePrinter.reset();
     closeSettings();
     return result;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+    keepStandardDescriptors();
+    takeMessages();
+    const int result = runProgram(argc, argv);
+    const QString problem = printingProblem();
+    return result == exitGood && !problem.isEmpty() ? refuse(problem) : result;
 }

@@ -2,8 +2,7 @@
 #include "headunit/host/app/remotelibrary.h"
 
 #include "headunit/host/app/hostlibrary.h"
-
-#include <cstdio>
+#include "headunit/settings/lines.h"
 
 namespace headunit {
 
@@ -25,7 +24,7 @@ int doControl(const QString &command) {
     QString problem;
     const auto entry = resolve<ControlEntry>(controlEntryName, &problem);
     if (!entry) {
-        std::fprintf(stderr, "headunit: --control: %s\n", qUtf8Printable(problem));
+        say(QStringLiteral("--control: ") + problem);
         return exitUnusable;
     }
     return entry(&command);

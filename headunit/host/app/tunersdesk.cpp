@@ -4,8 +4,7 @@
 #include "headunit/host/app/deskwindow.h"
 #include "headunit/host/app/hostlibrary.h"
 #include "headunit/host/app/unit.h"
-
-#include <cstdio>
+#include "headunit/settings/lines.h"
 
 namespace headunit {
 
@@ -16,7 +15,7 @@ template <typename Entry> Entry resolve(const char *name) {
     QString problem;
     const auto entry = reinterpret_cast<Entry>(hostFunction("desk", name, &problem));
     if (!entry) {
-        std::fprintf(stderr, "headunit: no tuner's desk here: %s\n", qUtf8Printable(problem));
+        say(QStringLiteral("no tuner's desk here: ") + problem);
     }
     return entry;
 }

@@ -3,6 +3,7 @@
 
 #include "headunit/host/remote/remotecontrol.h"
 #include "headunit/host/remote/remotesocket.h"
+#include "headunit/settings/lines.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,8 +11,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocalSocket>
-
-#include <cstdio>
 
 namespace headunit {
 
@@ -24,20 +23,19 @@ constexpr int unlimited = -1;
 constexpr int timeToConnect = 5000;  // ms
 
 int complain(const QString &reason, int exitCode) {
-    std::fprintf(stderr, "headunit: --control: %s\n", qUtf8Printable(reason));
+    say(QStringLiteral("--control: ") + reason);
     return exitCode;
 }
 
 /// Texts as they are, everything else as JSON.
-void print(const QJsonValue &result) {
+void printResult(const QJsonValue &result) {
     if (!result.isString()) {
         return;  // no value
     }
     const QByteArray text = result.toString().toUtf8();
     const QJsonArray asArray = QJsonDocument::fromJson('[' + text + ']').array();
     const QByteArray shown = asArray.first().isString() ? asArray.first().toString().toUtf8() : text;
-    std::printf("%s\n", shown.constData());
-    std::fflush(stdout);
+    print(QString::fromUtf8(shown));
 }
 
 /// Has one command done, and waits until it is.
@@ -53,13 +51,13 @@ int control(QLocalSocket &unit, const QString &command) {
         }
         const QJsonObject answer = QJsonDocument::fromJson(unit.readLine()).object();
         if (answer.contains(QLatin1String(remote::printedKey))) {
-            std::printf("%s\n", qUtf8Printable(answer.value(QLatin1String(remote::printedKey)).toString()));
+            print(answer.value(QLatin1String(remote::printedKey)).toString());
         } else if (answer.contains(QLatin1String(remote::errorKey))) {
             return complain(answer.value(QLatin1String(remote::errorKey)).toString(), exitFailed);
         } else if (answer.contains(QLatin1String(remote::refusedKey))) {
             return complain(answer.value(QLatin1String(remote::refusedKey)).toString(), exitUnusable);
         } else {
-            print(answer.value(QLatin1String(remote::resultKey)));
+            printResult(answer.value(QLatin1String(remote::resultKey)));
             return exitGood;
         }
     }

@@ -7,6 +7,7 @@
 #include "headunit/host/script/scriptsetup.h"
 #include "headunit/host/script/scripttarget.h"
 #include "headunit/host/script/soundobject.h"
+#include "headunit/settings/lines.h"
 #include "headunit/settings/unitsettings.h"
 
 #include <QDir>
@@ -19,9 +20,16 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <cstdio>
+#include <climits>
 
 namespace headunit {
+
+namespace {
+
+// A mouse that is held leaves the window; the way to a place far away would take days.
+constexpr int besideTheScreen = 1;
+
+}  // namespace
 
 ScriptApi::ScriptApi(ScriptTarget &target, QJSEngine *engine, const QString &folder)
     : QObject(engine), m_target(target), m_engine(engine), m_folder(folder), m_finger(target) {}
@@ -66,14 +74,22 @@ QWidget *ScriptApi::find(const QString &name) {
     return nullptr;
 }
 
+/// Whether a place lies on the screen, or at most \a screens beside it; if not, that is the script's failure.
+bool ScriptApi::isInReach(double x, double y, int screens) {
+    const QSize size = m_target.window()->size();
+    // Written so that "NaN" fails too.
+    if (x >= -screens * size.width() && x < (screens + 1) * size.width() && y >= -screens * size.height() &&
+        y < (screens + 1) * size.height()) {
+        return true;
+    }
+    fail(QStringLiteral("%1, %2 is outside the screen").arg(x, 0, 'g', 10).arg(y, 0, 'g', 10));
+    return false;
+}
+
 bool ScriptApi::locate(const QJSValue &place, const QJSValue &x, const QJSValue &y, QPoint *position) {
     if (place.isNumber() && x.isNumber()) {
         *position = QPoint(place.toInt(), x.toInt());
-        if (!m_target.window()->rect().contains(*position)) {
-            fail(QStringLiteral("%1, %2 is outside the screen").arg(position->x()).arg(position->y()));
-            return false;
-        }
-        return true;
+        return isInReach(place.toNumber(), x.toNumber(), 0);
     }
     const bool inside = x.isNumber() && y.isNumber();
     if (!place.isString() || !(inside || x.isUndefined())) {
@@ -115,11 +131,11 @@ void ScriptApi::press(const QJSValue &place, const QJSValue &x, const QJSValue &
     }
 }
 
-void ScriptApi::move(int x, int y) {
-    if (m_finger.isDown()) {
-        m_finger.moveTo(QPoint(x, y));
-    } else {
+void ScriptApi::move(double x, double y) {
+    if (!m_finger.isDown()) {
         fail(QStringLiteral("the finger is not down"));
+    } else if (isInReach(x, y, besideTheScreen)) {
+        m_finger.moveTo(QPoint(int(x), int(y)));
     }
 }
 
@@ -184,6 +200,11 @@ void ScriptApi::drag(const QString &name, const QJSValue &from, const QJSValue &
         return;
     }
     const QPoint origin = widget->mapTo(m_target.window(), QPoint());
+    for (const QPoint &point : qAsConst(points)) {
+        if (!isInReach(double(origin.x()) + point.x(), double(origin.y()) + point.y(), besideTheScreen)) {
+            return;
+        }
+    }
     const QPoint start = origin + points.takeFirst();
     press(start.x(), start.y());
     for (const QPoint &point : qAsConst(points)) {
@@ -196,8 +217,13 @@ void ScriptApi::drag(const QString &name, const QJSValue &from, const QJSValue &
     }
 }
 
-void ScriptApi::wait(int ms) {
-    m_finger.wait(ms);
+void ScriptApi::wait(const QJSValue &ms) {
+    const double time = ms.isNumber() ? ms.toNumber() : -1;
+    if (time >= 0 && time <= INT_MAX) {
+        m_finger.wait(int(time));
+    } else {
+        fail(QStringLiteral("cannot wait %1 ms").arg(ms.toString()));
+    }
 }
 
 void ScriptApi::shot(const QString &file, const QString &description) {
@@ -264,8 +290,7 @@ void ScriptApi::log(const QJSValue &text) {
         m_printer(text.toString());
         return;
     }
-    std::printf("%s\n", qUtf8Printable(text.toString()));
-    std::fflush(stdout);
+    print(text.toString());
 }
 
 QJSValue ScriptApi::store(const QString &key) {

@@ -36,7 +36,7 @@ public:
     Q_INVOKABLE void tap(const QJSValue &place, const QJSValue &y = QJSValue());
     /// press(name), press(x, y) or press(name, x, y): a position inside the widget.
     Q_INVOKABLE void press(const QJSValue &place, const QJSValue &x = QJSValue(), const QJSValue &y = QJSValue());
-    Q_INVOKABLE void move(int x, int y);
+    Q_INVOKABLE void move(double x, double y);
     /// A move without the positions on its way, and without the time that it takes.
     Q_INVOKABLE void slide(int x, int y);
     /// Where it is, or at x and y.
@@ -47,7 +47,7 @@ public:
     /// drag(name, x1, y1, x2, y2) or drag(name, [[x, y], ...]): positions inside the widget.
     Q_INVOKABLE void drag(const QString &name, const QJSValue &from, const QJSValue &y1 = QJSValue(),
                           const QJSValue &x2 = QJSValue(), const QJSValue &y2 = QJSValue());
-    Q_INVOKABLE void wait(int ms);
+    Q_INVOKABLE void wait(const QJSValue &ms);
 
     // Looking.
     /// Saves a picture of the screen. With a description, prints it beside the file's name.
@@ -91,6 +91,7 @@ private:
     /// A property's value; false with a script error if there is none.
     bool read(const QString &name, const QString &property, QJSValue *value);
     /// The position in the window; false with a script error if there is none.
+    bool isInReach(double x, double y, int screens);
     bool locate(const QJSValue &place, const QJSValue &x, const QJSValue &y, QPoint *position);
     void sendKey(const QString &name, bool down);
 

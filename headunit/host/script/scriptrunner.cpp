@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/host/script/scriptapi.h"
 #include "headunit/host/script/scripttarget.h"
+#include "headunit/settings/lines.h"
 
 #include <QJSEngine>
 #include <QRegularExpression>
@@ -32,7 +33,7 @@ QString description(const QJSValue &error, const QString &file) {
     for (const QString &caller : places.mid(0, mostCallers)) {
         text += QLatin1String(", called from ") + caller;
     }
-    return text.replace(QLatin1Char('\n'), QLatin1Char(' '));
+    return oneLine(text);
 }
 
 int run(ScriptTarget &target, const QString &file, const QString &folder) {

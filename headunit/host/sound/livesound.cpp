@@ -5,11 +5,11 @@
 #include "headunit/audio/service/soundmodel.h"
 #include "headunit/host/app/soundlibrary.h"
 #include "headunit/host/sound/metertext.h"
+#include "headunit/settings/lines.h"
 
 #include <QFile>
 
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
 namespace headunit {
@@ -27,6 +27,10 @@ engine::Input inputOfChannel(int channel) {
 
 LiveSound::LiveSound(const PlayJob &job, QString *problem) {
     std::string error;
+    m_player.setLossListener([this](const std::string &reason) {
+        QMetaObject::invokeMethod(
+            this, [this, reason] { loseSource(QFile::decodeName(reason.c_str())); }, Qt::QueuedConnection);
+    });
     if (!m_player.choose(QFile::encodeName(job.what).toStdString(), &error)) {
         *problem = QFile::decodeName(error.c_str());
         m_sourceFault = SoundFault::NothingToPlay;
@@ -52,6 +56,7 @@ LiveSound::LiveSound(const PlayJob &job, QString *problem) {
     if (!job.map.isEmpty() && !parseOutputMap(job.map.toStdString(), &settings.map, &error)) {
         *problem = QString::fromStdString(error);
     }
+    settings.say = [](const std::string &line) { say(QString::fromStdString(line)); };
     settings.onFault = [this](SoundFault fault) {
         QMetaObject::invokeMethod(
             this, [this, fault] { showFault(fault); }, Qt::QueuedConnection);
@@ -67,7 +72,15 @@ LiveSound::LiveSound(const PlayJob &job, QString *problem) {
 
 /// Of two reasons the one of the output: without it, nothing else is heard either.
 void LiveSound::showFault(SoundFault fault) {
+    m_outputFault = fault;
     SoundModel::instance().setFault(fault == SoundFault::None ? m_sourceFault : fault);
+}
+
+/// What was played cannot be played any further.
+void LiveSound::loseSource(const QString &reason) {
+    say(reason);
+    m_sourceFault = SoundFault::NothingToPlay;
+    showFault(m_outputFault);
 }
 
 void LiveSound::takeState() {
@@ -151,7 +164,7 @@ void LiveSound::printScheduling() {
     }
     if (m_scheduling != m_saidScheduling) {
         m_saidScheduling = m_scheduling;
-        std::printf("audio thread: %s\n", qUtf8Printable(m_scheduling));
+        print(QStringLiteral("audio thread: ") + m_scheduling);
     }
 }
 
@@ -165,7 +178,7 @@ void LiveSound::printMeters() {
         printScheduling();
         const unsigned dropouts = m_dropouts - m_lastDropouts;
         const QByteArray holes = dropouts > 0 ? ", dropouts " + QByteArray::number(dropouts) : QByteArray();
-        std::printf("%s%s\n", meterText(m_unprinted).constData(), holes.constData());
+        print(QString::fromUtf8(meterText(m_unprinted) + holes));
         m_unprinted = engine::Meters();
         m_lastDropouts = m_dropouts;
     });

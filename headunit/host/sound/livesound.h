@@ -32,6 +32,7 @@ private Q_SLOTS:
 private:
     void takeStateSoon();
     void showFault(SoundFault fault);
+    void loseSource(const QString &reason);
     void takeReadings();
     void printMeters();
 
@@ -42,6 +43,7 @@ private:
 
     bool m_statePending = false;
     SoundFault m_sourceFault = SoundFault::None;  ///< of what was to be played
+    SoundFault m_outputFault = SoundFault::None;  ///< of where it was to be heard
     QString m_scheduling;                         ///< of the audio thread
     QString m_saidScheduling;
     Player m_player;

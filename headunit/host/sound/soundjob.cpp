@@ -4,10 +4,9 @@
 
 #include "headunit/audio/files/render.h"
 #include "headunit/audio/service/soundmodel.h"
+#include "headunit/settings/lines.h"
 
 #include <QFile>
-
-#include <cstdio>
 
 namespace headunit {
 
@@ -18,7 +17,7 @@ QString render(const SoundJob &job) {
     engine::Meters meters;
     if (renderFile(QFile::encodeName(job.renderFrom).toStdString(), QFile::encodeName(job.renderTo).toStdString(),
                    SoundModel::instance().state(), &meters, &problem)) {
-        std::printf("%s: %s\n", qPrintable(job.renderTo), meterText(meters).constData());
+        print(oneLine(job.renderTo) + QStringLiteral(": ") + QString::fromUtf8(meterText(meters)));
     }
     return QFile::decodeName(problem.c_str());
 }

@@ -415,6 +415,13 @@ void TestHeadunit::scriptResults_data() {
     QTest::newRow("an error of two lines") << QByteArray("throw new Error('a\\nb');") << 1 << ":1: Error: a b\n";
     QTest::newRow("promise") << QByteArray("\nPromise.reject(1);") << 1 << ":2: ReferenceError: Promise is not defined";
     QTest::newRow("import of nothing") << QByteArray("import './none.js';") << 1 << ": Error: Could not open module ";
+    QTest::newRow("a place far away") << QByteArray("press(10, 10); move(2000000000, 0);") << 1
+                                      << ":1: Error: 2000000000, 0 is outside the screen\n";
+    QTest::newRow("a drag to a place far away")
+        << QByteArray("drag('tile_car', 1, 1, 2000000000, 2000000000);") << 1 << ":1: Error: 2000000";
+    QTest::newRow("no place") << QByteArray("tap(NaN, 1);") << 1 << ":1: Error: nan, 1 is outside the screen\n";
+    QTest::newRow("the past") << QByteArray("wait(-1);") << 1 << ":1: Error: cannot wait -1 ms\n";
+    QTest::newRow("no time") << QByteArray("wait('x');") << 1 << ":1: Error: cannot wait x ms\n";
     QTest::newRow("first error ends it") << QByteArray("tap('nothing'); shot('late.png');") << 1
                                          << ":1: Error: nothing named";
 }

@@ -135,7 +135,9 @@ void TestFileLoop::fileThatIsCutShortAtOnce() {
 }
 
 void TestFileLoop::fileThatIsCutShort() {
+    std::vector<std::string> lines;
     FileLoop loop;
+    loop.setLossListener([&lines](const std::string &line) { lines.push_back(line); });
     const std::string path = write(200000);
     QVERIFY(loop.open(path, &m_error));
     take(loop, 200000);
@@ -147,6 +149,8 @@ void TestFileLoop::fileThatIsCutShort() {
         QVERIFY(starts <= 2);
     });
     QVERIFY(starts >= 1);
+    QCOMPARE(int(lines.size()), 1);
+    QVERIFY2(lines[0].find(path + ": ") == 0, lines[0].c_str());
     FileLoop other;
     QVERIFY(QFile::resize(QString::fromStdString(path), 0));
     QVERIFY(!other.open(path, &m_error));
@@ -154,14 +158,19 @@ void TestFileLoop::fileThatIsCutShort() {
 }
 
 void TestFileLoop::fileThatGoesAway() {
+    std::vector<std::string> lines;
     FileLoop loop;
+    loop.setLossListener([&lines](const std::string &line) { lines.push_back(line); });
     const std::string path = write(200000);
     QVERIFY(loop.open(path, &m_error));
     QVERIFY(QFile::remove(QString::fromStdString(path)));
     take(loop, 200000);
+    hearTheRest(loop, m_threads, [](const std::vector<float> &) {});
     std::vector<float> piece(200, 1);
     loop.fill(piece.data(), 100);
     QVERIFY(std::all_of(piece.begin(), piece.end(), [](float sample) { return sample == 0; }));
+    QCOMPARE(int(lines.size()), 1);
+    QVERIFY2(lines[0].find(path + ": ") == 0, lines[0].c_str());
 }
 
 QTEST_APPLESS_MAIN(TestFileLoop)
