@@ -17,7 +17,7 @@ class Audiosetting_right_crossover_widget;
 /// The Crossover page: the filters of the front, rear and subwoofer channels, and two presets of all of them.
 ///
 /// Every change goes to the store and to the microcontroller at once; showing the page sends all channels anew.
-/// The slots onLow_..., onHeigh_... and onSet...() are required; nothing here calls them.
+/// The slots onLow_..., onHeigh_... and onSet...() are required: units invoke them by name. Nothing here calls them.
 class Audiosetting_right_crossover_widget : public QWidget {
     Q_OBJECT
 public:

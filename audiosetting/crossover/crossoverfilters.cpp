@@ -90,7 +90,7 @@ bool CrossoverFilters::matchesPreset(int number) {
         Channel channel;
         Field field;
     };
-    // The order is required: a preset that differs is read no further.
+    // The order is required: a unit's store sees the reads, and a preset that differs is read no further.
     static const Compared order[] = {
         {Front, Freq}, {Front, Level},     {Front, Slope},    {Rear, Freq},       {Rear, Level},
         {Rear, Slope}, {Subwoofer, Level}, {Subwoofer, Freq}, {Subwoofer, Slope},

@@ -24,8 +24,8 @@ class SliderBarWidget;
 /// A slider edits the live custom curve of the audio service. A preset key that is held saves the curve shown; a short
 /// press recalls what was saved. Functions that take a preset or a band ignore others than 0 to 4 and 0 to 12.
 ///
-/// onEqTypeChanged(), onResetEqValue(), save_eq_section_drag(), onSetFlatEq() and onSetCustom1() to 5 are required;
-/// nothing here calls them.
+/// onEqTypeChanged(), onResetEqValue() and save_eq_section_drag() are required: units invoke them by name. So are
+/// onSetFlatEq() and onSetCustom1() to 5, by which a unit sets a curve without a touch. Nothing here calls them.
 class Audiosetting_right_eq_widget : public QWidget {
     Q_OBJECT
 public:

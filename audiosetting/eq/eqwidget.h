@@ -41,7 +41,7 @@ class Look;
 /// label. Its back key posts the platform's back gesture
 /// (TouchEvent 15) to the application object, which a host answers by closing the panel. Deleting the panel empties the
 /// whole QPixmapCache of the process, so that the unit has the memory of its pictures back; others load theirs again
-/// when they next show them. onEqTypeChanged() is required; nothing here calls it.
+/// when they next show them. onEqTypeChanged() is required: units invoke it by name. Nothing here calls it.
 class Q_DECL_EXPORT EQWidget : public QWidget {
     Q_OBJECT
 public:

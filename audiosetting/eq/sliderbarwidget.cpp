@@ -120,7 +120,7 @@ void SliderBarWidget::clickNext() {
 }
 
 void SliderBarWidget::clickPrev() {
-    // From 0 the previous level is 23, not 24. Required like the wrap of clickNext().
+    // From 0 the previous level is 23, not 24. Required: the EQ page's keys never get there, owners that step on do.
     setBarLevel((m_level < 1 ? lastLevel : m_level) - 1);
     emit valueChanged(m_id, m_level);
 }

@@ -35,7 +35,8 @@ public:
     /// Moves the knob, without a signal. The level is kept as it is, even where the slider has no such level.
     void setBarLevel(int level);
     int getLevel() const { return m_level; }
-    /// y of the last touch; painting keeps it on the bar. Required; nothing here calls it.
+    /// y of the last touch; painting keeps it on the bar. Required: owners place by it what follows the finger. Nothing
+    /// here calls it.
     int lastTouchY() const { return m_lastTouchY; }
 
     /// y of the knob's top edge.

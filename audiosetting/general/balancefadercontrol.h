@@ -10,8 +10,9 @@ namespace settings {
 /// The touch pad of balance (left to right) and fader (up is front), each -15 to 15.
 ///
 /// A touch is turned into values and announced; the owner answers with setValueX(), setValueY() and updatePos(),
-/// which move the marker. The pad knows nothing of the audio service but its key beep. Getters, setcircleX() to
-/// setHlineY() and onUpdateBalance() are required; nothing here calls them.
+/// which move the marker. The pad knows nothing of the audio service but its key beep. Getters and setcircleX() to
+/// setHlineY() are required: pages of a unit's own that hold a pad read and place its marker by them. So is
+/// onUpdateBalance(): units invoke it by name. Nothing here calls them.
 class balanceFaderControl : public QLabel {
     Q_OBJECT
 public:

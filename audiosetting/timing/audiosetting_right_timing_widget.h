@@ -78,8 +78,8 @@ public Q_SLOTS:
     void onSubLeftPlus() { plusClicked(audiosetting::timing::SubLeft); }
     void onSubRightMinus() { minusClicked(audiosetting::timing::SubRight); }
     void onSubRightPlus() { plusClicked(audiosetting::timing::SubRight); }
-    /// Conversions between delays in 0.1 ms and paths in inches (timing/delayunits.h). Required; the page itself needs
-    /// onMsSwapInch() alone.
+    /// Conversions between delays in 0.1 ms and paths in inches (timing/delayunits.h). Required: units invoke them by
+    /// name. The page itself needs onMsSwapInch() alone.
     double onInchToDelayMs(int iInch);
     int onInchToVal(int iInch);
     int onInchSwapMs(int iInchVla);

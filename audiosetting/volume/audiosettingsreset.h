@@ -37,7 +37,7 @@ private Q_SLOTS:
     void onAcceptClicked();
     void onRejectClicked();
     void onDelayhidePop();
-    // Required; nothing here calls these four.
+    // Required: units invoke these four by name, to reset one page alone. Nothing here calls them.
     void makeEQDefaultEffect();
     void makeVolumeDefaultEffect();
     void makeCrossoverDefaultEffect();

@@ -16,7 +16,7 @@ public:
     explicit Audiosourcegainsettings(QWidget *parent);
     ~Audiosourcegainsettings() override;
 
-    // Required; nothing here calls these six.
+    // Required: a unit that sets a gain itself brings that row's keys up to date by these. Nothing here calls them.
     void updateBtnRadioState() { updateKeys(Radio); }
     void updateBtnCarPlayState() { updateKeys(CarPlay); }
     void updateBtnAndroidAutoState() { updateKeys(AndroidAuto); }

@@ -89,7 +89,7 @@ void Audiovolumsettings::initUi() {
             row.slider = createSlider(form.placeholder);
         }
         if (form.id == Main) {
-            m_scrollBar = addScrollBar(this, m_ui->scrollArea);
+            addScrollBar(this, m_ui->scrollArea);
             m_ui->scrollAreaWidgetContents->setGeometry(contentsGeometry());
         }
         configureSlider(row.slider, look);

@@ -15,7 +15,6 @@ struct LogPlace;
 }
 namespace cm {
 class LabelButton;
-class ScrollBar;
 class ScrollManage;
 }  // namespace cm
 namespace qvaudio {
@@ -97,6 +96,5 @@ private:
     cm::ScrollManage *m_scrollManage = nullptr;
     qvaudio::AudioService *m_audioService = nullptr;
     Row m_rows[RowCount];
-    cm::ScrollBar *m_scrollBar = nullptr;
     bool m_seen = false;  ///< shown, and not hidden since
 };

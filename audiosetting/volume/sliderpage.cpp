@@ -23,7 +23,7 @@ cm::ScrollManage *makeScrollable(QScrollArea *area) {
     return new cm::ScrollManage(area, true, false);
 }
 
-cm::ScrollBar *addScrollBar(QWidget *page, QScrollArea *area) {
+void addScrollBar(QWidget *page, QScrollArea *area) {
     const QRect geometry(56, 0, 24, 432);
     cm::ScrollBar *bar = new cm::ScrollBar(page, geometry, 0);
     bar->setVisible(true);
@@ -34,7 +34,6 @@ cm::ScrollBar *addScrollBar(QWidget *page, QScrollArea *area) {
     bar->setVisible(true);
     new ListFade(area, ListFade::Top, geometry.right() + 1);
     new ListFade(area, ListFade::Bottom, geometry.right() + 1);
-    return bar;
 }
 
 HorizontalSlider *createSlider(const QLabel *placeholder) {

@@ -10,7 +10,6 @@ class QScrollArea;
 class QWidget;
 
 namespace cm {
-class ScrollBar;
 class ScrollManage;
 }  // namespace cm
 
@@ -25,7 +24,7 @@ QRect sliderPageGeometry();
 cm::ScrollManage *makeScrollable(QScrollArea *area);
 /// Gives \a area the toolkit's scroll bar, which stands on the \a page itself, to the left of the rows, and belongs to
 /// it; and lets the rows fade out where there are more of them.
-cm::ScrollBar *addScrollBar(QWidget *page, QScrollArea *area);
+void addScrollBar(QWidget *page, QScrollArea *area);
 
 /// Pictures and values of a slider.
 struct SliderLook {

@@ -21,8 +21,10 @@ namespace audiosetting {
 
 namespace {
 
-const int maxRadioGain =
-    20;  // where Radio's plus stops, beyond the slider's end; required: only a stored gain leads there
+// Where Radio's plus stops, beyond the slider's end. Required: a unit may have stored a gain beyond that end, and a
+// step that it invokes by name must not pull it down. No touch leads there: the key is disabled from the slider's end
+// on.
+const int maxRadioGain = 20;
 
 // Safe for every value that the store may hold.
 int mcuGain(int gain) {
@@ -41,7 +43,7 @@ void SourceGainWidget::initUi() {
     if (!m_scrollManage) {
         m_scrollManage = makeScrollable(m_area);
     }
-    m_scrollBar = addScrollBar(this, m_area);
+    addScrollBar(this, m_area);
     const SliderLook look = {sourcegain::minGain, sourcegain::maxGain + 1,
                              QStringLiteral(":/corvina_volume_slider/volume_slider_bar_n_2.png")};
     for (int id = 0; id < RowCount; ++id) {

@@ -12,7 +12,6 @@ class QPushButton;
 class QScrollArea;
 
 namespace cm {
-class ScrollBar;
 class ScrollManage;
 }  // namespace cm
 
@@ -72,7 +71,6 @@ private:
     Row m_rows[RowCount];
     HorizontalSlider *m_sliders[RowCount] = {};
     int m_gains[RowCount] = {};
-    cm::ScrollBar *m_scrollBar = nullptr;
 };
 
 template <class Form> void SourceGainWidget::setForm(const Form &form, const Row &regional) {

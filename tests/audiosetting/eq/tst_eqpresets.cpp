@@ -194,6 +194,36 @@ private slots:
         QCOMPARE(reference::levels(page), curve(1));
     }
 
+    void holdThatEndsBesideTheKeyIsOver_data() { fivePresets_data(); }
+    void holdThatEndsBesideTheKeyIsOver() {
+        QFETCH(int, preset);
+        setLive(curve(preset));
+        Audiosetting_right_eq_widget page(nullptr);
+        show(&page);
+        QPushButton *const key = customKey(page, preset);
+        finger::press(key, key->rect().center());
+        advance(longPress);
+        QCOMPARE(recording::take(), QStringList{"doBeep(0)"} + saving(preset, curve(preset)));
+        // Leaving the key ends the hold as lifting from it does; lifting beside it adds nothing.
+        const QPoint beside(key->width() / 2, -40);
+        finger::move(key, beside);
+        QCOMPARE(recording::take(), QStringList{highlight(preset)});
+        finger::release(key, beside);
+        QCOMPARE(recording::take(), QStringList());
+        QCOMPARE(selected(page), preset);
+        // The next tap recalls.
+        const int level = curve(preset)[0] == 0 ? 24 : 0;
+        finger::tap(reference::sliders(page)[0], at(level));
+        advance(80);
+        QCOMPARE(selected(page), -1);
+        recording::clear();
+        finger::tap(key);
+        QCOMPARE(recording::take(),
+                 QStringList({"doBeep(0)", highlight(preset), lastPreset(preset), send(24 - curve(preset)[0], 0)}));
+        QCOMPARE(reference::levels(page), curve(preset));
+        QCOMPARE(selected(page), preset);
+    }
+
     void touchesOnNameAndPictureReachTheKey() {
         savePreset(0, curve(1));
         Audiosetting_right_eq_widget page(nullptr);

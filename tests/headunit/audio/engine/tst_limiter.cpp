@@ -235,7 +235,6 @@ void TestLimiter::reportsItsGain() {
     QVERIFY(limiter.takeLowestGains() == none);
 }
 
-/// Within half a period of a bass tone the gain must not come back at all, or it bends the tone.
 /// After a single peak the gain stays at its lowest for the hold, in whole groups, and not a group longer.
 void TestLimiter::holdsNoLongerThanItMust() {
     constexpr double lowest = 0.25;
@@ -258,6 +257,7 @@ void TestLimiter::holdsNoLongerThanItMust() {
     QVERIFY(held >= LimiterGain::holdFrames && held < LimiterGain::holdFrames + 4 * group);
 }
 
+/// Within half a period of a bass tone the gain must not come back at all, or it bends the tone.
 void TestLimiter::holdsThroughLowTones() {
     constexpr double goal = -100;
     for (const double hz : {20.0, 30.0, 40.0, 50.0, 100.0}) {
