@@ -205,7 +205,7 @@
     </message>
     <message id="20012">
         <source>Ringtone</source>
-        <translation>Tono de llamada</translation>
+        <translation>Tono</translation>
     </message>
     <message id="20013">
         <source>Phone</source>

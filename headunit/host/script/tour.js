@@ -13,6 +13,35 @@ function settle() {
     wait(3000);
 }
 
+// Draws a page's rows, as far as a finger gets in one go.
+function draw(from, to) {
+    press(120, from);
+    move(120, to);
+    release();
+    settle();
+}
+
+function drawUp() {
+    draw(560, 300);
+}
+
+function drawDown() {
+    draw(300, 560);
+}
+
+// Source Gain's pictures, from its first row to its last, and back; the end of their names tells the language.
+function sourceGain(end, title) {
+    shot("source_gain" + end + ".png", "Source gain" + title);
+    drawUp();
+    shot("source_gain_scrolled" + end + ".png", "Source gain, scrolled" + title);
+    drawUp();
+    drawUp();
+    shot("source_gain_end" + end + ".png", "Source gain, at its end" + title);
+    drawDown();
+    drawDown();
+    drawDown();
+}
+
 var tabs = [
     ["key_eq", "eq", "EQ"],
     ["key_crossover", "crossover", "Crossover"],
@@ -107,19 +136,20 @@ settle();
 shot("settings_loudness.png", "Settings, Loudness on");
 use("Key_003_source_gain");
 settle();
-shot("source_gain.png", "Source gain");
+sourceGain("", "");
 use("key_return");
 use("Key_004_vol_settings");
 settle();
 shot("volume.png", "Volume settings");
 tap("hardkey_volume_up");
 shot("volume_overlay.png", "Volume settings, level shown while the hard key turns it");
+tap("hardkey_mute");
+shot("volume_muted.png", "Volume settings, the sound muted by its hard key");
+tap("hardkey_mute");
 settle();
-press(120, 560);
-move(120, 300);
-release();
-settle();
+drawUp();
 shot("volume_scrolled.png", "Volume settings, scrolled");
+drawDown();
 use("key_return");
 use("Key_005_res_audio");
 settle();
@@ -127,6 +157,9 @@ shot("reset.png", "Reset audio settings");
 use("key_return");
 
 home();
+mute(true);
+shot("home_muted.png", "Home screen, the sound muted");
+mute(false);
 use("tile_bandadjust");
 shot("bandadjust.png", "Band adjust");
 for (var b = 0; b < 3; ++b) {
@@ -160,15 +193,25 @@ for (var l = 0; l < languages.length; ++l) {
     use("key_general");
     use("key_advanced");
     shot("settings_" + code + ".png", "Settings, " + name);
+    use("Key_003_source_gain");
+    settle();
+    sourceGain("_" + code, ", " + name);
+    use("key_return");
     use("Key_004_vol_settings");
     settle();
     shot("volume_" + code + ".png", "Volume settings, " + name);
+    drawUp();
+    shot("volume_scrolled_" + code + ".png", "Volume settings, scrolled, " + name);
+    drawDown();
     use("key_return");
     use("Key_005_res_audio");
     settle();
     shot("reset_" + code + ".png", "Reset audio settings, " + name);
     use("key_return");
     home();
+    mute(true);
+    shot("home_muted_" + code + ".png", "Home screen, the sound muted, " + name);
+    mute(false);
 }
 
 language("en");
