@@ -65,9 +65,10 @@ void DeskInput::push(const float *samples, size_t frames) {
         for (size_t side = 0; side < stereo; ++side) {
             const float sample = samples[frame * stereo + side];
             // Numbers that are none would spread over their neighbours.
-            const float whole = std::isfinite(sample) ? sample : 0;
-            m_ring[m_written % ringFrames * stereo + side] = whole;
-            isSilent = isSilent && whole == 0;
+            const bool isValid = std::isfinite(sample);
+            m_hadInvalid = m_hadInvalid || !isValid;
+            m_ring[m_written % ringFrames * stereo + side] = isValid ? sample : 0;
+            isSilent = isSilent && (!isValid || sample == 0);
         }
         m_silent = isSilent ? m_silent + 1 : 0;
     }
