@@ -182,13 +182,13 @@ void TestDeskSinks::whatIsNoNumberIsSilenceAndALine() {
     {
         const auto program =
             m_server->play("headunit_phone", std::vector<float>(4800, std::numeric_limits<float>::quiet_NaN()));
-        WAIT_FOR(said.text() == line);
+        WAIT_FOR(said.text().contains(line));
     }
     // Whoever plays next is heard as ever.
     const auto program = m_server->play("headunit_phone", std::vector<float>(4800, 0.5F));
     WAIT_FOR(unit.peak(FrontLeft) > 0.4F);
     QVERIFY(unit.peak(FrontLeft) <= 1);
-    QCOMPARE(said.text(), line);
+    QCOMPARE(said.text().count(line), 1);
 }
 
 QTEST_GUILESS_MAIN(TestDeskSinks)
