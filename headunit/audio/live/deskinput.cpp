@@ -38,10 +38,16 @@ DeskInput::DeskInput() : m_ring(ringFrames * stereo), m_piece(pieceFrames * ster
         soxr_set_input_fn(m_stretcher.get(), feed, this, pieceFrames);
         soxr_set_io_ratio(m_stretcher.get(), 1, 0);
     }
-    // It finds its pace, and the memory that it needs, before it is heard.
+    // It finds its pace, and the memory that it needs at any, before it is heard.
     std::vector<float> unheard(pieceFrames * stereo);
-    for (size_t done = 0; done < static_cast<size_t>(sampleRate); done += pieceFrames) {
-        fill(unheard.data(), pieceFrames);
+    for (const double stretch : {1 + largestStretch, 1 - largestStretch, 1.0}) {
+        if (m_stretcher) {
+            soxr_set_io_ratio(m_stretcher.get(), stretch, 0);
+        }
+        for (size_t done = 0, frames = 0; done < static_cast<size_t>(sampleRate); done += frames) {
+            frames = 1 + done * 97 % pieceFrames;
+            fill(unheard.data(), frames);
+        }
     }
     m_dropouts = 0;
 }
