@@ -38,10 +38,16 @@ DeskInput::DeskInput() : m_ring(ringFrames * stereo), m_piece(pieceFrames * ster
         soxr_set_input_fn(m_stretcher.get(), feed, this, pieceFrames);
         soxr_set_io_ratio(m_stretcher.get(), 1, 0);
     }
-    // It finds its pace, and the memory that it needs, before it is heard.
+    // It finds its pace, and the memory that it needs at any, before it is heard.
     std::vector<float> unheard(pieceFrames * stereo);
-    for (size_t done = 0; done < static_cast<size_t>(sampleRate); done += pieceFrames) {
-        fill(unheard.data(), pieceFrames);
+    for (const double stretch : {1 + largestStretch, 1 - largestStretch, 1.0}) {
+        if (m_stretcher) {
+            soxr_set_io_ratio(m_stretcher.get(), stretch, 0);
+        }
+        for (size_t done = 0, frames = 0; done < static_cast<size_t>(sampleRate); done += frames) {
+            frames = 1 + done * 97 % pieceFrames;
+            fill(unheard.data(), frames);
+        }
     }
     m_dropouts = 0;
 }
@@ -65,9 +71,10 @@ void DeskInput::push(const float *samples, size_t frames) {
         for (size_t side = 0; side < stereo; ++side) {
             const float sample = samples[frame * stereo + side];
             // Numbers that are none would spread over their neighbours.
-            const float whole = std::isfinite(sample) ? sample : 0;
-            m_ring[m_written % ringFrames * stereo + side] = whole;
-            isSilent = isSilent && whole == 0;
+            const bool isValid = std::isfinite(sample);
+            m_hadInvalid = m_hadInvalid || !isValid;
+            m_ring[m_written % ringFrames * stereo + side] = isValid ? sample : 0;
+            isSilent = isSilent && (!isValid || sample == 0);
         }
         m_silent = isSilent ? m_silent + 1 : 0;
     }

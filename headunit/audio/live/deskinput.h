@@ -29,8 +29,10 @@ public:
     /// \a changed is called when programs begin to be heard, or no longer are.
     void setListener(std::function<void(bool active)> changed) { m_changed = std::move(changed); }
 
-    /// Takes \a frames of left and right in turn, any numbers. May call the listener.
+    /// Takes \a frames of left and right in turn; what is no number, or infinite, is silence. May call the listener.
     void push(const float *stereo, size_t frames);
+    /// Whether such samples have come.
+    bool hasHadInvalid() const { return m_hadInvalid; }
     /// Nothing more comes for the time being.
     void stop();
 
@@ -65,6 +67,7 @@ private:
     double m_level = 0;  ///< frames that wait, smoothed
     double m_stretch = 1;
     std::atomic<bool> m_active{false};
+    bool m_hadInvalid = false;
     bool m_playing = false;  ///< enough has come to begin with
     std::atomic<unsigned> m_dropouts{0};
 };

@@ -5,6 +5,7 @@
 #include <pulse/proplist.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstring>
 #include <random>
 
@@ -26,6 +27,11 @@ constexpr NameRow nameRows[] = {{MainInput, "", ""},
                                 {NavigationInput, "_navigation", " navigation"},
                                 {VoiceInput, "_voice", " voice"},
                                 {AnnouncementInput, "_announcement", " announcement"}};
+
+const NameRow &rowOf(Input input) {
+    return *std::find_if(std::begin(nameRows), std::end(nameRows),
+                         [input](const NameRow &row) { return row.input == input; });
+}
 
 constexpr char markArgument[] = "headunit.unit=";
 constexpr char numberArgument[] = "headunit.number=";
@@ -137,8 +143,7 @@ void DeskSinks::offer() {
 }
 
 void DeskSinks::load(Channel *channel, int number) {
-    const NameRow &row = *std::find_if(std::begin(nameRows), std::end(nameRows),
-                                       [channel](const NameRow &r) { return r.input == channel->input; });
+    const NameRow &row = rowOf(channel->input);
     const std::string properties = "device.description='" + numbered("Head unit", " ", number) + row.title + "' " +
                                    markArgument + m_mark + ' ' + numberArgument + std::to_string(number) +
                                    " device.icon_name=com.norvale.headunit";
@@ -198,6 +203,16 @@ void DeskSinks::hear(Channel *channel) {
             m_inputs[channel->input]->push(static_cast<const float *>(samples), bytes / (stereo * sizeof(float)));
         }
         pa_stream_drop(channel->stream);
+    }
+    sayInvalid(channel);
+}
+
+/// Once, as a program that sends such samples sends many.
+void DeskSinks::sayInvalid(Channel *channel) {
+    if (!channel->saidInvalid && m_inputs[channel->input]->hasHadInvalid()) {
+        channel->saidInvalid = true;
+        std::fprintf(stderr, "headunit: a program plays samples that are no numbers on \"%s\"; they are silence\n",
+                     ("Head unit" + std::string(rowOf(channel->input).title)).c_str());
     }
 }
 

@@ -56,6 +56,7 @@ private:
         engine::Input input;
         uint32_t module = PA_INVALID_INDEX;
         pa_stream *stream = nullptr;
+        bool saidInvalid = false;
     };
 
     void modulesFound(const pa_module_info *module);
@@ -64,6 +65,7 @@ private:
     void load(Channel *channel, int number);
     void record(Channel *channel, const pa_sink_info &device);
     void hear(Channel *channel);
+    void sayInvalid(Channel *channel);
 
     pa_context *const m_context;
     const std::string m_mark;

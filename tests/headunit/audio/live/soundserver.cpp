@@ -58,9 +58,19 @@ bool SoundServer::answers() const {
     return control({"info"}).contains("Server Name");
 }
 
-void SoundServer::plugIn(const QString &device, const QString &channels, int rate, const QString &format) {
-    control({"load-module", "module-null-sink", "sink_name=" + device, QStringLiteral("rate=%1").arg(rate),
-             "format=" + format, QStringLiteral("channels=%1").arg(channelCount(channels)), "channel_map=" + channels});
+void SoundServer::plugIn(const QString &device, const QString &channels, int rate, const QString &format,
+                         const QString &properties) {
+    QStringList module = {"load-module",
+                          "module-null-sink",
+                          "sink_name=" + device,
+                          QStringLiteral("rate=%1").arg(rate),
+                          "format=" + format,
+                          QStringLiteral("channels=%1").arg(channelCount(channels)),
+                          "channel_map=" + channels};
+    if (!properties.isEmpty()) {
+        module << "sink_properties=\"" + properties + '"';
+    }
+    control(module);
 }
 
 void SoundServer::unplug(const QString &device) {
@@ -127,6 +137,23 @@ std::unique_ptr<QProcess> SoundServer::record(const QString &device, const QStri
                               QStringLiteral("--channels=%1").arg(channelCount(channels)), "--channel-map=" + channels,
                               "--device=" + device + ".monitor"});
     return recorder;
+}
+
+std::unique_ptr<QProcess> SoundServer::play(const QString &device, const std::vector<float> &samples, int rate) const {
+    auto player = std::make_unique<ChildProcess>();
+    player->setProcessEnvironment(m_environment);
+    player->start("pacat", {"--playback", "--raw", "--format=float32le", "--channels=1", "--latency-msec=50",
+                            QStringLiteral("--rate=%1").arg(rate), "--device=" + device});
+    const QByteArray bytes(reinterpret_cast<const char *>(samples.data()),
+                           static_cast<int>(samples.size() * sizeof(float)));
+    // It takes more whenever it has played some.
+    QObject::connect(player.get(), &QProcess::bytesWritten, player.get(), [process = player.get(), bytes] {
+        if (process->bytesToWrite() < bytes.size()) {
+            process->write(bytes);
+        }
+    });
+    player->write(bytes);
+    return player;
 }
 
 QString SoundServer::control(const QStringList &arguments) const {

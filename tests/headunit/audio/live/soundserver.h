@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 
 #include <memory>
+#include <vector>
 
 /// A sound server of the test's own, without a device at first; nothing is heard.
 class SoundServer {
@@ -25,7 +26,7 @@ public:
     bool answers() const;
     /// Plugs a device in, with channels like "front-left,front-right". The first one is the default.
     void plugIn(const QString &device, const QString &channels, int rate = 48000,
-                const QString &format = QStringLiteral("float32le"));
+                const QString &format = QStringLiteral("float32le"), const QString &properties = QString());
     void unplug(const QString &device);
     void makeDefault(const QString &device);
     /// Takes all streams to another device, as a mixer's user does.
@@ -41,6 +42,8 @@ public:
     /// Starts to record what a device plays on \a channels, as raw numbers of 16 bits; stops when the process is
     /// deleted.
     std::unique_ptr<QProcess> record(const QString &device, const QString &channels) const;
+    /// Starts a program that plays on a device, over and over again, floats of a single channel.
+    std::unique_ptr<QProcess> play(const QString &device, const std::vector<float> &samples, int rate = 48000) const;
 
     static constexpr char sixChannels[] = "front-left,front-right,rear-left,rear-right,side-left,side-right";
     static constexpr char surround51[] = "front-left,front-right,rear-left,rear-right,front-center,lfe";

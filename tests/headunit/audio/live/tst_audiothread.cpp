@@ -192,10 +192,25 @@ std::vector<SoundState> statesOfUse() {
     state.delay = {1, 22, 13, 44, 5, 76};
     state.balance = 5;
     states.push_back(state);
+    state.activePrompts.fill(true);
+    states.push_back(state);
     state.defeat = true;
     state.muted = true;
     states.push_back(state);
+    state.activePrompts.fill(false);
+    states.push_back(state);
     return states;
+}
+
+const std::vector<float> programSound(6000, 0.1F);
+
+/// Programs of the desk play on every input that they can, a little less than the loudspeakers take.
+void playPrograms(Player *player, size_t frames) {
+    for (size_t input = 0; input < inputCount; ++input) {
+        if (DeskInput *const programs = player->deskInput(static_cast<Input>(input))) {
+            programs->push(programSound.data(), frames - frames / 100);
+        }
+    }
 }
 
 }  // namespace
@@ -231,7 +246,7 @@ void TestAudioThread::playsAlone_data() {
     for (const double rate : {8000.0, 44100.0, 96000.0, 192000.0}) {
         QTest::addRow("music at %g Hz", rate) << "music" << rate;
     }
-    for (const char *what : {"music", "noise", "sweep", "loudspeakers", "silence"}) {
+    for (const char *what : {"music", "noise", "sweep", "loudspeakers", "silence", "desk"}) {
         QTest::newRow(what) << QString::fromLatin1(what) << sampleRate;
     }
     for (const double seconds : {0.1, 2.0}) {
@@ -256,7 +271,9 @@ void TestAudioThread::playsAlone() {
     const Counts done = count(
         [&] {
             while (!ended) {
-                sound.fill(out.data(), 1 + static_cast<size_t>(played * 97) % blockFrames);
+                const size_t frames = 1 + static_cast<size_t>(played * 97) % blockFrames;
+                playPrograms(&player, frames);
+                sound.fill(out.data(), frames);
                 ++played;
             }
         },
@@ -275,6 +292,10 @@ void TestAudioThread::playsAlone() {
             ended = true;
         });
     QVERIFY(!sound.hasEnded());
+    for (size_t input = 0; input < inputCount; ++input) {
+        QVERIFY(!player.deskInput(static_cast<Input>(input)) ||
+                player.deskInput(static_cast<Input>(input))->isActive());
+    }
     qInfo("%d blocks: %d allocations, %d locks, %d system calls", played.load(), done.allocations, done.locks,
           done.systemCalls);
     QCOMPARE(done.allocations, 0);

@@ -154,8 +154,10 @@ void TestDeskInput::numbersThatAreNone() {
     for (const float number : {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {
         Desk desk;
         desk.run(0.5);
+        QVERIFY(!desk.input.hasHadInvalid());
         const std::vector<float> samples(480, number);
         desk.input.push(samples.data(), 240);
+        QVERIFY(desk.input.hasHadInvalid());
         desk.run(0.5);
         QVERIFY(std::all_of(desk.heard.begin(), desk.heard.end(), [](float x) { return std::abs(x) < 0.5F; }));
         QVERIFY(std::abs(desk.heard[desk.heard.size() - 48]) > 0);

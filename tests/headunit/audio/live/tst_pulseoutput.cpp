@@ -3,6 +3,7 @@
 
 #include "headunit/audio/live/player.h"
 #include "soundserver.h"
+#include "standarderror.h"
 #include "tests/headunit/audio/engine/rendering.h"
 
 #include <QFile>
@@ -11,39 +12,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 using namespace headunit;
 
 namespace {
 
 constexpr int patience = 60000;                       // ms
 constexpr auto retry = std::chrono::milliseconds(5);  // between two looks for what is missing
-
-/// Standard error goes into a file as long as this lives.
-class StandardError {
-public:
-    explicit StandardError(const QString &file) : m_file(file) {
-        const int descriptor =
-            open(qPrintable(file), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, S_IRUSR | S_IWUSR);
-        dup2(descriptor, STDERR_FILENO);
-        close(descriptor);
-    }
-    ~StandardError() {
-        dup2(m_usual, STDERR_FILENO);
-        close(m_usual);
-    }
-
-    QByteArray text() {
-        QFile file(m_file);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-private:
-    const QString m_file;
-    const int m_usual = dup(STDERR_FILENO);
-};
 
 const QByteArray noServer = "headunit: no sound server answers, so the unit is silent until one does\n";
 const QByteArray noDevice = "headunit: the sound server has no device, so the unit is silent until it has one\n";
