@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Checks that includes run one way: app -> navigation -> pages -> base -> platform, and never between product and unit.
+"""Checks that includes run one way, in the product (app -> navigation -> pages -> base -> platform) and in the reference
+unit (the table UNIT), and never between the two.
 
     tools/check_includes.py [ROOT]     prints each include that breaks a rule, and fails if there is one
 
@@ -23,8 +24,19 @@ PRODUCT = {
     "resources": set(),
 }
 
-# The reference unit: its host uses everything else of it, and nothing uses the host.
-HOST = "headunit/host"
+# Rooms of the reference unit, likewise. The host uses all of them, and none uses the host.
+UNIT = {
+    "settings": set(),
+    "toolkit": {"settings"},
+    "audio/service": {"settings"},
+    "mcu": {"audio/service", "settings"},
+    "audio/engine": {"audio/service"},
+    "audio/files": {"audio/engine", "audio/service"},
+    "audio/live": {"audio/service", "audio/engine", "audio/files"},
+    "desk": {"settings", "toolkit", "audio/service", "audio/engine", "audio/live"},
+    "virtualtime": set(),
+}
+UNIT["host"] = set(UNIT)
 
 # The one file that shows the panel which the product exports.
 PANEL = ("headunit/host/screens/bandadjustpanel.cpp", "audiosetting/eq/eqwidget.h")
@@ -32,7 +44,7 @@ PANEL = ("headunit/host/screens/bandadjustpanel.cpp", "audiosetting/eq/eqwidget.
 # Whoever knows the contract alone.
 CONTRACT_ONLY = ("examples", "conformance")
 
-ROOMS = ("platform", "audiosetting", "headunit", "tests", "bench", *CONTRACT_ONLY)
+ROOMS = ("platform", "audiosetting", "headunit", "tests", "bench", "cmake", *CONTRACT_ONLY)
 SOURCES = {".h", ".cpp", ".ui", ".in"}
 INCLUDE = re.compile(r'^\s*#\s*include\s*[<"]([^>"]+)[>"]')
 FORM_HEADER = re.compile(r"<header(?: [^>]*)?>([^<]+)</header>")
@@ -78,16 +90,15 @@ def reason(source, header):
         return "only tests include tests"
     if to == "bench" and room != "bench":
         return "nothing includes measurements"
+    if to == "cmake" and room not in ("cmake", "tests"):
+        return "generated sources alone include it"
+    if room == "cmake" and to not in ("cmake", "platform"):
+        return "it knows the contract at most"
     if room in CONTRACT_ONLY and to not in (room, "platform"):
         return "it knows the contract alone"
     if room == "audiosetting":
         return product_reason(source, header)
-    if room == "headunit":
-        if to == "audiosetting" and (str(source), str(header)) != PANEL:
-            return "the reference unit does not know the product"
-        if str(header).startswith(HOST + "/") and not str(source).startswith(HOST + "/"):
-            return "the unit's libraries do not know its host"
-    return None
+    return unit_reason(source, header) if room == "headunit" else None
 
 
 def product_reason(source, header):
@@ -105,6 +116,25 @@ def product_reason(source, header):
     if there not in PRODUCT[here]:
         return f"{here} stands below {there}" if here in PRODUCT.get(there, ()) else f"{here} may not use {there}"
     return None
+
+
+def unit_room(path):
+    return "/".join(path.parts[1:3]) if path.parts[1] == "audio" else path.parts[1]
+
+
+def unit_reason(source, header):
+    if header.parts[0] == "audiosetting":
+        return None if (str(source), str(header)) == PANEL else "the reference unit does not know the product"
+    if header.parts[0] != "headunit":
+        return None
+    here, there = unit_room(source), unit_room(header)
+    if here not in UNIT:
+        return f"no rule for headunit/{here}"
+    if there == here or there in UNIT[here]:
+        return None
+    if there == "host":
+        return "the unit's libraries do not know its host"
+    return f"{here} stands below {there}" if here in UNIT.get(there, ()) else f"{here} may not use {there}"
 
 
 def violations(root):

@@ -26,7 +26,6 @@ namespace {
 
 const int commitDelay = 80;     // ms; a drag sends the curve at most once in this time
 const int selectionDelay = 20;  // ms from showing a factory curve to the selection of a preset
-const int resetBandCount = 10;
 
 const int scaleLines[] = {82, 149, 219};  // px: the knob's middle at +12, 0 and -12 dB
 const int dragValueY = 42;                // px, among the bands: between the up key and the slider
@@ -171,7 +170,7 @@ void Audiosetting_right_eq_widget::onUpdateCustomEqData() {
 void Audiosetting_right_eq_widget::onResetEqValue() {
     audio()->setEQType(AudioEQFlat, true);
     // The last three bands keep their levels. Required: the command covers ten bands, here as on the panel.
-    for (int band = 0; band < resetBandCount; ++band) {
+    for (int band = 0; band < eq::resetBandCount; ++band) {
         setEqBarValue(band, eq::flatLevel);
     }
     onSaveCustomEqValue();
@@ -319,10 +318,10 @@ void Audiosetting_right_eq_widget::savePreset(int preset) {
 }
 
 void Audiosetting_right_eq_widget::saveCustomEqValue(int preset, int section, int value) {
-    AUDIO_LOG << "slot:" << preset << "section:" << section << "value:" << value;
+    AUDIO_LOG << "preset:" << preset << "section:" << section << "value:" << value;
     eq::lastPreset().write(preset);
     if (!eq::isPreset(preset)) {
-        AUDIO_LOG << "no such slot:" << preset;
+        AUDIO_LOG << "no such preset:" << preset;
         return;
     }
     m_presetKeys.setLongClick(preset, true);
@@ -335,7 +334,7 @@ void Audiosetting_right_eq_widget::saveCustomEqValue(int preset, int section, in
 
 void Audiosetting_right_eq_widget::updateCustomEqByType(int preset, int band, int level) {
     if (!eq::isPreset(preset) || !eq::isBand(band)) {
-        AUDIO_LOG << "no such slot or band:" << preset << band;
+        AUDIO_LOG << "no such preset or band:" << preset << band;
         return;
     }
     eq::presetLevel(preset, band).write(level);

@@ -13,6 +13,7 @@ namespace eq {
 
 const int presetCount = 5;  ///< curves of the driver's own
 const int noPreset = -1;
+const int resetBandCount = 10;  ///< bands from the lowest that the reset command covers
 
 inline bool isBand(int band) {
     return band >= 0 && band < eqBandCount;

@@ -26,7 +26,6 @@ namespace audiosetting {
 namespace {
 
 const int sendInterval = 50;  // ms; a moving finger sends at most one value in this time
-const int resetBandCount = 10;
 
 const int barWidth = 16;
 const QRect sliderRect(38, 60, 60, 371);  // px, of the first band
@@ -306,7 +305,7 @@ void EQWidget::onResetEqValue() {
     audio()->doBeep(0);
     audio()->setEQType(AudioEQFlat, true);
     // The last three bands are left as they are. Required: the command covers the ten bands that the panel shows.
-    for (int band = 0; band < resetBandCount; ++band) {
+    for (int band = 0; band < eq::resetBandCount; ++band) {
         setEqBarValue(band, eq::flatLevel);
     }
     onSaveCustomEqValue();

@@ -149,7 +149,7 @@ void Audiovolumsettings::load() {
         row.level = volume::level(row.type).value();
     }
     for (int id = 0; id < RowCount; ++id) {
-        showLevel(RowId(id));
+        applyLevel(RowId(id));
     }
 }
 
@@ -204,14 +204,14 @@ void Audiovolumsettings::onMainVolumPlus() {
     // unit may store a louder level than this page reaches, which a touch must not change.
     level = level > volume::maxLevel ? level : level + 1;
     m_audioService->doBeep(0);
-    showLevel(Main);
+    applyLevel(Main);
     sendLevel(Main);
 }
 
 void Audiovolumsettings::onMainVolumMinus() {
     m_rows[Main].level = lowered(m_rows[Main].level);
     m_audioService->doBeep(0);
-    showLevel(Main);
+    applyLevel(Main);
     sendLevel(Main);
 }
 
@@ -220,14 +220,14 @@ void Audiovolumsettings::onPhoneVolumPlus() {
     m_audioService->doBeep(0);
     // The only key that stores its level. Required: the others leave it to the services.
     volume::level(m_rows[Phone].type).write(m_rows[Phone].level);
-    showLevel(Phone);
+    applyLevel(Phone);
     sendLevel(Phone);
 }
 
 void Audiovolumsettings::onPhoneVolumMinus() {
     m_rows[Phone].level = lowered(m_rows[Phone].level);
     // The slider moves before the beep. Required: services see the slider's level first.
-    showLevel(Phone);
+    applyLevel(Phone);
     m_audioService->doBeep(0);
     sendLevel(Phone);
 }
@@ -235,18 +235,18 @@ void Audiovolumsettings::onPhoneVolumMinus() {
 void Audiovolumsettings::stepUp(RowId id) {
     m_audioService->doBeep(0);
     m_rows[id].level = raised(m_rows[id].level);
-    showLevel(id);
+    applyLevel(id);
     sendLevel(id);
 }
 
 void Audiovolumsettings::stepDown(RowId id) {
     m_audioService->doBeep(0);
     m_rows[id].level = lowered(m_rows[id].level);
-    showLevel(id);
+    applyLevel(id);
     sendLevel(id);
 }
 
-void Audiovolumsettings::showLevel(RowId id) {
+void Audiovolumsettings::applyLevel(RowId id) {
     m_rows[id].slider->setValue(m_rows[id].level);
 }
 

@@ -88,7 +88,8 @@ private:
     void changedBySlider(const audiosetting::LogPlace &slot, RowId id, int comparedType, int value);
     void stepUp(RowId id);
     void stepDown(RowId id);
-    void showLevel(RowId id);
+    /// Sets the slider, whose notification sends a level that is new to the audio service.
+    void applyLevel(RowId id);
     void sendLevel(RowId id);
     void updateKeys(RowId id);
 

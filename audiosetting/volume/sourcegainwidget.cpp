@@ -85,7 +85,7 @@ void SourceGainWidget::retranslateUi() {
 
 void SourceGainWidget::resume() {
     for (RowId id : {Radio, Usb, BtMusic, CarPlay, AndroidAuto, Regional}) {
-        showStored(id);
+        loadStored(id);
     }
     for (int id = 0; id < RowCount; ++id) {
         m_gains[id] = sourcegain::gain(m_rows[id].source).value();
@@ -95,7 +95,7 @@ void SourceGainWidget::resume() {
     }
 }
 
-void SourceGainWidget::showStored(RowId id) {
+void SourceGainWidget::loadStored(RowId id) {
     const Row &row = m_rows[id];
     // A slider that shows another source's gain must not make it its own, which its notification would.
     const QSignalBlocker quiet(row.shownSource == row.source ? nullptr : m_sliders[id]);

@@ -63,7 +63,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void showStored(RowId id);
+    /// Sets the slider, whose notification stores and sends a gain that is new to it.
+    void loadStored(RowId id);
     void setGain(RowId id, int gain);
 
     QScrollArea *m_area = nullptr;

@@ -40,7 +40,7 @@ const Key delayKeys[] = {
 /// The keys that both leave alone.
 const char *const keptByFlat[] = {
     "crossover/type",
-    "crossover/PRESET_ENABLE0",
+    "crossover/PRESET_SWITCH0",
     "crossover/PRESET_FRONT_FREQ0",
     "timing/type",
     "timing/PRESET_ENABLE1",

@@ -113,7 +113,7 @@ WRAP(void, storeFlatCrossover, "_ZN18AudioSettingsUtils13flatCrossoverEv", Audio
         put("crossover/type", 0);
     }
     if (faulty("flat-takes-presets")) {
-        put("crossover/PRESET_ENABLE0", 0);
+        put("crossover/PRESET_SWITCH0", 0);
     }
     if (faulty("flat-takes-delays")) {
         put("timing/DATA_TYPE2", 0);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A monkey at the unit: touches, drags, held keys, hard keys, other applications, languages, calls, at random.
 // The variables seed and steps stand before this script; see the program monkey beside it.
 

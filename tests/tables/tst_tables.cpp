@@ -3,6 +3,7 @@
 
 #include "base/texts.h"
 #include "base/touchpagerequest.h"
+#include "conformance/checks/keys.h"
 #include "crossover/crossoversettings.h"
 #include "eq/eqsettings.h"
 #include "eq/eqtable.h"
@@ -11,20 +12,24 @@
 #include "headunit/audio/engine/parameters.h"
 #include "headunit/audio/service/soundstate.h"
 #include "headunit/audio/service/soundtables.h"
+#include "headunit/desk/setups/setuptable.h"
 #include "headunit/host/app/pagerequest.h"
 #include "headunit/host/screens/texts.h"
 #include "headunit/settings/audiokeys.h"
 #include "timing/delayunits.h"
 #include "timing/timingsettings.h"
+#include "volume/resetsettings.h"
 #include "volume/sourcegainsettings.h"
 #include "volume/volumesettings.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>
 
 #include <iterator>
+#include <optional>
 
 using namespace audiosetting;
 using headunit::CrossoverFilter;
@@ -40,9 +45,107 @@ struct SettingRow {
     SettingKey unit;
 };
 
+/// A setting of a page as a set-up has it.
+struct StoredSetting {
+    QString function;  ///< of the page's settings header: "eq::liveBand"
+    Setting page;
+    std::optional<Range> range;  ///< where the page has one
+};
+
+constexpr Range flag = {0, 1};
+constexpr Range eqPreset = {0, eq::presetCount - 1};
+constexpr Range crossoverChannel = {0, crossover::channelCount - 1};
+constexpr Range delay = {0, timing::maxDelay};
+constexpr Range volumeLevel = {volume::minLevel, volume::maxLevel};
+
+std::optional<Range> rangeOfFilter(int channel, int field) {
+    switch (field) {
+        case crossover::Freq:
+            return Range{0, crossover::frequencyCount(channel) - 1};
+        case crossover::Level:
+            return Range{0, crossover::maxLevel};
+        case crossover::Slope:
+            return Range{crossover::minSlope, crossover::maxSlope};
+        default:
+            return std::nullopt;
+    }
+}
+
+/// Every setting of the pages.
+QVector<StoredSetting> storedSettings() {
+    constexpr Range balanceFader = {-general::maxBalanceFader, general::maxBalanceFader};
+    QVector<StoredSetting> all = {
+        {"general::defeat", general::defeat(), flag},
+        {"general::eqTypeBeforeDefeat", general::eqTypeBeforeDefeat(), std::nullopt},
+        {"general::loudness", general::loudness(), flag},
+        {"general::subwooferOn", general::subwooferOn(), flag},
+        {"general::subwooferLevel", general::subwooferLevel(), Range{0, general::maxSubwooferLevel}},
+        {"general::subwooferPhase", general::subwooferPhase(), flag},
+        {"general::balance", general::balance(), balanceFader},
+        {"general::fader", general::fader(), balanceFader},
+        {"eq::lastPreset", eq::lastPreset(), eqPreset},
+        {"eq::highlightedPreset", eq::highlightedPreset(), Range{eq::noPreset, eqPreset.high}},
+        {"crossover::type", crossover::type(), crossoverChannel},
+        {"timing::unit", timing::unit(), flag},
+    };
+    for (int band = 0; band < eqBandCount; ++band) {
+        // Set by the EQ page and by the panel, which count from different ends: ranges() has it.
+        all << StoredSetting{"eq::liveBand", eq::liveBand(band), std::nullopt};
+    }
+    for (int preset = 0; preset < eq::presetCount; ++preset) {
+        all << StoredSetting{"eq::presetSaved", eq::presetSaved(preset), flag};
+        for (int band = 0; band < eqBandCount; ++band) {
+            all << StoredSetting{"eq::presetLevel", eq::presetLevel(preset, band), Range{0, eq::maxLevel}};
+        }
+    }
+    for (int channel = 0; channel < crossover::channelCount; ++channel) {
+        for (int field = 0; field < crossover::fieldCount; ++field) {
+            const std::optional<Range> range = rangeOfFilter(channel, field);
+            all << StoredSetting{"crossover::current", crossover::current(channel, field), range};
+            for (int preset = 0; preset < crossover::presetCount; ++preset) {
+                all << StoredSetting{"crossover::preset", crossover::preset(channel, field, preset), range};
+            }
+        }
+    }
+    for (int preset = 0; preset < crossover::presetCount; ++preset) {
+        all << StoredSetting{"crossover::presetSaved", crossover::presetSaved(preset), flag}
+            << StoredSetting{"crossover::presetType", crossover::presetType(preset), crossoverChannel};
+    }
+    for (int output = 0; output < timing::outputCount; ++output) {
+        all << StoredSetting{"timing::delay", timing::delay(output), delay}
+            << StoredSetting{"reset::delay", reset::delay(output), delay};
+        for (int preset = 0; preset < timing::presetCount; ++preset) {
+            all << StoredSetting{"timing::presetDelay", timing::presetDelay(preset, output), delay};
+        }
+    }
+    for (int preset = 0; preset < timing::presetCount; ++preset) {
+        all << StoredSetting{"timing::presetSaved", timing::presetSaved(preset), flag};
+    }
+    for (int channel = 0; channel < volume::channelCount; ++channel) {
+        all << StoredSetting{"volume::level", volume::level(channel), volumeLevel};
+    }
+    for (int type = volume::Main; type <= volume::Voice; ++type) {
+        all << StoredSetting{"reset::defaultVolume", reset::defaultVolume(type), volumeLevel};
+    }
+    for (int source = 0; source < sourcegain::sourceCount; ++source) {
+        all << StoredSetting{"sourcegain::gain", sourcegain::gain(source),
+                             Range{sourcegain::minGain, sourcegain::maxGain}};
+    }
+    return all;
+}
+
 QString keyOf(const SettingKey &key, int number) {
     const QString name = QString::fromLatin1(key.name);
     return name.contains(QLatin1String("%1")) ? name.arg(number) : name;
+}
+
+/// Poles of the sections in a row.
+int filterOrder(const headunit::engine::CrossoverSections &sections) {
+    int order = 0;
+    for (const headunit::engine::Biquad &section : sections) {
+        order += section.a2 != 0 ? 2 : int(section.a1 != 0);
+    }
+    return order;
 }
 
 /// "1.6k" or "25 Hz" in Hz.
@@ -54,6 +157,25 @@ double hertz(const QString &text) {
 QString contents(const QString &file) {
     QFile source(file);
     return source.open(QFile::ReadOnly) ? QString::fromUtf8(source.readAll()) : QString();
+}
+
+/// The functions of the pages' settings headers that give a setting: "eq::liveBand".
+QSet<QString> settingFunctions() {
+    const QRegularExpression room(QStringLiteral("^namespace (?!audiosetting)(\\w+) "),
+                                  QRegularExpression::MultilineOption);
+    const QRegularExpression function(QStringLiteral("^(?:inline |const )*Setting &?(\\w+)\\("),
+                                      QRegularExpression::MultilineOption);
+    QSet<QString> functions;
+    QDirIterator headers(QStringLiteral(PRODUCT_DIR), {QStringLiteral("*settings.h")}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (headers.hasNext()) {
+        const QString text = contents(headers.next());
+        QRegularExpressionMatchIterator found = function.globalMatch(text);
+        while (found.hasNext()) {
+            functions.insert(room.match(text).captured(1) + QStringLiteral("::") + found.next().captured(1));
+        }
+    }
+    return functions;
 }
 
 /// The ids of a table of texts that have a text.
@@ -84,6 +206,9 @@ private Q_SLOTS:
     void settings();
     void families();
     void ranges();
+    void setups();
+    void setupsKnowEverySetting();
+    void conformanceKeys();
     void crossoverFrequencies();
     void crossoverSlopes();
     void delaySteps();
@@ -99,7 +224,6 @@ void TestTables::counts() {
     QCOMPARE(int(volume::channelCount), int(SoundState::channels));
     QCOMPARE(int(sourcegain::sourceCount), int(SoundState::sources));
     QCOMPARE(int(timing::outputCount), int(SoundState::outputs));
-    QCOMPARE(headunit::keys::outputs, int(SoundState::outputs));
 }
 
 void TestTables::curves() {
@@ -207,6 +331,56 @@ void TestTables::ranges() {
     QCOMPARE(eq::maxLevel - eq::flatLevel, headunit::neutralBandValue);
 }
 
+/// Key, default and range of each value of a set-up file.
+void TestTables::setups() {
+    QSet<QString> keys;
+    for (const StoredSetting &setting : storedSettings()) {
+        const headunit::SetupValue *const value = headunit::setupValueOfKey(setting.page.key());
+        const QByteArray what = setting.page.key().toUtf8();
+        QVERIFY2(value, what);
+        QVERIFY2(value->defaultValue == setting.page.defaultValue().toInt(), what);
+        if (setting.range) {
+            QVERIFY2(value->low == setting.range->low && value->high == setting.range->high, what);
+        }
+        keys << setting.page.key();
+    }
+    // And nothing that no page has, but for what the audio service keeps itself.
+    keys << QString::fromLatin1(headunit::keys::eqType.name);
+    for (const headunit::SetupValue &value : headunit::setupValues()) {
+        QVERIFY2(keys.contains(value.key), qPrintable(value.key));
+    }
+    QCOMPARE(keys.size(), headunit::setupValues().size());
+}
+
+void TestTables::setupsKnowEverySetting() {
+    QSet<QString> compared;
+    for (const StoredSetting &setting : storedSettings()) {
+        compared << setting.function;
+    }
+    const QSet<QString> functions = settingFunctions();
+    QCOMPARE(QStringList((functions - compared).values()).join(QStringLiteral(", ")), QString());
+    QCOMPARE(QStringList((compared - functions).values()).join(QStringLiteral(", ")), QString());
+    QVERIFY(functions.size() > 20);
+}
+
+/// The kit, which includes neither side, disturbs and watches keys that there are, and knows what they are when flat.
+void TestTables::conformanceKeys() {
+    QHash<QString, int> defaults;
+    for (const StoredSetting &setting : storedSettings()) {
+        defaults.insert(setting.page.key(), setting.page.defaultValue().toInt());
+    }
+    const auto flat = [&defaults](const auto &keys) {
+        for (const conformance::Key &key : keys) {
+            QVERIFY2(defaults.value(key.name, -1) == key.flat, key.name);
+        }
+    };
+    flat(conformance::crossoverKeys);
+    flat(conformance::delayKeys);
+    for (const char *key : conformance::keptByFlat) {
+        QVERIFY2(defaults.contains(key), key);
+    }
+}
+
 void TestTables::crossoverFrequencies() {
     const auto equal = [](int channel, const int *unit, size_t count) {
         QCOMPARE(crossover::frequencyCount(channel), int(count));
@@ -220,10 +394,18 @@ void TestTables::crossoverFrequencies() {
     equal(crossover::Subwoofer, headunit::subwooferFrequencies.data(), headunit::subwooferFrequencies.size());
 }
 
-/// A slope is written in decibels per octave, of which each section of a filter makes six.
+/// A slope is written in decibels per octave, of which each order of the filter that sounds makes six.
 void TestTables::crossoverSlopes() {
     for (int slope = crossover::minSlope; slope <= crossover::maxSlope; ++slope) {
-        QCOMPARE(QString::fromLatin1(crossover::slopeRow(slope).label), QStringLiteral("%1 db").arg(6 * slope));
+        SoundState state;
+        for (CrossoverFilter *filter : {&state.front, &state.rear, &state.subwoofer}) {
+            filter->freq = 1;
+            filter->slope = slope;
+        }
+        for (const auto &sections : headunit::engine::designParameters(state).chain.crossover) {
+            QCOMPARE(QString::fromLatin1(crossover::slopeRow(slope).label),
+                     QStringLiteral("%1 db").arg(6 * filterOrder(sections)));
+        }
     }
 }
 

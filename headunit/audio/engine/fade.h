@@ -17,7 +17,7 @@ public:
     void restart() { m_position = 0; }
     void advance(size_t frames) { m_position += frames; }
     bool isOver() const { return m_position >= m_weights.size(); }
-    /// Of the frames to come.
+    /// Frames left.
     size_t remaining() const { return m_weights.size() - m_position; }
     /// Weight of each of the remaining frames; the last one is 1.
     const double *weights() const { return m_weights.data() + m_position; }

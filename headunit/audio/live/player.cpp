@@ -61,7 +61,7 @@ void Player::Desk::fill(float *samples, size_t frames) {
 /// Whether there is anything of a prompt: its own short sound, what programs of the desk play on it, or both.
 bool Player::fillPrompt(Input input, size_t frames) {
     const bool isPlayed = m_desk[input] && m_desk[input]->isActive();
-    if (m_wanted[input].exchange(false) || (m_active[input] && !isPlayed && m_chimes[input].isOver())) {
+    if (m_chimeWanted[input].exchange(false) || (m_active[input] && !isPlayed && m_chimes[input].isOver())) {
         m_chimes[input].restart();
     }
     const bool chimes = !m_chimes[input].isOver();

@@ -17,7 +17,7 @@
 namespace headunit {
 
 /// Everything that the unit plays, through the engine. fill() and fadeIn() belong to the audio thread, setState() to
-/// one other at a time, the rest to one other.
+/// one control thread at a time, all else to the creating thread.
 class Player {
 public:
     /// \a what is "music", "noise", "sweep", "loudspeakers", "silence", "desk" (what comes by deskInput()), or the name
@@ -28,7 +28,7 @@ public:
 
     void setState(const SoundState &state);
     /// Plays an input's own short sound; the main one has none. Prompts that are active play theirs again and again.
-    void chime(engine::Input input) { m_wanted[input] = true; }
+    void chime(engine::Input input) { m_chimeWanted[input] = true; }
 
     /// Where programs of the desk come in; null for an input that has none.
     DeskInput *deskInput(engine::Input input) { return m_desk[input].get(); }
@@ -64,8 +64,12 @@ private:
     std::array<std::unique_ptr<DeskInput>, engine::inputCount> m_desk;
     FileLoop::LossListener m_lossListener;
     std::variant<Silence, Desk, Music, PinkNoise, Sweep, LoudspeakerTone, FileLoop> m_source;
-    std::array<std::atomic<bool>, engine::inputCount> m_wanted{};
+    std::array<std::atomic<bool>, engine::inputCount> m_chimeWanted{};
     std::array<std::atomic<bool>, engine::inputCount> m_active{};
+    static_assert(engine::MainInput == 0 && engine::RingtoneInput == 1 && engine::PhoneInput == 2 &&
+                      engine::NavigationInput == 3 && engine::VoiceInput == 4 && engine::AnnouncementInput == 5 &&
+                      engine::BeepInput == 6 && engine::inputCount == 7,
+                  "a chime stands at its input's place");
     std::array<Chime, engine::inputCount> m_chimes = {Chime(engine::MainInput),  Chime(engine::RingtoneInput),
                                                       Chime(engine::PhoneInput), Chime(engine::NavigationInput),
                                                       Chime(engine::VoiceInput), Chime(engine::AnnouncementInput),

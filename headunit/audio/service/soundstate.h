@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "headunit/settings/audiokeys.h"
+
 #include <array>
 #include <tuple>
 
@@ -12,7 +14,9 @@ struct CrossoverFilter {
     int slope = 1;   ///< 1 to 3: 6, 12, 18 dB per octave
     int level = 12;  ///< 0 to 12: -12 to 0 dB
 
-    bool operator==(const CrossoverFilter &o) const { return freq == o.freq && slope == o.slope && level == o.level; }
+    /// Every member above, for comparison.
+    auto members() const { return std::tie(freq, slope, level); }
+    bool operator==(const CrossoverFilter &o) const { return members() == o.members(); }
     bool operator!=(const CrossoverFilter &o) const { return !(*this == o); }
 };
 
@@ -24,11 +28,11 @@ enum class Prompt { Ringtone, Phone, Navigation, Voice, Announcement, Beep };
 ///
 /// The services own the one instance; whoever makes the sound is handed a copy.
 struct SoundState {
-    static constexpr int bands = 13;
+    static constexpr int bands = keys::bands;
     static constexpr int channels = 8;
     static constexpr int sources = 7;
     static constexpr int prompts = 6;
-    static constexpr int outputs = 6;  ///< front left, front right, rear left, rear right, subwoofer left and right
+    static constexpr int outputs = keys::outputs;  ///< left and right of the front, the rear and the subwoofers
 
     int eqType = 0;                            ///< curve in force; 16 and above the custom one
     std::array<int, bands> customEq{};         ///< bands of the live custom curve, as sent: -12 to 24

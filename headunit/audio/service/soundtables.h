@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "headunit/settings/audiokeys.h"
+
 #include <array>
 
 namespace headunit {
@@ -11,8 +13,8 @@ constexpr std::array<int, 6> rearFrequencies = {0, 25, 40, 63, 100, 250};
 constexpr std::array<int, 6> subwooferFrequencies = {0, 25, 40, 63, 100, 250};
 
 /// Centre frequencies of the equaliser's bands in Hz.
-constexpr std::array<int, 13> bandFrequencies = {63,   100,  160,  250,  400,   630,  1000,
-                                                 1600, 2500, 4000, 6300, 10000, 16000};
+constexpr std::array<int, keys::bands> bandFrequencies = {63,   100,  160,  250,  400,   630,  1000,
+                                                          1600, 2500, 4000, 6300, 10000, 16000};
 
 /// Smallest and largest value of each quantity.
 struct Range {

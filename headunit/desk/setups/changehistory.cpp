@@ -4,6 +4,7 @@
 #include "headunit/desk/frame/deskhost.h"
 #include "headunit/desk/frame/desktext.h"
 #include "headunit/desk/frame/pages.h"
+#include "headunit/desk/setups/setupnumber.h"
 #include "headunit/desk/setups/setuptable.h"
 #include "headunit/desk/setups/soundjson.h"
 #include "headunit/settings/unitroot.h"

@@ -5,6 +5,7 @@
 #include "headunit/desk/frame/pages.h"
 #include "headunit/desk/setups/changehistory.h"
 #include "headunit/desk/setups/setupfile.h"
+#include "headunit/desk/setups/setupnumber.h"
 #include "headunit/desk/setups/setuptable.h"
 #include "headunit/desk/setups/soundjson.h"
 

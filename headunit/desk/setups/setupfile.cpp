@@ -2,6 +2,7 @@
 #include "headunit/desk/setups/setupfile.h"
 
 #include "headunit/desk/bridges/curvefile.h"
+#include "headunit/desk/setups/setupnumber.h"
 #include "headunit/desk/setups/setuptable.h"
 
 #include <QFile>
@@ -69,6 +70,12 @@ QStringList linesOf(const QByteArray &text, QString *problem) {
     return lines;
 }
 
+/// The present name of what version 1.0.0 called slot and stored.
+QString presentName(QString name) {
+    return name.replace(QLatin1String("slot"), QLatin1String("preset"))
+        .replace(QLatin1String(".stored"), QLatin1String(".saved"));
+}
+
 /// Takes one line between the first and the last.
 void takeLine(const QString &line, int number, QHash<QString, int> *seen, SetupFile *file) {
     static const QHash<QString, const SetupValue *> byName = [] {
@@ -87,16 +94,17 @@ void takeLine(const QString &line, int number, QHash<QString, int> *seen, SetupF
         file->problem = at(number, QStringLiteral("\"%1\" is not of the form name = value").arg(shortened(line)));
         return;
     }
-    const SetupValue *const value = byName.value(name);
+    const SetupValue *const value = byName.value(presentName(name));
     if (!value) {
         file->remarks << at(number, QStringLiteral("\"%1\" is not known here, left out").arg(shortened(name)));
         return;
     }
-    if (seen->contains(name)) {
-        file->problem = at(number, QStringLiteral("%1 stands in line %2 already").arg(name).arg(seen->value(name)));
+    if (seen->contains(value->name)) {
+        file->problem =
+            at(number, QStringLiteral("%1 stands in line %2 already").arg(name).arg(seen->value(value->name)));
         return;
     }
-    seen->insert(name, number);
+    seen->insert(value->name, number);
     const QString text = line.mid(equals + 1).trimmed();
     const SetupNumber parsed = parseSetupNumber(*value, text);
     if (!parsed.problem.isEmpty()) {

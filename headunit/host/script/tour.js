@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The tour: every screen, in each state worth seeing, and in each language where its texts differ. One picture each.
 
 // Time for a press to be seen, and longer than any guard against double taps.

@@ -172,7 +172,7 @@ private slots:
         for (int band = 0; band < 13; ++band) {
             QCOMPARE(recording::stored(QStringLiteral("eq%1").arg(band)), QVariant(band == 5 ? 20 : values[band]));
         }
-        // A slot keeps and recalls them as well.
+        // A preset keeps and recalls them as well.
         finger::hold(customKey(page, 2), 1500);
         QCOMPARE(recording::stored(presetKey(2, 0)), QVariant(32));
         recording::clear();

@@ -80,13 +80,13 @@ private slots:
         Audiosetting_right_eq_widget page(nullptr);
         show(&page);
         finger::hold(customKey(page, 0), longPress);
-        QCOMPARE(debugLines().filter("slot: 0 section: 0 value: 0").size(), 1);
+        QCOMPARE(debugLines().filter("preset: 0 section: 0 value: 0").size(), 1);
         finger::tap(reference::sliders(page)[4], at(20));
         finger::hold(customKey(page, 2), longPress);
-        QCOMPARE(debugLines().filter("slot: 2 section: 4 value: 20").size(), 1);
+        QCOMPARE(debugLines().filter("preset: 2 section: 4 value: 20").size(), 1);
         QVERIFY(QMetaObject::invokeMethod(&page, "save_eq_section_drag", Q_ARG(int, 6), Q_ARG(int, 9)));
         finger::hold(customKey(page, 1), longPress);
-        QCOMPARE(debugLines().filter("slot: 1 section: 6 value: 9").size(), 1);
+        QCOMPARE(debugLines().filter("preset: 1 section: 6 value: 9").size(), 1);
     }
 
     void storingAPresetMakesItTheLiveCurve() {
@@ -343,7 +343,7 @@ private slots:
         }
     }
 
-    void slotsAndBandsOutOfRangeAreIgnored() {
+    void presetsAndBandsOutOfRangeAreIgnored() {
         Audiosetting_right_eq_widget page(nullptr);
         for (int preset : {-1, 5, minimum, maximum}) {
             QCOMPARE(page.getCustomEqValue(0, preset), 0);

@@ -92,7 +92,9 @@ class RendererTest(unittest.TestCase):
         for value, expected in zip(data[data.index(b"PLTE") + 7:], (255, 128, 0)):
             self.assertAlmostEqual(value, expected, delta=1)
         lines = zlib.decompress(data[data.index(b"IDAT") + 4:])
-        self.assertEqual(lines[:9], bytes((0, 1, 1, 1, 1, 0, 0, 0, 0)))
+        # Two colours: a bit a pixel, eight a byte, after the byte that names the line's filter.
+        self.assertEqual(data[24], 1)
+        self.assertEqual(lines, bytes((0, 0b11110000)) * 4)
 
     def test_other_shape_than_the_source(self):
         self.assert_fails(self.render(KEY, "a/n,n,72,60"), str(KEY), "a/n", "72 x 60", "72 x 72")

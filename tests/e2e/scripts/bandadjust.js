@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The band-adjust panel: opened from the home screen, heard at once, closed by its back key.
 tap("tile_bandadjust");
 expect("bandadjust", "visible", true);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A call takes the screen in the middle of things.
 open("audiosetting");
 wait(200);

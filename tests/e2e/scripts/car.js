@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The rest of the car: sources and channels go round, levels stop at their ends.
 tap("tile_car");
 tap("car_source_next");

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The Crossover page by finger: screen, store and sound agree after every step, Flat included.
 import { use } from "./steps.js";
 

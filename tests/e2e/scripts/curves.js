@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The equaliser as it is heard on a new unit, whose main volume is 16 of 40 and whose subwoofer is off.
 import { hears } from "./steps.js";
 

@@ -1,4 +1,5 @@
-// After a restart the curve sounds before any page exists, and its slot is selected.
+// SPDX-License-Identifier: Apache-2.0
+// After a restart the curve sounds before any page exists, and its preset is selected.
 expect(sound().eqType === 16);
 expect(sound().customEq[0] === 0);
 expect(sound().customEq[1] === 14);

@@ -1,4 +1,5 @@
-// The equaliser: a preset, a change of it, stored in a slot; the next start plays and shows the same.
+// SPDX-License-Identifier: Apache-2.0
+// The equaliser: a curve, a change of it, saved in a preset; the next start plays and shows the same.
 import { settle, use } from "./steps.js";
 
 open("audiosetting");

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // After everypage_restarted.js and another restart: every page and the sound are those of the factory, but for the
 // volumes, which a reset sets to its own.
 import { settle, use } from "./steps.js";

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // After everypage_use.js and a restart: every page shows what was set, and the sound is what it was. Then all is reset.
 import { settle, use } from "./steps.js";
 

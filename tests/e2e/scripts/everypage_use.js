@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A driver works through every page. everypage_restarted.js finds it all again, and resets it.
 import { settle, use } from "./steps.js";
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The unit was switched off and on: filters and delays sound as they were left before any page is opened.
 function filter(channel) {
     var f = sound()[channel];

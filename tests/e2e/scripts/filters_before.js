@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Leaves filters and delays that are unlike the factory's; filters_after.js finds them again.
 import { use } from "./steps.js";
 

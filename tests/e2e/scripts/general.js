@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The General page by finger: screen, store and sound agree after every step.
 import { use } from "./steps.js";
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The keys beside the screen.
 tap("hardkey_volume_up");
 expect("level_overlay", "visible", true);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // A finger that rests on something while another application's request takes the page away.
 import { settle } from "./steps.js";
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The language changes while everything is running.
 var titles = {en: "General", de: "Allgemein", fr: "Général", es: "General", ja: "全般"};
 

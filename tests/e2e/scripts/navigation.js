@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Every way between the pages, and out.
 import { settle, use } from "./steps.js";
 

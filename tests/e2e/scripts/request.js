@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Another application asks for Volume Settings.
 // At the very first opening.
 import { settle, use } from "./steps.js";

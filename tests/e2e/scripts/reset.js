@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Everything is changed, then reset: screen, store and sound are those of the factory.
 import { settle, use } from "./steps.js";
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The unit was switched off and on: everything is as it was left, before any page was opened, and on the page.
 expect(sound().subwooferLevel === 5);
 expect(sound().subwooferPhase === 1);

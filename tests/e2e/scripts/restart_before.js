@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Leaves a unit that is unlike the factory's; restart_after.js finds it again.
 import { settle, use } from "./steps.js";
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Every key and slider of the band-adjust panel, by finger, heard at the loudspeakers.
 import { curves, flat, hearsCurve } from "./curves.js";
 import { settle, use } from "./steps.js";

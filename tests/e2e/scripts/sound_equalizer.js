@@ -1,4 +1,5 @@
-// Every band of the equaliser, every factory curve, every slot and Flat, by finger, heard at the loudspeakers.
+// SPDX-License-Identifier: Apache-2.0
+// Every band of the equaliser, every factory curve, every preset and Flat, by finger, heard at the loudspeakers.
 import { bands, curves, flat, hearsCurve } from "./curves.js";
 import { settle, use } from "./steps.js";
 
@@ -44,8 +45,8 @@ bands.forEach(function (hz, band) {
     hearsCurve("key below " + hz + " Hz", gains);
 });
 
-// Each slot keeps a curve of its own; Flat and back.
-var slots = [1, 2, 3, 4, 5].map(function (number) {
+// Each preset keeps a curve of its own; Flat and back.
+var presets = [1, 2, 3, 4, 5].map(function (number) {
     use(177 + 68 * number, 156);
     ++gains[number];
     wait(400);
@@ -57,10 +58,10 @@ var slots = [1, 2, 3, 4, 5].map(function (number) {
 use("Audiosetting_right_eq_widget/key_flat");
 wait(400);
 hearsCurve("Flat", flat());
-slots.forEach(function (kept, i) {
+presets.forEach(function (kept, i) {
     use("key_custom" + (i + 1));
     wait(400);
-    hearsCurve("slot " + (i + 1), kept);
+    hearsCurve("preset " + (i + 1), kept);
 });
 
 // Defeat

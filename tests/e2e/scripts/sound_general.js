@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Every control of the General page and Loudness, by finger, heard at the loudspeakers.
 import { hears, settle, use } from "./steps.js";
 

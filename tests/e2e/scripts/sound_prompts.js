@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Prompts beside the source that plays, begun and ended on the Car screen, heard at the loudspeakers.
 import { hears, settle, use } from "./steps.js";
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Every volume, every source gain and the reset, by finger, heard at the loudspeakers.
 import { hears, settle, use } from "./steps.js";
 

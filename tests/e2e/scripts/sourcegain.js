@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Gains of the sources, and that they are the sound's again after the page was left.
 import { settle, use } from "./steps.js";
 

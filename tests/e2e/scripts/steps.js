@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The common parts of the scripts.
 
 // Lets a touch come to its end: longer than a key blinks, and than the tabs ignore a second tap.

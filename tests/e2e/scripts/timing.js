@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // The Timing page by finger: screen, store and sound agree after every step. The page sends nothing on Flat, the unit
 // does.
 import { use } from "./steps.js";

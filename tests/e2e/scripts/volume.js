@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: Apache-2.0
 // Levels changed on the page, by the keys beside the screen, and by another application.
 import { settle, use } from "./steps.js";
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "headunit/desk/setups/setupfile.h"
 
+#include "headunit/desk/setups/setupnumber.h"
 #include "headunit/desk/setups/setuptable.h"
 #include "headunit/settings/factoryfile.h"
 
@@ -30,6 +31,7 @@ private Q_SLOTS:
     void clampedWithALine_data();
     void clampedWithALine();
     void unknownIsLeftOut();
+    void namesOfTheFirstVersion();
     void refused_data();
     void refused();
     void everyCutIsRefused();
@@ -106,7 +108,7 @@ void TestSetupFile::looksAsDocumented() {
     const QString text = QString::fromUtf8(setupText(settings));
     for (const char *line : {"crossover.front.frequency = 63 Hz", "crossover.front.slope = 12 dB/oct",
                              "crossover.front.level = -2 dB", "delay.front_left = 0.5 ms", "equaliser.live.63 = +3 dB",
-                             "general.loudness = on", "subwoofer.phase = 180 deg", "equaliser.slot1.63 = +3 dB",
+                             "general.loudness = on", "subwoofer.phase = 180 deg", "equaliser.preset1.63 = +3 dB",
                              "crossover.rear.frequency = off", "volume.main = 16 steps"}) {
         QVERIFY2(text.contains(QString("\n%1\n").arg(line)), line);
     }
@@ -167,6 +169,25 @@ void TestSetupFile::unknownIsLeftOut() {
     QCOMPARE(read.problem, QString());
     QCOMPARE(read.values, (SettingsMap{{"subwooferLevel", 4}}));
     QCOMPARE(read.remarks, QStringList{"line 2: \"colour\" is not known here, left out"});
+}
+
+/// Version 1.0.0 called a preset of the equaliser a slot, and one that is saved stored.
+void TestSetupFile::namesOfTheFirstVersion() {
+    const SetupFile read =
+        parseSetup(file("equaliser.slot1.63 = +3 dB\nequaliser.slot5.stored = on\n"
+                        "equaliser.last_slot = 3\nequaliser.highlighted_slot = 2\n"
+                        "crossover.preset1.stored = on\ndelay.preset2.stored = on"));
+    QCOMPARE(read.problem, QString());
+    QCOMPARE(read.remarks, QStringList());
+    QCOMPARE(read.values, (SettingsMap{{"customeq1_0", 9},
+                                       {"EqPresetSwitch4", true},
+                                       {"custom_eq_type_id", 3},
+                                       {"HIGHLIGHT_PRESET_ID", 2},
+                                       {"crossover/PRESET_SWITCH0", true},
+                                       {"timing/PRESET_ENABLE1", true}}));
+    QCOMPARE(parseSetup(file("equaliser.last_slot = 3\nequaliser.last_preset = 3")).problem,
+             QString("line 3: equaliser.last_preset stands in line 2 already"));
+    QCOMPARE(parseSetup(file("slot = 3")).remarks, QStringList{"line 2: \"slot\" is not known here, left out"});
 }
 
 void TestSetupFile::refused_data() {
