@@ -156,8 +156,9 @@ void SliderBarWidget::moveTo(int level) {
     const QRect before = knobRect();
     m_level = level;
     m_currentPoint = level2Point(level);
-    // Above and below the knob's way nothing changes.
-    update(before | knobRect());
+    // Above and below the knob's way nothing changes. A pixel more on each side: on a display of density 1.5 the knob
+    // ends in the middle of one.
+    update((before | knobRect()).adjusted(0, -1, 0, 1));
 }
 
 // Painting --------------------------------------------------------------------------------------------------------
