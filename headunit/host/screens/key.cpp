@@ -15,6 +15,7 @@ namespace {
 constexpr int barWidth = 48;
 constexpr int barHeight = 4;
 constexpr int barInset = 8;
+constexpr int textInset = 2;             ///< the edge's own width: a longer caption is cut
 constexpr int captionBelowPicture = 64;  ///< height at the foot of a key for the text below its picture
 }  // namespace
 
@@ -82,7 +83,7 @@ void Key::paintEvent(QPaintEvent *) {
                          : isDown() ? colour::text
                                     : colour::accent);
     }
-    QRect textArea = rect().adjusted(barInset, 0, -barInset, 0);
+    QRect textArea = rect().adjusted(textInset, 0, -textInset, 0);
     if (!m_picture.isEmpty()) {
         QRect area = rect();
         if (!caption().isEmpty()) {
