@@ -33,9 +33,10 @@ double decibelsOf(const Sections &sections, double hz) {
 class Target {
 public:
     explicit Target(const std::function<double(double)> &wanted) {
-        for (double hz = lowestFitHz; hz <= highestFitHz; hz *= std::exp2(1 / pointsPerOctave)) {
-            m_hz.push_back(hz);
-            m_wanted.push_back(wanted(hz));
+        const int points = static_cast<int>(pointsPerOctave * std::log2(highestFitHz / lowestFitHz)) + 1;
+        for (int i = 0; i < points; ++i) {
+            m_hz.push_back(lowestFitHz * std::exp2(i / pointsPerOctave));
+            m_wanted.push_back(wanted(m_hz.back()));
         }
     }
     BandFit compare(const engine::Curve &gains) const {

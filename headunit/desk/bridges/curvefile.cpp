@@ -133,7 +133,7 @@ QString writeResponses(const QString &path, const SoundState &state) {
                      responseText(name, points, part));
     };
     for (size_t output = 0; output < engine::outputCount; ++output) {
-        const QString problem =
+        QString problem =
             save(outputNames[output], [output](const engine::MeasuredPoint &point) { return point.outputs[output]; });
         if (!problem.isEmpty()) {
             return problem;
