@@ -17,7 +17,7 @@ QPixmap read(const QString &path) {
     const QString key = QStringLiteral("headunit/picture/") + path;
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
-        if (path.endsWith(QLatin1String(".png"))) {
+        if (path.endsWith(QLatin1String(".png")) && QFile::exists(path)) {
             // With the format given, Qt does not ask each of its plug-ins first: that takes as long as a small picture.
             QImageReader reader(path, "png");
             reader.setAutoDetectImageFormat(false);

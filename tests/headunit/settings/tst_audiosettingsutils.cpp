@@ -187,6 +187,7 @@ void tst_AudioSettingsUtils::defeat() {
 }
 
 void tst_AudioSettingsUtils::clear() {
+    restart();  // the unit's own factory file is there, and would come later otherwise
     writeFactory("subwooferLevel=6\n[crossover]\nrearfreq=2\n");
     restart();
     m_settings->setValue("subwooferLevel", 3, 12, true);
