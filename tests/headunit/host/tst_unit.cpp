@@ -68,6 +68,7 @@ private Q_SLOTS:
     void backKey();
     void homeKey();
     void statusBarFollowsTheApplication();
+    void statusBarEndsInALine();
     void sources();
     void languages();
     void shutsDown();
@@ -528,6 +529,14 @@ void TestUnit::statusBarFollowsTheApplication() {
     QVERIFY(!shows("status_bar"));
     m_unit->touch(Qx::TouchBack);
     QVERIFY(shows("status_bar"));
+}
+
+void TestUnit::statusBarEndsInALine() {
+    const QImage bar = child("status_bar")->grab().toImage();
+    for (int x = 0; x < bar.width(); ++x) {
+        QCOMPARE(bar.pixelColor(x, bar.height() - 1), headunit::colour::hairline);
+        QVERIFY(bar.pixelColor(x, bar.height() - 2) != headunit::colour::hairline);
+    }
 }
 
 void TestUnit::sources() {
