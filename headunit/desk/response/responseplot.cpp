@@ -263,12 +263,12 @@ void ResponsePlot::drawItems(QPainter *painter, const QRectF &canvas, const QwtS
 
 bool ResponsePlot::eventFilter(QObject *watched, QEvent *event) {
     if (watched == canvas()) {
-        const auto *const mouse = static_cast<const QMouseEvent *>(event);
         if (event->type() == QEvent::MouseMove) {
-            const double hz = invTransform(xBottom, mouse->x());
+            const double hz = invTransform(xBottom, static_cast<const QMouseEvent *>(event)->x());
             const QwtInterval shown = axisInterval(xBottom);
             Q_EMIT pointedAt(qBound(shown.minValue(), hz, shown.maxValue()));
-        } else if (event->type() == QEvent::MouseButtonRelease && mouse->button() == Qt::RightButton) {
+        } else if (event->type() == QEvent::MouseButtonRelease &&
+                   static_cast<const QMouseEvent *>(event)->button() == Qt::RightButton) {
             zoomBack();
         }
     }
