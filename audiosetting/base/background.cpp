@@ -52,20 +52,29 @@ void Background::paintEvent(QPaintEvent *event) {
 }
 
 QPixmap backgroundBehind(const QWidget *widget) {
+    // The background holds the widget, or lies behind it beside one of the widgets that do.
     const QWidget *ancestor = widget->parentWidget();
-    while (ancestor && !qobject_cast<const Background *>(ancestor)) {
+    const Background *found = nullptr;
+    QPoint position = widget->pos();
+    while (ancestor && !(found = qobject_cast<const Background *>(ancestor))) {
+        found = ancestor->findChild<Background *>(QString(), Qt::FindDirectChildrenOnly);
+        if (found) {
+            position -= found->pos();
+            break;
+        }
+        position += ancestor->pos();
         ancestor = ancestor->parentWidget();
     }
-    if (!ancestor) {
+    if (!found) {
         return QPixmap();
     }
-    const QRect place(widget->mapTo(ancestor, QPoint()), widget->size());
+    const QRect place(position, widget->size());
     const qreal ratio = displayDensity();
     QImage background(place.size() * ratio, QImage::Format_RGB32);
     background.setDevicePixelRatio(ratio);
     QPainter painter(&background);
     painter.translate(-place.topLeft());
-    static_cast<const Background *>(ancestor)->paintBackground(&painter, place);
+    found->paintBackground(&painter, place);
     painter.end();
     return QPixmap::fromImage(background);
 }

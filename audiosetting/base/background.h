@@ -22,7 +22,8 @@ private:
     QPixmap m_columns;  ///< a strip of the screen's height, repeated from left to right
 };
 
-/// The part of the background that lies behind \a widget, in the widget's density; null where no Background holds it.
+/// The part of the background that lies behind \a widget, in the widget's density; null where no Background
+/// holds it or lies behind it.
 ///
 /// A widget that changes often draws it first and declares itself opaque: Qt then leaves everything behind it
 /// unpainted, which is most of the cost of a small change.

@@ -88,6 +88,7 @@ void CarScreen::addPrompts() {
         const Prompt prompt = static_cast<Prompt>(i);
         Key *key = new Key(QStringLiteral("car_prompt_") + promptName(prompt),
                            cell(PromptRow, look::margin, SoundState::prompts, i), this);
+        key->setFont(look::font(look::narrowKeyPixels));
         key->setTextId(texts::prompts[i]);
         key->setCheckable(true);
         connect(key, &Key::clicked, this, [this, prompt] { Q_EMIT promptToggled(prompt); });

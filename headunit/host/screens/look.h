@@ -18,9 +18,10 @@ namespace look {
 constexpr int screenWidth = 1024;
 constexpr int screenHeight = 600;
 
-constexpr int valuePixels = 32;    ///< numbers that are read at a glance
-constexpr int captionPixels = 24;  ///< everything else
-constexpr int keySize = 80;        ///< smallest touch target
+constexpr int valuePixels = 32;      ///< numbers that are read at a glance
+constexpr int narrowKeyPixels = 21;  ///< keys of a row of six, which must hold the longest prompt's name
+constexpr int captionPixels = 24;    ///< everything else
+constexpr int keySize = 80;          ///< smallest touch target
 constexpr int margin = 32;
 constexpr int gap = 12;
 

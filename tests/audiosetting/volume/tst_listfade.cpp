@@ -12,14 +12,19 @@ using audiosetting::ListFade;
 class tst_ListFade : public PageTest {
     Q_OBJECT
 
+    /// As in the plug-in: the background lies behind the page, beside it.
     struct Page {
-        audiosetting::Background background;
-        Audiovolumsettings page{&background};
+        QWidget screen;
+        audiosetting::Background background{&screen};
+        QWidget holder{&screen};
+        Audiovolumsettings page{&holder};
         QScrollBar *bar = sliderpage::scrollBar(&page);
 
         Page() {
-            background.resize(1024, 600);
-            show(&background);
+            for (QWidget *widget : {&screen, static_cast<QWidget *>(&background), &holder}) {
+                widget->resize(1024, 600);
+            }
+            show(&screen);
             advance(1000);
         }
         /// Made in this order.
@@ -27,7 +32,7 @@ class tst_ListFade : public PageTest {
         QString shown() {
             return QString(fade(true).isVisible() ? "top " : "") + (fade(false).isVisible() ? "bottom" : "");
         }
-        QImage seen() { return background.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+        QImage seen() { return screen.grab().toImage().convertToFormat(QImage::Format_RGB32); }
     };
 
 private slots:
@@ -61,7 +66,7 @@ private slots:
         list.bar->setValue(list.bar->maximum() / 2);
         advance(1000);
         const QImage with = list.seen();
-        const QRect area(list.fade(true).mapTo(&list.background, QPoint()), list.fade(true).size());
+        const QRect area(list.fade(true).mapTo(&list.screen, QPoint()), list.fade(true).size());
         list.fade(true).hide();
         const QImage without = list.seen();
         QImage empty;
