@@ -56,7 +56,7 @@ int main(int argc, char **argv) {
     bool saved = shoot(unit, sound, folder, QStringLiteral("rest"));
     const QString setups = unit.root.filePath(QStringLiteral("desk/setups"));
     QDir().mkpath(setups);
-    headunit::writeSetup(setups + QStringLiteral("/flat.txt"), headunit::SettingsMap());
+    headunit::writeSetup(setups + QStringLiteral("/flat.txt"), headunit::audioStore().values());
     unit.closeDesk();
     auto *const names = unit.openDesk()->panel(QStringLiteral("setups"))->findChild<QListWidget *>();
     names->setCurrentRow(0);
